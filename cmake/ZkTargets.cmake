@@ -1,0 +1,33 @@
+# Shared rules of our own targets: warnings, sanitizers, one include root per target.
+
+add_library(zk_options INTERFACE)
+target_compile_options(zk_options INTERFACE -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Werror)
+target_compile_definitions(zk_options INTERFACE QT_NO_CAST_TO_ASCII QT_NO_KEYWORDS QT_DISABLE_DEPRECATED_BEFORE=0x060400)
+if(ZK_SANITIZE)
+  target_compile_options(zk_options INTERFACE -fsanitize=${ZK_SANITIZE} -fno-omit-frame-pointer -fno-sanitize-recover=all)
+  target_link_options(zk_options INTERFACE -fsanitize=${ZK_SANITIZE})
+endif()
+target_link_options(zk_options INTERFACE -Wl,--no-undefined)
+
+# zk_include_root(<target> <folder relative to the source tree>...)
+# Gives the target an include root of its own that shows only the named folders, so that an include of a folder
+# which the target may not use does not compile. Files are included from the root: "zkcore/values/value.h".
+function(zk_include_root target)
+  set(root ${CMAKE_BINARY_DIR}/roots/${target})
+  foreach(folder IN LISTS ARGN)
+    get_filename_component(parent ${root}/${folder} DIRECTORY)
+    file(MAKE_DIRECTORY ${parent})
+    file(CREATE_LINK ${CMAKE_SOURCE_DIR}/${folder} ${root}/${folder} SYMBOLIC)
+  endforeach()
+  target_include_directories(${target} PUBLIC ${root})
+endfunction()
+
+# zk_sources(<variable> <folder>...) collects the sources and headers of folders.
+function(zk_sources variable)
+  set(found)
+  foreach(folder IN LISTS ARGN)
+    file(GLOB files CONFIGURE_DEPENDS ${folder}/*.cpp ${folder}/*.h)
+    list(APPEND found ${files})
+  endforeach()
+  set(${variable} ${found} PARENT_SCOPE)
+endfunction()

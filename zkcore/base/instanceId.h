@@ -1,0 +1,4 @@
+#pragma once
+
+/// Names a node within its document, kept across saving, loading, undo and redo. 0 names nothing.
+using InstanceId = unsigned int;

@@ -1,0 +1,169 @@
+#pragma once
+
+#include "zkcore/base/export.h"
+#include "zkcore/media/resource.h"
+#include "zkcore/model/elementImpl.h"
+#include "zkcore/model/handles.h"
+#include "zkcore/model/modelImpl.h"
+#include "zkcore/model/nodeDb.h"
+#include "zkcore/model/partsTreeStructure.h"
+#include "zkcore/model/propertyAddress.h"
+#include "zkcore/model/spaceImpl.h"
+#include "zkcore/values/value.h"
+
+#include <QObject>
+#include <QUrl>
+#include <functional>
+#include <memory>
+#include <vector>
+
+class Command;
+class ChangeSet;
+class ModelMutator;
+class QUndoStack;
+struct NodeSnapshot;
+
+/// A document: its nodes, classes, own resources, selection, and the history of what was done to it.
+/// Everything is changed through commands; every notification is synchronous.
+class ZKCORE_EXPORT DocumentImpl : public QObject {
+    Q_OBJECT
+
+public:
+    /// A new document with one empty scene; knows the classes of all packages loaded so far.
+    explicit DocumentImpl(QObject* parent = nullptr);
+    ~DocumentImpl() override;
+
+    // Contents
+    ModelImpl* getModel() const { return m_model; }
+    NodeDb* getNodeDb() const { return m_nodeDb; }
+    /// Null when no live node has the id. Constant time.
+    NodeImpl* nodeById(InstanceId id) const;
+    /// The property made if need be; null when the node or the property is absent.
+    PropertyImpl* propertyAt(const PropertyAddress& address) const;
+    /// Nodes alive, the root included.
+    size_t nodeCount() const { return m_nodeCount; }
+
+    /// The element with that "id" value; null when there is none (the first made of several).
+    NodeImpl* nodeWithId(const QString& id) const;
+    /// The first free id that begins with the prefix.
+    QString freeId(const QString& prefix) const;
+
+    /// What people call a class ("LED"), translated; empty when the class says nothing or is unknown.
+    QString getMetaLabelForCID(const ClassId& cid) const;
+    /// The class's icon; null resource when it has none.
+    Resource getMetaIconForCID(const ClassId& cid) const;
+    PartsTreeStructure getPartsTreeStructure() const;
+    /// Makes a new class from a part of this document (its class becomes the base, its values the defaults, its subparts the
+    /// new class's) under the label, writes it into the user's package folder, so that it is there in later runs, and adds it
+    /// to the node data base. False, with a warning, when the id is taken or names no domain, or the package cannot be
+    /// written.
+    bool addCustomPartDefinition(unsigned int cid, PartImpl* part, const QString& label);
+
+    // Selection
+    ElementImplSet getSelection() const { return m_selection; }
+    /// Emits SelectionChanged() when it differs. Elements of other documents and dead pointers are left out.
+    void setSelection(const ElementImplSet& elements);
+
+    // Commands and undo
+    /// Takes ownership, runs the command, records it for undo and returns its value; an invalid value when it failed. A
+    /// command that changed nothing leaves no undo step; one that failed leaves the document as it was.
+    Value executeCommand(Command* command);
+    /// Why the last command failed, translated; empty when it did not.
+    QString lastError() const { return m_lastError; }
+    void undo();
+    void redo();
+    bool canUndo() const;
+    bool canRedo() const;
+    QString undoText() const;
+    QString redoText() const;
+    /// For undo actions and history views; steps are added by executeCommand only, and undo and redo go through undo() and
+    /// redo() of the document.
+    QUndoStack* undoStack() const { return m_undoStack; }
+    /// Greatest number of steps kept; 0 means all. Takes effect at once.
+    void setUndoLimit(int steps);
+    bool isUndoRedoActive() const { return m_undoRedoActive; }
+    /// Called with every command executed, after it ran; and with null and the word "undo" or "redo". For session logs.
+    using CommandListener = std::function<void(const Command*, const QString&)>;
+    void setCommandListener(CommandListener listener);
+
+    /// Whether the document differs from what was last loaded or saved.
+    bool isModified() const;
+
+    // File
+    /// The document as a resource of type DATA named by its file name; null resource before it was saved.
+    Resource getResource() const;
+    /// The file; invalid before the document was loaded or saved.
+    QUrl getUrl() const { return m_url; }
+    /// Replaces the whole content by the file's. On failure the document stays as it was, and lastError() says what is wrong
+    /// and where (file, line, column). Emits Loaded() on success.
+    bool load(const QString& fileName);
+    /// Writes the file; the old one stays when anything fails (lastError()). Emits saved().
+    bool save(const QString& fileName);
+    /// What was kept but not understood while loading (unknown classes, values out of range), one sentence each.
+    QStringList loadWarnings() const { return m_loadWarnings; }
+
+    // The document's own resources
+    /// The document's resource of that name, else the packages'.
+    Resource resource(const QString& name) const;
+    std::vector<Resource> localResources() const;
+
+Q_SIGNALS:
+    void SelectionChanged();
+    /// After loading, and at the end of each undo or redo.
+    void Loaded();
+    void undoRedoStarted();
+    void ElementAdded(Element);
+    void ElementRemoved(Element);
+    void SceneAdded(Scene);
+    void SceneRemoved(Scene);
+    void PopupAdded(Popup);
+    void PopupRemoved(Popup);
+
+    /// After a property of any node changed, whether or not its property object exists. For views.
+    void nodeValueChanged(NodeImpl*, PropertyKey);
+    void modifiedChanged(bool);
+    /// The texts or availability of undo and redo changed.
+    void undoStateChanged();
+    void resourcesChanged();
+    void saved();
+
+private:
+    friend class ModelMutator;
+    friend class NodeImpl;
+    friend class NodeFactory;
+    friend class UndoStep;
+
+    class IdTable;
+    class TextIdRegistry;
+
+    void recordChanges(std::unique_ptr<ChangeSet> changes, const Command& command);
+    void runUndoRedo(bool undo);
+    void updateModified();
+    std::shared_ptr<const std::vector<InstanceId>> selectionIds() const;
+    void restoreSelection(const std::vector<InstanceId>& ids);
+    void replaceContent(NodeSnapshot&& root, InstanceId nextId);
+    void dropFromSelection(ElementImpl* element);
+
+    NodeDb* m_nodeDb;
+    ModelImpl* m_model = nullptr;
+    QUndoStack* m_undoStack;
+    std::unique_ptr<IdTable> m_ids;
+    std::unique_ptr<TextIdRegistry> m_textIds;
+    QHash<InstanceId, std::vector<InstanceId>> m_reflections; // original to reflections
+    QHash<QString, std::shared_ptr<const ResourceEntry>> m_resources;
+    QStringList m_resourceOrder;
+    ElementImplSet m_selection;
+    mutable std::shared_ptr<const std::vector<InstanceId>> m_selectionIds;
+    CommandListener m_commandListener;
+    QString m_lastError;
+    QStringList m_loadWarnings;
+    QUrl m_url;
+    size_t m_nodeCount = 0;
+    InstanceId m_nextId = 1;
+    int m_commandDepth = 0;
+    bool m_undoRedoActive = false;
+    bool m_unrecordedChange = false;
+    bool m_wasModified = false;
+    bool m_openStepPending = false;
+    bool m_selectionDirty = false;
+};

@@ -1,0 +1,6 @@
+#pragma once
+
+/// What a lock keeps the user from changing. A lock of PropertyValues implies the others.
+enum LockGroup { LockPosition = 0, LockSize = 1, LockOrientation = 2, LockPropertyValues = 3 };
+
+constexpr int lockGroupCount = 4;

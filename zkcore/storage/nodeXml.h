@@ -1,0 +1,18 @@
+#pragma once
+
+#include "zkcore/base/export.h"
+#include "zkcore/model/nodeSnapshot.h"
+
+class NodeDb;
+class QXmlStreamReader;
+class QXmlStreamWriter;
+
+/// Nodes as XML, the same in documents, fragments and recorded commands.
+class ZKCORE_EXPORT NodeXml {
+public:
+    static void write(QXmlStreamWriter& writer, const NodeImpl& node);
+    static void write(QXmlStreamWriter& writer, const NodeSnapshot& node, const NodeDb& db);
+    /// The reader stands on the start of a node element and is left on its end. Raises an error on the reader when the
+    /// content is faulty.
+    static bool read(QXmlStreamReader& reader, NodeDb& db, NodeSnapshot& node, QStringList& warnings);
+};

@@ -1,0 +1,12 @@
+#pragma once
+
+#include "zkcore/base/export.h"
+
+#include <QDomNode>
+#include <QString>
+
+class ZKCORE_EXPORT XMLUtils {
+public:
+    /// The first direct child element of that tag name; a null node when there is none.
+    static QDomNode findChildWithName(const QDomNode& node, const QString& name);
+};

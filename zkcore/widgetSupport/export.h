@@ -1,0 +1,9 @@
+#pragma once
+
+#include <QtGlobal>
+
+#ifdef ZKWIDGETSUPPORT_BUILD
+#define ZKWIDGETSUPPORT_EXPORT Q_DECL_EXPORT
+#else
+#define ZKWIDGETSUPPORT_EXPORT Q_DECL_IMPORT
+#endif
