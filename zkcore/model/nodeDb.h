@@ -10,7 +10,8 @@
 #include <vector>
 
 /// The node classes that a document knows: one prototype per class id.
-class ZKCORE_EXPORT NodeDb : public QObject {
+class ZKCORE_EXPORT NodeDb : public QObject
+{
     Q_OBJECT
 
 public:
@@ -21,11 +22,12 @@ public:
     const NodePrototype* lookupPrototype(const ClassId& cid) const;
     bool hasPrototype(const ClassId& cid) const { return lookupPrototype(cid) != nullptr; }
 
-    /// Adds a class and emits prototypeAdded(). A class whose id is taken is refused (returns false), unless the one there
-    /// is a placeholder that no node uses any more.
+    /// Adds a class, fills its `bases` and emits prototypeAdded(). A class whose id is taken is refused (returns
+    /// false), unless the one there is a placeholder that no node uses any more.
     bool addPrototype(std::shared_ptr<NodePrototype> prototype);
-    /// The prototype, or a placeholder for an unknown class, made from core/part, core/subpart, core/scene or core/popup
-    /// according to the kind.
+    /// The prototype, or a placeholder for an unknown class, made from core/part, core/subpart, core/scene or
+    /// core/popup according to the kind: it has their properties and, as its label, the text of the class id.
+    /// Placeholders are not announced with prototypeAdded().
     const NodePrototype* prototypeOrPlaceholder(ClassId cid, NodeKind kind);
 
     /// All classes in the order in which they were added.
@@ -37,6 +39,11 @@ Q_SIGNALS:
     void prototypeAdded(unsigned int cid);
 
 private:
+    bool isInUse(ClassId cid) const;
+    void insert(std::shared_ptr<NodePrototype> prototype);
+
     QHash<ClassId, std::shared_ptr<NodePrototype>> m_prototypes;
     std::vector<ClassId> m_order;
+    std::vector<ClassId> m_domains;
+    std::vector<std::shared_ptr<NodePrototype>> m_retired; // replaced placeholders; they live as long as promised
 };

@@ -34,7 +34,8 @@ struct SubpartRule
 
 /// A node class: what a package says about one kind of node. Immutable once it stands in a NodeDb; properties of the
 /// base classes are already merged in.
-class ZKCORE_EXPORT NodePrototype {
+class ZKCORE_EXPORT NodePrototype
+{
 public:
     ClassId cid = INVALID_CID;
     /// INVALID_CID for a class without a base.
@@ -63,19 +64,23 @@ public:
 
     /// Adds a property, or replaces the one with the same key (of a base class) in its place.
     void addProperty(PropertyDefinition definition);
+    /// Adds the properties that show label, group, key stage and icon ("meta-label", ...) to forms and dialogs, or
+    /// renews them. For whoever makes a class, after the members are set.
+    void addMetaProperties();
     const std::vector<PropertyDefinition>& properties() const { return m_properties; }
     /// -1 when there is no such property.
     int indexOf(PropertyKey key) const;
     /// Null when there is no such property.
     const PropertyDefinition* find(PropertyKey key) const;
 
-    /// Whether the class is `other` or has it among its bases. A domain's id ("electronics/*") holds for every class of the
-    /// domain.
+    /// Whether the class is `other` or has it among its bases. A domain's id ("electronics/*") holds for every class of
+    /// the domain.
     bool instanceOf(ClassId other) const;
     /// All base classes, nearest first; filled when the prototype enters a NodeDb.
     std::vector<ClassId> bases;
 
-    /// Whether one more subpart of the class may be added to a node that has `present` subparts of the rule's role.
+    /// The rule under which subparts of the class may be added; null when they may not. A rule for a domain
+    /// ("electronics/*") holds for all classes of the domain.
     const SubpartRule* ruleFor(ClassId subpart) const;
 
 private:
