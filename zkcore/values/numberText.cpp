@@ -1,0 +1,110 @@
+#include "zkcore/values/numberText.h"
+
+#include "zkcore/values/value.h"
+
+#include <array>
+#include <charconv>
+#include <cmath>
+#include <limits>
+
+namespace {
+
+constexpr int automaticDecimals = 6;
+
+/// std::from_chars over a text. Numbers longer than the buffer are no numbers that anybody writes.
+template <typename T> std::optional<T> fromCharacters(QStringView text)
+{
+    text = text.trimmed();
+    if (text.startsWith(u'+')) {
+        text = text.sliced(1);
+        if (text.startsWith(u'-'))
+            return std::nullopt;
+    }
+    std::array<char, 400> buffer;
+    if (text.isEmpty() || text.size() > static_cast<qsizetype>(buffer.size()))
+        return std::nullopt;
+    char* end = buffer.data();
+    for (const QChar c : text) {
+        if (c.unicode() > 0x7f)
+            return std::nullopt;
+        *end++ = static_cast<char>(c.unicode());
+    }
+    T number{};
+    const auto [rest, error] = std::from_chars(buffer.data(), end, number);
+    if (error != std::errc() || rest != end)
+        return std::nullopt;
+    return number;
+}
+
+} // namespace
+
+namespace numberText {
+
+void appendShortest(QString& text, double value)
+{
+    std::array<char, 32> buffer;
+    const auto result = std::to_chars(buffer.data(), buffer.data() + buffer.size(), value);
+    text.append(QLatin1String(buffer.data(), result.ptr));
+}
+
+void appendInt(QString& text, int value)
+{
+    std::array<char, 16> buffer;
+    const auto result = std::to_chars(buffer.data(), buffer.data() + buffer.size(), value);
+    text.append(QLatin1String(buffer.data(), result.ptr));
+}
+
+std::optional<double> parseDouble(QStringView text)
+{
+    const std::optional<double> number = fromCharacters<double>(text);
+    return number && std::isfinite(*number) ? number : std::nullopt;
+}
+
+std::optional<int> parseInt(QStringView text)
+{
+    return fromCharacters<int>(text);
+}
+
+int roundToInt(double value)
+{
+    if (std::isnan(value))
+        return 0;
+    const double rounded = std::floor(value + 0.5);
+    if (rounded <= std::numeric_limits<int>::min())
+        return std::numeric_limits<int>::min();
+    if (rounded >= std::numeric_limits<int>::max())
+        return std::numeric_limits<int>::max();
+    return static_cast<int>(rounded);
+}
+
+QString fixed(double value, int decimals)
+{
+    QString text = QString::number(value, 'f', decimals < 0 ? automaticDecimals : decimals);
+    if (decimals < 0 && text.contains(u'.')) {
+        while (text.endsWith(u'0'))
+            text.chop(1);
+        if (text.endsWith(u'.'))
+            text.chop(1);
+    }
+    if (text.startsWith(u'-') && text.indexOf(QLatin1Char('-')) == 0) {
+        bool isZero = true;
+        for (const QChar c : text)
+            isZero = isZero && (c == u'-' || c == u'.' || c == u'0');
+        if (isZero)
+            text.remove(0, 1);
+    }
+    text.replace(u'.', decimalPointCharacter());
+    return text;
+}
+
+std::optional<double> parseTyped(QStringView text)
+{
+    const QChar point = decimalPointCharacter();
+    if (point == u'.' || !text.contains(point))
+        return parseDouble(text);
+    if (text.contains(u'.'))
+        return std::nullopt;
+    return parseDouble(text.toString().replace(point, u'.'));
+}
+
+} // namespace numberText
