@@ -10,7 +10,8 @@ class Value;
 
 /// A unit of measure, converted with UDUNITS-2. Values are stored in SI units (metre, radian, ohm, second, volt, ...)
 /// and converted for display. Copied by value.
-class ZKCORE_EXPORT Unit {
+class ZKCORE_EXPORT Unit
+{
 public:
     /// The null unit: the value has no unit.
     Unit() = default;

@@ -9,11 +9,11 @@
 
 class ValidatorNotifier;
 
-
 namespace interface {
 
 /// Decides which values a property may take. One validator serves all nodes of a class and belongs to the class.
-class ZKCORE_EXPORT Validator {
+class ZKCORE_EXPORT Validator
+{
 public:
     Validator();
     virtual ~Validator();
@@ -47,7 +47,8 @@ private:
 } // namespace interface
 
 /// Allows the values of a list. fixup gives an invalid value.
-class ZKCORE_EXPORT SetValidator : public interface::Validator {
+class ZKCORE_EXPORT SetValidator : public interface::Validator
+{
 public:
     /// The list of allowed values: one of the list kinds of Value.
     explicit SetValidator(const Value& validValues);
@@ -67,7 +68,8 @@ private:
 
 /// Allows doubles from minimum to maximum, both included, never a NaN; DOUBLE values only, and POINT and list-of-double
 /// values whose every number is in range. fixup clamps; a NaN has no fixup.
-class ZKCORE_EXPORT DoubleValidator : public interface::Validator {
+class ZKCORE_EXPORT DoubleValidator : public interface::Validator
+{
 public:
     DoubleValidator() = default;
     DoubleValidator(double minimum, double maximum);
@@ -88,7 +90,8 @@ private:
 };
 
 /// Allows integers from minimum to maximum, both included; INT values only. fixup clamps.
-class ZKCORE_EXPORT IntValidator : public interface::Validator {
+class ZKCORE_EXPORT IntValidator : public interface::Validator
+{
 public:
     IntValidator() = default;
     IntValidator(int minimum, int maximum);
@@ -108,7 +111,8 @@ private:
 };
 
 /// Allows texts that as a whole match a regular expression. fixup trims white space where that is enough.
-class ZKCORE_EXPORT StringValidator : public interface::Validator {
+class ZKCORE_EXPORT StringValidator : public interface::Validator
+{
 public:
     StringValidator();
     ~StringValidator() override;
@@ -129,7 +133,8 @@ private:
 };
 
 /// Allows the resources of a list, each with a label.
-class ZKCORE_EXPORT ResourceValidator : public interface::Validator {
+class ZKCORE_EXPORT ResourceValidator : public interface::Validator
+{
 public:
     ResourceValidator(const std::vector<Resource>& resources, const std::vector<QString>& labels);
 
