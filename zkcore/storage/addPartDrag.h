@@ -9,7 +9,8 @@ class ElementImpl;
 class NodeDb;
 
 /// A drag of a part as an XML fragment.
-class ZKCORE_EXPORT AddPartDrag : public QDrag {
+class ZKCORE_EXPORT AddPartDrag : public QDrag
+{
     Q_OBJECT
 
 public:

@@ -8,7 +8,8 @@
 class DocumentImpl;
 
 /// Records what is done to a document as XML, and does it again to another.
-class ZKCORE_EXPORT CommandLog {
+class ZKCORE_EXPORT CommandLog
+{
 public:
     /// Records from now on (takes the document's command listener). The document must outlive the log.
     explicit CommandLog(DocumentImpl* document);
@@ -16,8 +17,8 @@ public:
 
     /// The session so far, a whole XML document.
     QByteArray toXML() const;
-    /// Does a recorded session to a document that stands where the recorded one began. False with the message (line, column,
-    /// reason) at the first entry that is faulty or fails; what was done before stays done.
+    /// Does a recorded session to a document that stands where the recorded one began. False with the message (line,
+    /// column, reason) at the first entry that is faulty or fails; what was done before stays done.
     static bool replay(const QByteArray& session, DocumentImpl* document, QString& error);
 
 private:

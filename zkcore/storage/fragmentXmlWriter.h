@@ -10,7 +10,8 @@ class ElementImpl;
 class NodeDb;
 
 /// Parts as an XML fragment for drags and the clipboard (MIME type fragmentMimeType()).
-class ZKCORE_EXPORT FragmentXMLWriter {
+class ZKCORE_EXPORT FragmentXMLWriter
+{
 public:
     static QByteArray writeElement(const ElementImpl* element);
     static QByteArray writeElements(const std::vector<const ElementImpl*>& elements);

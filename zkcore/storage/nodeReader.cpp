@@ -111,7 +111,7 @@ void NodeXml::Reader::finishWarnings()
 
 void NodeXml::Reader::warnOfAttribute(QStringView element, QStringView attribute)
 {
-    const QString text = element.toString() + u'@' + attribute;
+    const QString text = element.toString() + u'@' + attribute.toString();
     if (m_warnedOf.contains(text))
         return;
     if (m_warnings.size() < maximumWarnings)
@@ -351,7 +351,9 @@ bool NodeXml::Reader::readDomain(NodeSnapshot& node, size_t firstEntry)
             if (!unknown.isEmpty()) {
                 xmlText::appendOpenTag(node.unknownContent, u"domain");
                 xmlText::appendAttribute(node.unknownContent, u"class", info->text);
-                node.unknownContent += u'>' + unknown + u"</domain>";
+                node.unknownContent += u'>';
+                node.unknownContent += unknown;
+                node.unknownContent += u"</domain>";
             }
             return true;
         case QXmlStreamReader::Characters:

@@ -71,6 +71,7 @@ private:
     {
         PropertyAddress property;
         PropertyAddress target;
+        Value::Type type = Value::INVALID;
         Position position;
     };
     struct ReflectionRecord
@@ -102,7 +103,7 @@ private:
     bool readText(QXmlStreamReader& xml);
     bool checkCircles();
     void collectTargets(const NodeSnapshot& node, TargetClasses& targets) const;
-    bool isThere(const PropertyAddress& target, const TargetClasses& targets) const;
+    const PropertyDefinition* findTarget(const PropertyAddress& target, const TargetClasses& targets) const;
 
     QXmlStreamReader& m_xml;
     NodeDb& m_db;

@@ -22,6 +22,11 @@ bool isTextType(Value::Type type)
     }
 }
 
+bool isNumberType(Value::Type type)
+{
+    return type == Value::INT || type == Value::DOUBLE;
+}
+
 } // namespace
 
 PropertyKey NodeXml::Reader::proxyKey(QStringView text)
@@ -201,7 +206,7 @@ void NodeXml::Reader::addEntry(const NodeSnapshot& node, ClassId domain, const P
             warnAt(position, tr("the id \"%1\" is used twice; kept").arg(value.toQString()));
     }
     if (proxy.isValid() && node.id != 0)
-        m_proxies.push_back({{node.id, domain, definition.key}, proxy, position});
+        m_proxies.push_back({{node.id, domain, definition.key}, proxy, definition.type, position});
     m_entries.push_back({domain, definition.key, std::move(value), proxy});
 }
 
@@ -241,14 +246,14 @@ void NodeXml::Reader::collectTargets(const NodeSnapshot& node, TargetClasses& ta
         collectTargets(*node.popup, targets);
 }
 
-bool NodeXml::Reader::isThere(const PropertyAddress& target, const TargetClasses& targets) const
+const PropertyDefinition* NodeXml::Reader::findTarget(const PropertyAddress& target, const TargetClasses& targets) const
 {
     const NodePrototype* prototype = targets.value(target.node);
     if (prototype && target.domain != INVALID_CID) {
         const bool space = prototype->kind == NodeKind::Scene || prototype->kind == NodeKind::Popup;
         prototype = space ? m_db.lookupPrototype(target.domain) : nullptr;
     }
-    return prototype && prototype->find(target.key);
+    return prototype ? prototype->find(target.key) : nullptr;
 }
 
 bool NodeXml::Reader::check(const NodeSnapshot* root)
@@ -264,11 +269,18 @@ bool NodeXml::Reader::check(const NodeSnapshot* root)
         targets.insert(record.original, nullptr);
     collectTargets(*root, targets);
     for (const ProxyRecord& record : m_proxies) {
-        if (!isThere(record.target, targets))
+        const PropertyDefinition* target = findTarget(record.target, targets);
+        if (!target) {
             warnAt(record.position,
                    tr("property \"%1\" follows one that is not there (\"%2\" of node %3); kept as it is")
                        .arg(record.property.key.toString(), record.target.key.toString())
                        .arg(record.target.node));
+        } else if (target->type != record.type && !(isNumberType(target->type) && isNumberType(record.type))) {
+            m_faultPosition = record.position;
+            return fault(tr("property \"%1\" (%2) cannot follow \"%3\" (%4)")
+                             .arg(record.property.key.toString(), Value::typeAsString(record.type),
+                                  record.target.key.toString(), Value::typeAsString(target->type)));
+        }
     }
     for (const ReflectionRecord& record : m_reflections) {
         if (!targets.value(record.original))

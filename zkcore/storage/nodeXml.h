@@ -20,10 +20,6 @@ public:
     /// content is faulty.
     static bool read(QXmlStreamReader& reader, NodeDb& db, NodeSnapshot& node, QStringList& warnings);
 
-private:
-    friend class DocumentFile;
-    friend class FragmentXMLWriter;
-
     class Reader; // one per file read: remembers the classes and keys met, and checks what concerns several nodes
     class Writer; // one per file written
 };
