@@ -11,12 +11,13 @@ class ModelMutator;
 class QXmlStreamReader;
 class QXmlStreamWriter;
 
-/// Something done to a document. Made by whoever wants it done and handed to DocumentImpl::executeCommand, which owns it
-/// from then on. Commands name nodes by instance id, never by pointer.
+/// Something done to a document. Made by whoever wants it done and handed to DocumentImpl::executeCommand, which owns
+/// it from then on. Commands name nodes by instance id, never by pointer.
 ///
-/// The base class guards the order: a command runs once, and all its changes go through the ModelMutator it is given, which
-/// takes them back when the command fails and remembers them for undo when it succeeds.
-class ZKCORE_EXPORT Command {
+/// The base class guards the order: a command runs once, and all its changes go through the ModelMutator it is given,
+/// which takes them back when the command fails and remembers them for undo when it succeeds.
+class ZKCORE_EXPORT Command
+{
 public:
     enum Flag {
         JoinUndo = 0, ///< changes join the step on top of the undo history
@@ -31,8 +32,8 @@ public:
     int flags() const { return m_flags; }
     bool pushesUndo() const { return (m_flags & PushUndo) != 0; }
 
-    /// Runs the command on the document; called by DocumentImpl::executeCommand. Asserts that it runs for the first time.
-    /// The command's value; an invalid value when it failed (see error()).
+    /// Runs the command on the document; called by DocumentImpl::executeCommand. Asserts that it runs for the first
+    /// time. The command's value; an invalid value when it failed (see error()).
     Value execute(const DocumentImpl* document);
     /// Why it failed, translated; empty when it did not.
     QString error() const { return m_error; }
@@ -47,8 +48,8 @@ public:
     virtual QString getXMLClass() const = 0;
     /// Writes the command as one element of that name, with the instance ids of what it made when it has run.
     void toXML(QXmlStreamWriter& writer) const;
-    /// Reads what toXML wrote; the reader stands on the element's start and is left on its end. On failure returns false and
-    /// raises an error on the reader. A command read back makes the same instance ids again when it runs.
+    /// Reads what toXML wrote; the reader stands on the element's start and is left on its end. On failure returns
+    /// false and raises an error on the reader. A command read back makes the same instance ids again when it runs.
     bool fromXML(QXmlStreamReader& reader);
 
     /// A command by its element name, not filled yet; null for an unknown name.

@@ -4,9 +4,11 @@
 
 #include <vector>
 
-/// Deletes nodes with all that is in them, the connections that end at them, and their reflections; properties elsewhere that
-/// followed one of theirs are detached. The last scene cannot be deleted, nor a subpart that its parent's class prescribes.
-class ZKCORE_EXPORT DeleteNodeCommand : public Command {
+/// Deletes nodes with all that is in them, the connections that end at them, and their reflections; properties
+/// elsewhere that followed one of theirs are detached. The last scene cannot be deleted, nor a subpart that its
+/// parent's class prescribes.
+class ZKCORE_EXPORT DeleteNodeCommand : public Command
+{
 public:
     explicit DeleteNodeCommand(int flags = PushUndo);
     DeleteNodeCommand(const Node& node, int flags);

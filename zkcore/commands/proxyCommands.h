@@ -4,9 +4,10 @@
 #include "zkcore/model/property.h"
 #include "zkcore/model/propertyAddress.h"
 
-/// Makes a property follow another (the second). Fails when the target may not be followed (PropertyFilter) or would close a
-/// cycle.
-class ZKCORE_EXPORT SetProxyCommand : public Command {
+/// Makes a property follow another (the second). Fails when the target may not be followed (PropertyFilter) or would
+/// close a cycle.
+class ZKCORE_EXPORT SetProxyCommand : public Command
+{
 public:
     SetProxyCommand();
     SetProxyCommand(const Property& property, const Property& target);
@@ -26,7 +27,8 @@ private:
 };
 
 /// Ends the following; the property keeps the value last seen.
-class ZKCORE_EXPORT DetachProxyCommand : public Command {
+class ZKCORE_EXPORT DetachProxyCommand : public Command
+{
 public:
     explicit DetachProxyCommand(const Property& property = {}, bool pushUndo = true);
 

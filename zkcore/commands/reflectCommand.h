@@ -4,10 +4,11 @@
 #include "zkcore/model/elementImpl.h"
 #include "zkcore/model/handles.h"
 
-/// Makes a reflection of a part in a container (a space, or a part whose pop-up then holds it), or removes the one that is
-/// there. A reflection is an element of its own; its properties, place, size and id excepted, are proxies of the original's.
-/// Fails when the part cannot be reflected. Gives the reflection when one was made, else Value(true).
-class ZKCORE_EXPORT ReflectCommand : public Command {
+/// Makes a reflection of a part in a container (a space, or a part whose pop-up then holds it), or removes the one that
+/// is there. A reflection is an element of its own; its properties, place, size and id excepted, are proxies of the
+/// original's. Fails when the part cannot be reflected. Gives the reflection when one was made, else Value(true).
+class ZKCORE_EXPORT ReflectCommand : public Command
+{
 public:
     ReflectCommand(ReflectionKind kind, const Part& original, const Node& container, bool reflect);
 
@@ -26,7 +27,8 @@ private:
     InstanceId m_firstId = 0;
 };
 
-class ZKCORE_EXPORT ReflectControlsCommand : public ReflectCommand {
+class ZKCORE_EXPORT ReflectControlsCommand : public ReflectCommand
+{
 public:
     explicit ReflectControlsCommand(const Part& original = {}, const Node& container = {}, bool reflect = true)
         : ReflectCommand(ReflectionKind::Controls, original, container, reflect)
@@ -35,7 +37,8 @@ public:
     QString getXMLClass() const override;
 };
 
-class ZKCORE_EXPORT ReflectPadsCommand : public ReflectCommand {
+class ZKCORE_EXPORT ReflectPadsCommand : public ReflectCommand
+{
 public:
     explicit ReflectPadsCommand(const Part& original = {}, const Node& container = {}, bool reflect = true)
         : ReflectCommand(ReflectionKind::Pads, original, container, reflect)
@@ -44,7 +47,8 @@ public:
     QString getXMLClass() const override;
 };
 
-class ZKCORE_EXPORT ReflectBodyCommand : public ReflectCommand {
+class ZKCORE_EXPORT ReflectBodyCommand : public ReflectCommand
+{
 public:
     explicit ReflectBodyCommand(const Part& original = {}, const Node& container = {}, bool reflect = true)
         : ReflectCommand(ReflectionKind::Body, original, container, reflect)

@@ -4,7 +4,8 @@
 #include "zkcore/media/resource.h"
 
 /// Adds a resource to the document's own, under a free name when its own is taken. Gives the resource.
-class ZKCORE_EXPORT AddResourceCommand : public Command {
+class ZKCORE_EXPORT AddResourceCommand : public Command
+{
 public:
     explicit AddResourceCommand(const Resource& resource = {}, bool pushUndo = true);
 
@@ -21,7 +22,8 @@ private:
 };
 
 /// Removes a resource from the document's own. Properties that name it keep the name.
-class ZKCORE_EXPORT RemoveResourceCommand : public Command {
+class ZKCORE_EXPORT RemoveResourceCommand : public Command
+{
 public:
     explicit RemoveResourceCommand(const Resource& resource = {}, bool pushUndo = true);
 

@@ -3,7 +3,8 @@
 #include "zkcore/commands/command.h"
 
 /// Moves a node to another place among its siblings; an index past the end moves it to the end.
-class ZKCORE_EXPORT SetNodeIndexCommand : public Command {
+class ZKCORE_EXPORT SetNodeIndexCommand : public Command
+{
 public:
     explicit SetNodeIndexCommand(const Node& node = {}, unsigned int index = 0, int flags = PushUndo);
 

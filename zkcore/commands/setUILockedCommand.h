@@ -6,7 +6,8 @@
 #include <vector>
 
 /// Sets or releases one lock of elements: one undo step for all. Nodes that are no elements, or gone, are passed over.
-class ZKCORE_EXPORT SetUILockedCommand : public Command {
+class ZKCORE_EXPORT SetUILockedCommand : public Command
+{
 public:
     SetUILockedCommand();
     SetUILockedCommand(const std::vector<Node>& nodes, LockGroup group, bool locked);

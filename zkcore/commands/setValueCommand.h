@@ -7,9 +7,10 @@
 #include <vector>
 
 /// Sets properties to values. A proxy that can be written through writes its target. Properties that have the value
-/// already are passed over. Fails as a whole, with nothing changed, when a property is gone, computed, a proxy that cannot be
-/// written, of another type than its value, or when its validator refuses the value. Gives Value(true).
-class ZKCORE_EXPORT SetValueCommand : public Command {
+/// already are passed over. Fails as a whole, with nothing changed, when a property is gone, computed, a proxy that
+/// cannot be written, of another type than its value, or when its validator refuses the value. Gives Value(true).
+class ZKCORE_EXPORT SetValueCommand : public Command
+{
 public:
     explicit SetValueCommand(bool pushUndo = true);
     SetValueCommand(const Property& property, const Value& value, bool pushUndo);

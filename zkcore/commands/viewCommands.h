@@ -3,9 +3,10 @@
 #include "zkcore/commands/command.h"
 #include "zkcore/model/handles.h"
 
-/// Shows or hides the pop-up of a part (the transient property "open" of the pop-up): no undo step. Fails when the part has
-/// no pop-up.
-class ZKCORE_EXPORT ShowPopupCommmand : public Command {
+/// Shows or hides the pop-up of a part (the transient property "open" of the pop-up): no undo step. Fails when the part
+/// has no pop-up.
+class ZKCORE_EXPORT ShowPopupCommmand : public Command
+{
 public:
     explicit ShowPopupCommmand(const Part& part = {}, bool show = true);
 
@@ -23,7 +24,8 @@ private:
 };
 
 /// Selects every part of a space (of the first scene when none is given): no undo step.
-class ZKCORE_EXPORT SelectAllCommand : public Command {
+class ZKCORE_EXPORT SelectAllCommand : public Command
+{
 public:
     explicit SelectAllCommand(const Space& space = {});
 
@@ -39,9 +41,10 @@ private:
     InstanceId m_space = 0;
 };
 
-/// Opens a new undo step for the changes that follow with the undo flag off; dropped again when none follows. Whoever starts a
-/// drag executes this first, and then writes with the flag off.
-class ZKCORE_EXPORT PushUndoCommand : public Command {
+/// Opens a new undo step for the changes that follow with the undo flag off; dropped again when none follows. Whoever
+/// starts a drag executes this first, and then writes with the flag off.
+class ZKCORE_EXPORT PushUndoCommand : public Command
+{
 public:
     /// The description is what the step's undo text says; translated.
     explicit PushUndoCommand(const QString& description = {});

@@ -9,7 +9,8 @@ class NodeImpl;
 
 /// The ordered children of a node. Kept in chunks, so that inserting, removing and finding the index of a child stay
 /// cheap in lists of a hundred thousand. Does not own the children.
-class ZKCORE_EXPORT ChildList {
+class ZKCORE_EXPORT ChildList
+{
 public:
     struct Chunk
     {
@@ -18,7 +19,8 @@ public:
     };
 
     /// Visits the children in order. Must not be kept across a change of the list.
-    class const_iterator {
+    class const_iterator
+    {
     public:
         NodeImpl* operator*() const { return (*m_chunks)[m_chunk]->nodes[m_index]; }
         const_iterator& operator++()
@@ -36,7 +38,8 @@ public:
 
     private:
         friend class ChildList;
-        const_iterator(const std::vector<std::unique_ptr<Chunk>>* chunks, size_t chunk) : m_chunks(chunks), m_chunk(chunk)
+        const_iterator(const std::vector<std::unique_ptr<Chunk>>* chunks, size_t chunk)
+            : m_chunks(chunks), m_chunk(chunk)
         {
         }
         const std::vector<std::unique_ptr<Chunk>>* m_chunks;

@@ -11,7 +11,10 @@
 #include "zkcore/model/spaceImpl.h"
 #include "zkcore/values/value.h"
 
+#include <QHash>
+#include <QMap>
 #include <QObject>
+#include <QStringList>
 #include <QUrl>
 #include <functional>
 #include <memory>
@@ -20,18 +23,24 @@
 class Command;
 class ChangeSet;
 class ModelMutator;
+class NodeRegistry;
 class QUndoStack;
+class UndoStep;
 struct NodeSnapshot;
 
 /// A document: its nodes, classes, own resources, selection, and the history of what was done to it.
 /// Everything is changed through commands; every notification is synchronous.
-class ZKCORE_EXPORT DocumentImpl : public QObject {
+class ZKCORE_EXPORT DocumentImpl : public QObject
+{
     Q_OBJECT
 
 public:
     /// A new document with one empty scene; knows the classes of all packages loaded so far.
     explicit DocumentImpl(QObject* parent = nullptr);
     ~DocumentImpl() override;
+
+    /// Enters the classes of all packages loaded so far.
+    static void addPackagedClasses(NodeDb& nodeDb);
 
     // Contents
     ModelImpl* getModel() const { return m_model; }
@@ -40,8 +49,18 @@ public:
     NodeImpl* nodeById(InstanceId id) const;
     /// The property made if need be; null when the node or the property is absent.
     PropertyImpl* propertyAt(const PropertyAddress& address) const;
+    /// What a property of the file follows that is not there; kept so that saving writes it back. Invalid when there is
+    /// none.
+    PropertyAddress danglingProxy(const PropertyAddress& address) const { return m_danglingProxies.value(address); }
+    /// The live reflections of an element, in the order in which they were made.
+    std::vector<ElementImpl*> reflectionsOf(const ElementImpl* original) const;
+    /// The connections (elements with "from" and "to") that end at one of the nodes or at something in one. Linear in
+    /// the number of connections, however many nodes are given.
+    std::vector<ElementImpl*> connectionsAt(const std::set<InstanceId>& nodes) const;
+    /// One more than the highest instance id in use: what a document file names as its next free id.
+    InstanceId nextFreeId() const;
     /// Nodes alive, the root included.
-    size_t nodeCount() const { return m_nodeCount; }
+    size_t nodeCount() const;
 
     /// The element with that "id" value; null when there is none (the first made of several).
     NodeImpl* nodeWithId(const QString& id) const;
@@ -53,10 +72,10 @@ public:
     /// The class's icon; null resource when it has none.
     Resource getMetaIconForCID(const ClassId& cid) const;
     PartsTreeStructure getPartsTreeStructure() const;
-    /// Makes a new class from a part of this document (its class becomes the base, its values the defaults, its subparts the
-    /// new class's) under the label, writes it into the user's package folder, so that it is there in later runs, and adds it
-    /// to the node data base. False, with a warning, when the id is taken or names no domain, or the package cannot be
-    /// written.
+    /// Makes a new class from a part of this document (its class becomes the base, its values the defaults, its
+    /// subparts the new class's) under the label, writes it into the user's package folder, so that it is there in
+    /// later runs, and adds it to the node data base. False, with a warning, when the id is taken or names no domain,
+    /// or the package cannot be written.
     bool addCustomPartDefinition(unsigned int cid, PartImpl* part, const QString& label);
 
     // Selection
@@ -76,11 +95,13 @@ public:
     bool canRedo() const;
     QString undoText() const;
     QString redoText() const;
-    /// For undo actions and history views; steps are added by executeCommand only, and undo and redo go through undo() and
-    /// redo() of the document.
+    /// For undo actions and history views; steps are added by executeCommand only, and undo and redo go through undo()
+    /// and redo() of the document.
     QUndoStack* undoStack() const { return m_undoStack; }
-    /// Greatest number of steps kept; 0 means all. Takes effect at once.
+    /// Greatest number of steps kept; 0 means all. Takes effect as soon as the history is empty: now, or when the next
+    /// document is loaded.
     void setUndoLimit(int steps);
+    /// True from undoRedoStarted() until Loaded().
     bool isUndoRedoActive() const { return m_undoRedoActive; }
     /// Called with every command executed, after it ran; and with null and the word "undo" or "redo". For session logs.
     using CommandListener = std::function<void(const Command*, const QString&)>;
@@ -94,8 +115,8 @@ public:
     Resource getResource() const;
     /// The file; invalid before the document was loaded or saved.
     QUrl getUrl() const { return m_url; }
-    /// Replaces the whole content by the file's. On failure the document stays as it was, and lastError() says what is wrong
-    /// and where (file, line, column). Emits Loaded() on success.
+    /// Replaces the whole content by the file's. On failure the document stays as it was, and lastError() says what is
+    /// wrong and where (file, line, column). Emits Loaded() on success.
     bool load(const QString& fileName);
     /// Writes the file; the old one stays when anything fails (lastError()). Emits saved().
     bool save(const QString& fileName);
@@ -105,6 +126,7 @@ public:
     // The document's own resources
     /// The document's resource of that name, else the packages'.
     Resource resource(const QString& name) const;
+    /// In the order of their names.
     std::vector<Resource> localResources() const;
 
 Q_SIGNALS:
@@ -121,6 +143,10 @@ Q_SIGNALS:
 
     /// After a property of any node changed, whether or not its property object exists. For views.
     void nodeValueChanged(NodeImpl*, PropertyKey);
+    /// After a node moved to another place among its siblings.
+    void nodeMoved(NodeImpl*);
+    /// After a lock of any element was set or released.
+    void nodeLocksChanged(NodeImpl*);
     void modifiedChanged(bool);
     /// The texts or availability of undo and redo changed.
     void undoStateChanged();
@@ -132,36 +158,40 @@ private:
     friend class NodeImpl;
     friend class NodeFactory;
     friend class UndoStep;
+    friend class DocumentFile;
+    friend class NodeXml;
 
-    class IdTable;
-    class TextIdRegistry;
-
-    void recordChanges(std::unique_ptr<ChangeSet> changes, const Command& command);
+    void recordChanges(std::unique_ptr<ChangeSet> changes, const Command& command,
+                       std::shared_ptr<const std::vector<InstanceId>> selectionBefore);
     void runUndoRedo(bool undo);
     void updateModified();
+    void clearHistory();
     std::shared_ptr<const std::vector<InstanceId>> selectionIds() const;
     void restoreSelection(const std::vector<InstanceId>& ids);
+    void emitPendingSelectionChange();
     void replaceContent(NodeSnapshot&& root, InstanceId nextId);
-    void dropFromSelection(ElementImpl* element);
+    void makeEmptyContent();
+    void destroyContent();
 
     NodeDb* m_nodeDb;
     ModelImpl* m_model = nullptr;
     QUndoStack* m_undoStack;
-    std::unique_ptr<IdTable> m_ids;
-    std::unique_ptr<TextIdRegistry> m_textIds;
-    QHash<InstanceId, std::vector<InstanceId>> m_reflections; // original to reflections
-    QHash<QString, std::shared_ptr<const ResourceEntry>> m_resources;
-    QStringList m_resourceOrder;
+    std::unique_ptr<NodeRegistry> m_registry;
+    QHash<PropertyAddress, PropertyAddress> m_danglingProxies;
+    QMap<QString, std::shared_ptr<const ResourceEntry>> m_resources;
     ElementImplSet m_selection;
-    mutable std::shared_ptr<const std::vector<InstanceId>> m_selectionIds;
+    mutable std::shared_ptr<const std::vector<InstanceId>> m_selectionIds; // null when the selection changed since
+    std::shared_ptr<const std::vector<InstanceId>> m_selectionToRestore;
     CommandListener m_commandListener;
     QString m_lastError;
+    QString m_openStepDescription;
     QStringList m_loadWarnings;
     QUrl m_url;
-    size_t m_nodeCount = 0;
     InstanceId m_nextId = 1;
-    int m_commandDepth = 0;
+    ModelMutator* m_mutator = nullptr; // the outermost one at work
+    int m_undoLimit = 0;
     bool m_undoRedoActive = false;
+    bool m_historyBusy = false;
     bool m_unrecordedChange = false;
     bool m_wasModified = false;
     bool m_openStepPending = false;

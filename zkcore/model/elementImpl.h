@@ -15,7 +15,8 @@ class PopupImpl;
 enum class ReflectionKind { None = 0, Controls = 1, Pads = 2, Body = 3 };
 
 /// An element placed in a space: a part or a subpart. Always a class of kind Part or Subpart.
-class ZKCORE_EXPORT ElementImpl : public NodeImpl {
+class ZKCORE_EXPORT ElementImpl : public NodeImpl
+{
     Q_OBJECT
 
 public:
@@ -45,6 +46,10 @@ public:
 
     ReflectionKind reflectionKind() const { return m_reflectionKind; }
     bool isReflection() const { return m_reflectionKind != ReflectionKind::None; }
+    /// Whether it, or an element it stands in, is a reflection.
+    bool isWithinReflection() const;
+    /// The instance id of what this element reflects; 0 when it is no reflection.
+    InstanceId reflectedId() const { return m_reflects; }
     /// What this element reflects; null when it is no reflection, or the original is gone.
     ElementImpl* reflectionOriginal() const;
     /// The reflection of `original` that stands below this element (or in the pop-up it owns); null when there is none.
@@ -65,7 +70,8 @@ private:
 };
 
 /// A part: an element that stands in a scene or pop-up.
-class ZKCORE_EXPORT PartImpl : public ElementImpl {
+class ZKCORE_EXPORT PartImpl : public ElementImpl
+{
     Q_OBJECT
 
 public:

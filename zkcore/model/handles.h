@@ -12,8 +12,10 @@ class SceneImpl;
 class SpaceImpl;
 class QObject;
 
-/// Typed handles wrap the implementations for signal arguments. impl() is null when the node is gone or of another kind.
-class ZKCORE_EXPORT Element : public Node {
+/// Typed handles wrap the implementations for signal arguments. impl() is null when the node is gone or of another
+/// kind.
+class ZKCORE_EXPORT Element : public Node
+{
 public:
     Element() = default;
     Element(ElementImpl* impl); // NOLINT: implicit, handles stand in for pointers
@@ -21,7 +23,8 @@ public:
     ElementImpl* impl() const;
 };
 
-class ZKCORE_EXPORT Part : public Element {
+class ZKCORE_EXPORT Part : public Element
+{
 public:
     Part() = default;
     Part(PartImpl* impl); // NOLINT
@@ -29,7 +32,8 @@ public:
     PartImpl* impl() const;
 };
 
-class ZKCORE_EXPORT Space : public Node {
+class ZKCORE_EXPORT Space : public Node
+{
 public:
     Space() = default;
     Space(SpaceImpl* impl); // NOLINT
@@ -43,7 +47,8 @@ public:
     Value valueOfProperty(Property::Key key, ClassId domain) const;
 };
 
-class ZKCORE_EXPORT Scene : public Space {
+class ZKCORE_EXPORT Scene : public Space
+{
 public:
     Scene() = default;
     Scene(SceneImpl* impl); // NOLINT
@@ -51,7 +56,8 @@ public:
     SceneImpl* impl() const;
 };
 
-class ZKCORE_EXPORT Popup : public Space {
+class ZKCORE_EXPORT Popup : public Space
+{
 public:
     Popup() = default;
     Popup(PopupImpl* impl); // NOLINT
@@ -59,7 +65,8 @@ public:
     PopupImpl* impl() const;
 };
 
-class ZKCORE_EXPORT Model : public Node {
+class ZKCORE_EXPORT Model : public Node
+{
 public:
     Model() = default;
     Model(ModelImpl* impl); // NOLINT

@@ -14,7 +14,8 @@ class Value;
 
 /// A light handle to a node, copied by value. A handle to a deleted node is invalid for ever, also when undo makes the
 /// node again (that is another object under the same instance id).
-class ZKCORE_EXPORT Node {
+class ZKCORE_EXPORT Node
+{
 public:
     Node() = default;
     /// Wraps a live node; null gives the invalid handle.

@@ -17,7 +17,8 @@ class SpaceImpl;
 class PropertyImpl;
 
 /// A node of a document. Owned by its parent, the root by its document. Made and destroyed by commands only.
-class ZKCORE_EXPORT NodeImpl : public QObject {
+class ZKCORE_EXPORT NodeImpl : public QObject
+{
     Q_OBJECT
 
 public:
@@ -107,6 +108,8 @@ private:
     friend class PropertyImpl;
     friend class ChildList;
     friend class NodeFactory;
+    friend class NodeXml;
+    friend struct NodeSnapshot;
 
     const NodePrototype* m_prototype;
     DocumentImpl* m_document;

@@ -4,27 +4,6 @@
 
 #include <algorithm>
 
-namespace {
-
-PropertyDefinition metaPropertyDefinition(const char* key, const Value& value)
-{
-    PropertyDefinition definition;
-    definition.key = PropertyKey::fromString(key);
-    definition.type = value.type();
-    definition.defaultValue = value;
-    definition.flags = PropertyDefinition::ReadOnly | PropertyDefinition::Invisible | PropertyDefinition::Transient |
-                       PropertyDefinition::Native;
-    if (value.type() == Value::INT) {
-        static const auto validator = std::make_shared<IntValidator>();
-        static const auto format = std::make_shared<const NumericalFormat>();
-        definition.validator = validator;
-        definition.format = format;
-    }
-    return definition;
-}
-
-} // namespace
-
 void NodePrototype::addProperty(PropertyDefinition definition)
 {
     const int index = indexOf(definition.key);
@@ -38,10 +17,31 @@ void NodePrototype::addProperty(PropertyDefinition definition)
 
 void NodePrototype::addMetaProperties()
 {
-    addProperty(metaPropertyDefinition("meta-label", Value(label)));
-    addProperty(metaPropertyDefinition("meta-group", Value(group)));
-    addProperty(metaPropertyDefinition("meta-keystage", Value(keyStage)));
-    addProperty(metaPropertyDefinition("meta-icon", Value(icon)));
+    static const PropertyKey labelKey = PropertyKey::fromString("meta-label");
+    static const PropertyKey groupKey = PropertyKey::fromString("meta-group");
+    static const PropertyKey keyStageKey = PropertyKey::fromString("meta-keystage");
+    static const PropertyKey iconKey = PropertyKey::fromString("meta-icon");
+    addMetaProperty(labelKey, Value(label));
+    addMetaProperty(groupKey, Value(group));
+    addMetaProperty(keyStageKey, Value(keyStage));
+    addMetaProperty(iconKey, Value(icon));
+}
+
+void NodePrototype::addMetaProperty(PropertyKey key, const Value& value)
+{
+    PropertyDefinition definition;
+    definition.key = key;
+    definition.type = value.type();
+    definition.defaultValue = value;
+    definition.flags = PropertyDefinition::ReadOnly | PropertyDefinition::Invisible | PropertyDefinition::Transient |
+                       PropertyDefinition::Native;
+    if (value.type() == Value::INT) {
+        static const auto wholeRange = std::make_shared<IntValidator>();
+        static const auto plainFormat = std::make_shared<const NumericalFormat>();
+        definition.validator = wholeRange;
+        definition.format = plainFormat;
+    }
+    addProperty(std::move(definition));
 }
 
 int NodePrototype::indexOf(PropertyKey key) const

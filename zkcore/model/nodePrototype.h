@@ -67,6 +67,8 @@ public:
     /// Adds the properties that show label, group, key stage and icon ("meta-label", ...) to forms and dialogs, or
     /// renews them. For whoever makes a class, after the members are set.
     void addMetaProperties();
+    /// Adds a property that only tells about the class: read-only, not shown, not saved.
+    void addMetaProperty(PropertyKey key, const Value& value);
     const std::vector<PropertyDefinition>& properties() const { return m_properties; }
     /// -1 when there is no such property.
     int indexOf(PropertyKey key) const;

@@ -10,8 +10,8 @@
 #include <memory>
 #include <vector>
 
-/// Everything that makes a node and what is in it, without pointers into a document: what undo makes a deleted node from,
-/// what the clipboard and drags carry, what a document file is read into.
+/// Everything that makes a node and what is in it, without pointers into a document: what undo makes a deleted node
+/// from, what the clipboard and drags carry, what a document file is read into.
 struct ZKCORE_EXPORT NodeSnapshot
 {
     struct ValueEntry
@@ -39,6 +39,10 @@ struct ZKCORE_EXPORT NodeSnapshot
     /// A deep copy with the ids replaced by the numbers from `firstFree` on. References that stay inside (proxies, node
     /// values, reflections) follow; references that lead outside stay as they are.
     NodeSnapshot withFreshIds(InstanceId firstFree) const;
+    /// The same for several nodes with references among them.
+    static std::vector<NodeSnapshot> withFreshIds(const std::vector<NodeSnapshot>& nodes, InstanceId firstFree);
+    /// A deep copy; snapshots can otherwise only be moved.
+    NodeSnapshot copy() const;
 
     /// What a live node holds now.
     static NodeSnapshot of(const NodeImpl& node);

@@ -12,7 +12,8 @@ class PropertyImpl;
 class QObject;
 
 /// A light handle to a property, copied by value. A handle to a property of a deleted node is invalid.
-class ZKCORE_EXPORT Property {
+class ZKCORE_EXPORT Property
+{
 public:
     using Key = PropertyKey;
 
@@ -40,7 +41,10 @@ public:
     static Key getKeyForString(const QString& text) { return Key::fromString(text); }
     static QString getStringForKey(Key key) { return key.toString(); }
 
-    friend bool operator==(const Property& a, const Property& b) { return a.m_impl == b.m_impl && a.m_serial == b.m_serial; }
+    friend bool operator==(const Property& a, const Property& b)
+    {
+        return a.m_impl == b.m_impl && a.m_serial == b.m_serial;
+    }
 
 private:
     PropertyImpl* m_impl = nullptr;

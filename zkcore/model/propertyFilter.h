@@ -6,11 +6,13 @@
 #include <vector>
 
 /// Tells which properties another property may follow as a proxy.
-class ZKCORE_EXPORT PropertyFilter {
+class ZKCORE_EXPORT PropertyFilter
+{
 public:
     /// Accepts no property.
     PropertyFilter() = default;
-    /// Accepts what `property` may follow: proxy targets of its type (INT and DOUBLE go together) that do not depend on it.
+    /// Accepts what `property` may follow: proxy targets of its type (INT and DOUBLE go together) that do not depend on
+    /// it.
     explicit PropertyFilter(Property property);
 
     /// Whether nodes, not properties, are to be chosen (the property is of the NODE type).

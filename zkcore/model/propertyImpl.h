@@ -8,6 +8,7 @@
 #include "zkcore/model/propertyFilter.h"
 
 #include <QObject>
+#include <QSet>
 #include <memory>
 #include <vector>
 
@@ -16,7 +17,8 @@ class NodeImpl;
 class Node;
 
 /// A property of a node: made when somebody first asks for it, destroyed with its node. Values live in the node.
-class ZKCORE_EXPORT PropertyImpl : public QObject {
+class ZKCORE_EXPORT PropertyImpl : public QObject
+{
     Q_OBJECT
 
 public:
@@ -75,7 +77,7 @@ public:
     PropertyImpl* proxySubject() const;
     /// The end of the chain; itself when it is not a proxy.
     PropertyImpl* proxyRoot();
-    /// What follows it directly, in no particular order.
+    /// What follows it directly, in the order in which the property objects were made.
     std::vector<PropertyImpl*> proxyDependants() const;
     PropertyFilter acceptableProxyTypes() const;
 
@@ -95,6 +97,7 @@ Q_SIGNALS:
 private:
     friend class NodeImpl;
     friend class ModelMutator;
+    friend class DocumentImpl;
 
     PropertyImpl(NodeImpl* owner, ClassId domain, const PropertyDefinition* definition);
     /// Emits ValueChanged here and along everything that follows this property. May destroy anything.
@@ -110,5 +113,5 @@ private:
     QString m_label;
     mutable std::unique_ptr<Formatter> m_formatter;
     PropertyImpl* m_proxy = nullptr;
-    std::unique_ptr<std::vector<PropertyImpl*>> m_dependants;
+    std::unique_ptr<QSet<PropertyImpl*>> m_dependants;
 };

@@ -7,7 +7,8 @@
 #include <vector>
 
 /// A named role that an element plays in its parent ("pins", "controls", "pads", "body").
-class ZKCORE_EXPORT Role {
+class ZKCORE_EXPORT Role
+{
 public:
     Role() = default;
     explicit Role(const QString& name);
@@ -23,7 +24,8 @@ private:
 };
 
 /// A set of roles. Made from text: names separated by blanks, commas or semicolons.
-class ZKCORE_EXPORT RoleSet {
+class ZKCORE_EXPORT RoleSet
+{
 public:
     RoleSet() = default;
     explicit RoleSet(const QString& text);

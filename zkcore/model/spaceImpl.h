@@ -9,7 +9,8 @@
 class PartImpl;
 
 /// A scene or a pop-up: holds parts, and for every domain the properties that the domain gives to spaces.
-class ZKCORE_EXPORT SpaceImpl : public NodeImpl {
+class ZKCORE_EXPORT SpaceImpl : public NodeImpl
+{
     Q_OBJECT
 
 public:
@@ -18,8 +19,8 @@ public:
     using NodeImpl::getProperty;
     using NodeImpl::hasProperty;
     using NodeImpl::valueOfProperty;
-    /// A domain property held by this space ("speed" of "flowcharts/*"). Null when the class id is no domain or the domain
-    /// has no such property. Owned by the space.
+    /// A domain property held by this space ("speed" of "flowcharts/*"). Null when the class id is no domain or the
+    /// domain has no such property. Owned by the space.
     PropertyImpl* getProperty(Property::Key key, ClassId domain);
     bool hasProperty(Property::Key key, ClassId domain) const;
     Value valueOfProperty(Property::Key key, ClassId domain) const;
@@ -47,7 +48,8 @@ private:
     std::map<ClassId, PropertyStore> m_domains; // made when a value is first set or a property first asked for
 };
 
-class ZKCORE_EXPORT SceneImpl : public SpaceImpl {
+class ZKCORE_EXPORT SceneImpl : public SpaceImpl
+{
     Q_OBJECT
 
 public:
@@ -58,7 +60,8 @@ private:
     SceneImpl(DocumentImpl* document, const NodePrototype* prototype, InstanceId id);
 };
 
-class ZKCORE_EXPORT PopupImpl : public SpaceImpl {
+class ZKCORE_EXPORT PopupImpl : public SpaceImpl
+{
     Q_OBJECT
 
 public:

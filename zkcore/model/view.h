@@ -7,7 +7,8 @@
 #include <vector>
 
 /// Something that shows one space of a document. Implemented by the host's views.
-class ZKCORE_EXPORT View {
+class ZKCORE_EXPORT View
+{
 public:
     View() = default;
     virtual ~View();
@@ -19,7 +20,8 @@ public:
 };
 
 /// Knows the open views and which of them has the focus. Owned by the host.
-class ZKCORE_EXPORT ViewManager : public QObject {
+class ZKCORE_EXPORT ViewManager : public QObject
+{
     Q_OBJECT
 
 public:

@@ -1,0 +1,537 @@
+#include "zkcore/model/modelMutator.h"
+
+#include "zkcore/commands/command.h"
+#include "zkcore/media/resourceEntry.h"
+#include "zkcore/model/changes.h"
+#include "zkcore/model/coreKeys.h"
+#include "zkcore/model/nodeFactory.h"
+#include "zkcore/model/nodeRegistry.h"
+#include "zkcore/model/propertyImpl.h"
+
+#include <algorithm>
+
+namespace {
+
+bool isElement(const NodeImpl* node)
+{
+    return node->kind() == NodeKind::Part || node->kind() == NodeKind::Subpart;
+}
+
+void collectSubtree(const NodeImpl* node, std::vector<InstanceId>& out)
+{
+    out.push_back(node->instanceId());
+    for (const NodeImpl* child : node->children())
+        collectSubtree(child, out);
+    if (node->kind() == NodeKind::Part) {
+        if (const PopupImpl* popup = static_cast<const PartImpl*>(node)->popup())
+            collectSubtree(popup, out);
+    }
+}
+
+} // namespace
+
+ModelMutator::ModelMutator(DocumentImpl& document) : m_document(document)
+{
+    m_outermost = !document.m_mutator;
+    if (m_outermost) {
+        m_own = std::make_unique<ChangeSet>();
+        m_changes = m_own.get();
+        m_selectionBefore = document.selectionIds();
+        document.m_mutator = this;
+    } else {
+        m_changes = document.m_mutator->m_changes;
+    }
+    m_start = m_changes->size();
+}
+
+ModelMutator::ModelMutator(DocumentImpl& document, Raw) : m_document(document), m_done(true) {}
+
+ModelMutator::~ModelMutator()
+{
+    if (!m_done)
+        rollBack();
+}
+
+void ModelMutator::commit(const Command& command)
+{
+    m_done = true;
+    if (!m_outermost)
+        return;
+    m_document.m_mutator = nullptr;
+    m_changes = nullptr;
+    m_document.recordChanges(std::move(m_own), command, m_selectionBefore);
+}
+
+void ModelMutator::rollBack()
+{
+    m_done = true;
+    ModelMutator raw(m_document, Raw());
+    m_changes->rollBack(raw, m_start);
+    if (!m_outermost)
+        return;
+    m_document.m_mutator = nullptr;
+    m_document.restoreSelection(*m_selectionBefore);
+}
+
+void ModelMutator::noteValue(const PropertyAddress& address, Value before, Value after)
+{
+    if (!m_valueBatch || m_changes->last() != m_valueBatch) {
+        auto batch = std::make_unique<ValuesChange>();
+        m_valueBatch = batch.get();
+        m_changes->add(std::move(batch));
+    }
+    m_valueBatch->add(address, std::move(before), std::move(after));
+}
+
+bool ModelMutator::setValue(const PropertyAddress& address, const Value& value)
+{
+    NodeImpl* owner = node(address.node);
+    NodeImpl::PropertyStore* store = owner ? owner->store(address.domain) : nullptr;
+    if (!store)
+        return false;
+    if (store->prototype != m_lastPrototype || address.key != m_lastKey) {
+        m_lastPrototype = store->prototype;
+        m_lastKey = address.key;
+        m_lastIndex = store->prototype->indexOf(address.key);
+    }
+    const int index = m_lastIndex;
+    if (index < 0)
+        return false;
+    const PropertyDefinition& definition = store->prototype->properties()[static_cast<size_t>(index)];
+    if (value.type() != definition.type)
+        return false;
+    const bool always = definition.flags & PropertyDefinition::AlwaysNotify;
+    const Value before = store->value(index);
+    const bool changed = store->setValue(index, value);
+    if (!changed && !always)
+        return false;
+    if (changed) {
+        if (m_changes && !(definition.flags & PropertyDefinition::Transient))
+            noteValue(address, before, value);
+        if (address.key == coreKeys::id() && address.domain == INVALID_CID && NodeRegistry::hasRegisteredId(owner)) {
+            m_document.m_registry->leaveTextId(before.toQString(), address.node);
+            m_document.m_registry->enterTextId(value.toQString(), address.node);
+        }
+    }
+    PropertyImpl* property = store->object(index);
+    if (property && property->isProxy())
+        return changed; // what it shows is its target's value
+    const Node handle(owner);
+    if (property)
+        property->notifyValueChanged();
+    if (handle.valid())
+        Q_EMIT m_document.nodeValueChanged(owner, address.key);
+    return changed;
+}
+
+NodeImpl* ModelMutator::addNode(InstanceId parentId, unsigned int index, NodeSnapshot& snapshot)
+{
+    NodeImpl* parent = node(parentId);
+    if (!parent || !idsAreFree(snapshot))
+        return nullptr;
+    giveMissingIds(snapshot);
+    std::vector<InstanceId> built;
+    NodeImpl* made = build(nullptr, snapshot, built);
+    attach(*parent, index, made);
+    linkProxies(snapshot);
+    if (m_changes) {
+        const int at = parent->getIndexForChild(made);
+        m_changes->add(std::make_unique<NodeChange>(NodeChange::Added, parentId,
+                                                    at < 0 ? 0u : static_cast<unsigned int>(at), made->instanceId(),
+                                                    NodeSnapshot()));
+    }
+    Q_EMIT parent->ChildAdded(Node(parent), Node(made));
+    announceAdded(built);
+    return node(snapshot.id);
+}
+
+void ModelMutator::giveMissingIds(NodeSnapshot& snapshot)
+{
+    if (snapshot.id == 0)
+        snapshot.id = takeIds(1);
+    m_document.m_nextId = std::max(m_document.m_nextId, snapshot.id + 1);
+    for (NodeSnapshot& child : snapshot.children)
+        giveMissingIds(child);
+    if (snapshot.popup)
+        giveMissingIds(*snapshot.popup);
+}
+
+bool ModelMutator::idsAreFree(const NodeSnapshot& snapshot) const
+{
+    if (snapshot.id != 0 && node(snapshot.id))
+        return false;
+    return std::all_of(snapshot.children.begin(), snapshot.children.end(),
+                       [this](const NodeSnapshot& child) { return idsAreFree(child); }) &&
+           (!snapshot.popup || idsAreFree(*snapshot.popup));
+}
+
+InstanceId ModelMutator::takeIds(size_t count)
+{
+    const InstanceId first = m_document.m_nextId;
+    m_document.m_nextId += static_cast<InstanceId>(count);
+    return first;
+}
+
+NodeImpl* ModelMutator::build(NodeImpl* parent, const NodeSnapshot& snapshot, std::vector<InstanceId>& built)
+{
+    const NodePrototype* prototype = m_document.m_nodeDb->prototypeOrPlaceholder(snapshot.cid, snapshot.kind);
+    NodeImpl* made = NodeFactory::make(&m_document, prototype, snapshot.id);
+    if (!snapshot.unknownContent.isEmpty())
+        made->m_unknown = std::make_unique<QString>(snapshot.unknownContent);
+    fillValues(*made, snapshot);
+    if (isElement(made)) {
+        auto* element = static_cast<ElementImpl*>(made);
+        element->m_locks = static_cast<unsigned char>(snapshot.locks);
+        element->m_adhoc = snapshot.adhoc;
+        element->m_reflectionKind = snapshot.reflectionKind;
+        element->m_reflects = snapshot.reflects;
+        if (element->isReflection())
+            m_document.m_registry->enterReflection(snapshot.reflects, snapshot.id);
+    }
+    m_document.m_registry->enter(made);
+    built.push_back(snapshot.id);
+    if (parent)
+        attach(*parent, ~0u, made);
+    for (const NodeSnapshot& child : snapshot.children)
+        build(made, child, built);
+    if (snapshot.popup && made->kind() == NodeKind::Part)
+        build(made, *snapshot.popup, built);
+    return made;
+}
+
+void ModelMutator::attach(NodeImpl& parent, unsigned int index, NodeImpl* node)
+{
+    node->m_parent = &parent;
+    if (node->kind() == NodeKind::Popup) {
+        static_cast<PartImpl&>(parent).m_popup = static_cast<PopupImpl*>(node);
+        m_document.m_model->m_popups.insert(node->instanceId());
+    } else {
+        parent.m_children.insert(index, node);
+    }
+}
+
+void ModelMutator::fillValues(NodeImpl& node, const NodeSnapshot& snapshot)
+{
+    node.m_store.values.reserve(snapshot.values.size());
+    for (const NodeSnapshot::ValueEntry& entry : snapshot.values) {
+        if (entry.proxy.isValid())
+            continue; // linked, or kept as dangling, when all nodes are there
+        NodeImpl::PropertyStore* store = node.store(entry.domain);
+        const int index = store ? store->prototype->indexOf(entry.key) : -1;
+        if (index >= 0 && store->prototype->properties()[static_cast<size_t>(index)].type == entry.value.type())
+            store->setValue(index, entry.value);
+    }
+}
+
+void ModelMutator::linkProxies(const NodeSnapshot& snapshot)
+{
+    for (const NodeSnapshot::ValueEntry& entry : snapshot.values) {
+        if (!entry.proxy.isValid())
+            continue;
+        const PropertyAddress address{snapshot.id, entry.domain, entry.key};
+        PropertyImpl* property = m_document.propertyAt(address);
+        PropertyImpl* target = m_document.propertyAt(entry.proxy);
+        if (property && target && target != property && !target->isProxyDependantOn(property)) {
+            link(*property, *target);
+            continue;
+        }
+        if (!property)
+            continue;
+        m_document.m_danglingProxies.insert(address, entry.proxy);
+        NodeImpl::PropertyStore* store = property->m_owner->store(entry.domain);
+        if (entry.value.type() == property->type())
+            store->setValue(store->prototype->indexOf(entry.key), entry.value);
+    }
+    for (const NodeSnapshot& child : snapshot.children)
+        linkProxies(child);
+    if (snapshot.popup)
+        linkProxies(*snapshot.popup);
+}
+
+void ModelMutator::announceAdded(const std::vector<InstanceId>& ids)
+{
+    for (const InstanceId id : ids) {
+        NodeImpl* added = node(id);
+        if (!added)
+            continue;
+        switch (added->kind()) {
+        case NodeKind::Part:
+        case NodeKind::Subpart: {
+            auto* element = static_cast<ElementImpl*>(added);
+            if (ElementImpl* original = element->reflectionOriginal())
+                Q_EMIT original->ReflectionAdded(Node(original), Node(added));
+            if (node(id))
+                Q_EMIT m_document.ElementAdded(Element(element));
+            break;
+        }
+        case NodeKind::Scene:
+            Q_EMIT m_document.SceneAdded(Scene(static_cast<SceneImpl*>(added)));
+            break;
+        case NodeKind::Popup:
+            Q_EMIT m_document.PopupAdded(Popup(static_cast<PopupImpl*>(added)));
+            break;
+        case NodeKind::Model:
+        case NodeKind::Domain:
+            break;
+        }
+    }
+}
+
+void ModelMutator::removeNode(InstanceId id)
+{
+    NodeImpl* root = node(id);
+    if (!root || !root->parentNode())
+        return;
+    std::vector<InstanceId> subtree;
+    collectSubtree(root, subtree);
+    for (const InstanceId each : subtree) {
+        if (NodeImpl* doomed = node(each))
+            Q_EMIT doomed->beingDeleted(Node(doomed));
+    }
+    root = node(id);
+    if (!root)
+        return;
+    subtree.clear();
+    collectSubtree(root, subtree);
+    detachOutsiders(subtree);
+
+    NodeImpl* parent = root->parentNode();
+    if (m_changes) {
+        const int at = parent->getIndexForChild(root);
+        m_changes->add(std::make_unique<NodeChange>(NodeChange::Removed, parent->instanceId(),
+                                                    at < 0 ? 0u : static_cast<unsigned int>(at), id,
+                                                    NodeSnapshot::of(*root)));
+    }
+    if (root->kind() == NodeKind::Popup)
+        static_cast<PartImpl*>(parent)->m_popup = nullptr;
+    else
+        parent->m_children.remove(root);
+
+    std::vector<NodeImpl*> nodes;
+    std::vector<std::pair<Node, Node>> reflections;
+    nodes.reserve(subtree.size());
+    for (const InstanceId each : subtree) {
+        NodeImpl* doomed = node(each);
+        nodes.push_back(doomed);
+        dropFromSelection(doomed);
+        if (isElement(doomed)) {
+            auto* element = static_cast<ElementImpl*>(doomed);
+            if (ElementImpl* original = element->reflectionOriginal())
+                reflections.emplace_back(original, element);
+            if (element->isReflection())
+                m_document.m_registry->leaveReflection(element->m_reflects, each);
+        }
+        if (doomed->kind() == NodeKind::Popup)
+            m_document.m_model->m_popups.erase(each);
+        if (!m_document.m_danglingProxies.isEmpty()) {
+            for (const PropertyDefinition& definition : doomed->prototype().properties())
+                m_document.m_danglingProxies.remove({each, INVALID_CID, definition.key});
+        }
+    }
+    for (NodeImpl* doomed : nodes)
+        m_document.m_registry->leave(doomed);
+
+    // From here on no command can reach the nodes any more.
+    Q_EMIT parent->ChildRemoved(Node(parent), Node(root));
+    for (const auto& [original, reflection] : reflections) {
+        if (NodeImpl* shown = original.impl())
+            Q_EMIT shown->ReflectionRemoved(original, reflection);
+    }
+    for (auto it = nodes.rbegin(); it != nodes.rend(); ++it) {
+        NodeImpl* doomed = *it;
+        switch (doomed->kind()) {
+        case NodeKind::Part:
+        case NodeKind::Subpart:
+            Q_EMIT m_document.ElementRemoved(Element(static_cast<ElementImpl*>(doomed)));
+            break;
+        case NodeKind::Scene:
+            Q_EMIT m_document.SceneRemoved(Scene(static_cast<SceneImpl*>(doomed)));
+            break;
+        case NodeKind::Popup:
+            Q_EMIT m_document.PopupRemoved(Popup(static_cast<PopupImpl*>(doomed)));
+            break;
+        case NodeKind::Model:
+        case NodeKind::Domain:
+            break;
+        }
+    }
+    for (auto it = nodes.rbegin(); it != nodes.rend(); ++it)
+        delete *it;
+}
+
+void ModelMutator::detachOutsiders(const std::vector<InstanceId>& subtree)
+{
+    std::vector<PropertyAddress> followers;
+    for (const InstanceId id : subtree) {
+        std::vector<std::pair<ClassId, NodeImpl::PropertyStore*>> stores;
+        node(id)->collectStores(stores);
+        for (const auto& [domain, store] : stores) {
+            for (const auto& [index, property] : store->objects) {
+                if (!property->m_dependants || property->m_dependants->isEmpty())
+                    continue;
+                for (const PropertyImpl* follower : property->proxyDependants())
+                    followers.push_back(follower->address());
+            }
+        }
+    }
+    if (followers.empty())
+        return;
+    const std::set<InstanceId> inside(subtree.begin(), subtree.end());
+    for (const PropertyAddress& follower : followers) {
+        if (!inside.contains(follower.node))
+            detachProxy(follower);
+    }
+}
+
+void ModelMutator::dropFromSelection(NodeImpl* node)
+{
+    if (!isElement(node) || m_document.m_selection.erase(static_cast<ElementImpl*>(node)) == 0)
+        return;
+    m_document.m_selectionIds.reset();
+    m_document.m_selectionDirty = true;
+}
+
+void ModelMutator::moveNode(InstanceId id, unsigned int index)
+{
+    NodeImpl* moved = node(id);
+    NodeImpl* parent = moved ? moved->parentNode() : nullptr;
+    const int before = parent ? parent->getIndexForChild(moved) : -1;
+    if (before < 0)
+        return;
+    index = std::min(index, parent->childCount() - 1);
+    if (index == static_cast<unsigned int>(before))
+        return;
+    parent->m_children.remove(moved);
+    parent->m_children.insert(index, moved);
+    if (m_changes)
+        m_changes->add(std::make_unique<MoveChange>(id, static_cast<unsigned int>(before), index));
+    Q_EMIT m_document.nodeMoved(moved);
+}
+
+void ModelMutator::setProxy(const PropertyAddress& address, const PropertyAddress& target)
+{
+    PropertyImpl* property = m_document.propertyAt(address);
+    PropertyImpl* subject = m_document.propertyAt(target);
+    if (!property || !subject || property == subject || property->proxySubject() == subject ||
+        subject->isProxyDependantOn(property))
+        return;
+    const PropertyAddress before = property->isProxy() ? property->proxySubject()->address() : PropertyAddress();
+    if (m_changes)
+        m_changes->add(std::make_unique<ProxyChange>(address, before, target));
+    const Property handle(property);
+    if (property->isProxy())
+        unlink(*property);
+    link(*property, *subject);
+    // While it follows, its own value does not count; cleared, it is not saved either.
+    setValue(address, property->definition().defaultValue);
+    property->notifyValueChanged();
+    if (PropertyImpl* alive = handle.impl()) {
+        Q_EMIT m_document.nodeValueChanged(alive->owner(), address.key);
+        if (handle.isValid())
+            Q_EMIT alive->ProxyTargetChanged(handle);
+    }
+    if (handle.isValid())
+        Q_EMIT property->userCanEditChanged();
+}
+
+void ModelMutator::detachProxy(const PropertyAddress& address)
+{
+    PropertyImpl* property = m_document.propertyAt(address);
+    if (!property || !property->isProxy())
+        return;
+    const PropertyAddress before = property->proxySubject()->address();
+    if (m_changes) {
+        setValue(address, property->getValue()); // silent while it still follows
+        m_changes->add(std::make_unique<ProxyChange>(address, before, PropertyAddress()));
+    }
+    const Value seen = property->getValue();
+    unlink(*property);
+    const Property handle(property);
+    if (!(property->getValue() == seen)) {
+        property->notifyValueChanged();
+        if (PropertyImpl* alive = handle.impl())
+            Q_EMIT m_document.nodeValueChanged(alive->owner(), address.key);
+    }
+    if (handle.isValid())
+        Q_EMIT property->ProxyTargetChanged(handle);
+    if (handle.isValid())
+        Q_EMIT property->userCanEditChanged();
+}
+
+void ModelMutator::link(PropertyImpl& property, PropertyImpl& target)
+{
+    property.m_proxy = &target;
+    if (!target.m_dependants)
+        target.m_dependants = std::make_unique<QSet<PropertyImpl*>>();
+    target.m_dependants->insert(&property);
+}
+
+void ModelMutator::unlink(PropertyImpl& property)
+{
+    property.m_proxy->m_dependants->remove(&property);
+    property.m_proxy = nullptr;
+}
+
+void ModelMutator::setLocks(InstanceId id, unsigned int locks)
+{
+    NodeImpl* found = node(id);
+    if (!found || !isElement(found))
+        return;
+    auto* element = static_cast<ElementImpl*>(found);
+    const unsigned int before = element->m_locks;
+    if (before == locks)
+        return;
+
+    // Property objects in the element, and what can be edited through them.
+    std::vector<std::pair<Property, bool>> affected;
+    std::vector<InstanceId> subtree;
+    collectSubtree(element, subtree);
+    for (const InstanceId each : subtree) {
+        for (const auto& [index, property] : node(each)->m_store.objects)
+            affected.emplace_back(Property(property), property->userCanEdit());
+    }
+    for (size_t i = 0; i < affected.size(); ++i) {
+        for (PropertyImpl* follower : affected[i].first.impl()->proxyDependants())
+            affected.emplace_back(Property(follower), follower->userCanEdit());
+    }
+
+    element->m_locks = static_cast<unsigned char>(locks);
+    if (m_changes)
+        m_changes->add(std::make_unique<LocksChange>(id, before, locks));
+    for (const auto& [handle, could] : affected) {
+        if (PropertyImpl* property = handle.impl())
+            property->emitUserCanEditIf(could);
+    }
+    if (NodeImpl* alive = node(id)) {
+        Q_EMIT alive->LockedChanged();
+        if (node(id))
+            Q_EMIT m_document.nodeLocksChanged(alive);
+    }
+}
+
+void ModelMutator::addResource(std::shared_ptr<const ResourceEntry> entry)
+{
+    const QString name = entry->name();
+    if (m_document.m_resources.contains(name))
+        return;
+    m_document.m_resources.insert(name, entry);
+    if (m_changes)
+        m_changes->add(std::make_unique<ResourceChange>(std::move(entry), true));
+    Q_EMIT m_document.resourcesChanged();
+}
+
+void ModelMutator::removeResource(const QString& name)
+{
+    const std::shared_ptr<const ResourceEntry> entry = m_document.m_resources.take(name);
+    if (!entry)
+        return;
+    if (m_changes)
+        m_changes->add(std::make_unique<ResourceChange>(entry, false));
+    Q_EMIT m_document.resourcesChanged();
+}
+
+void ModelMutator::openStep(const QString& description)
+{
+    m_document.m_openStepPending = true;
+    m_document.m_openStepDescription = description;
+}

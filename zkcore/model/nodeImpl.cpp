@@ -1,0 +1,179 @@
+#include "zkcore/model/nodeImpl.h"
+
+#include "zkcore/model/coreKeys.h"
+#include "zkcore/model/documentImpl.h"
+#include "zkcore/model/liveSet.h"
+#include "zkcore/model/propertyImpl.h"
+
+#include <algorithm>
+
+namespace {
+
+LiveSet<NodeImpl>& liveNodes()
+{
+    static LiveSet<NodeImpl> set;
+    return set;
+}
+
+unsigned long long nextNodeSerial = 0;
+
+template <typename T> auto findByIndex(T& entries, int index)
+{
+    return std::lower_bound(entries.begin(), entries.end(), index,
+                            [](const auto& entry, int wanted) { return entry.first < wanted; });
+}
+
+} // namespace
+
+NodeImpl::NodeImpl(DocumentImpl* document, const NodePrototype* prototype, InstanceId id)
+    : m_prototype(prototype), m_document(document), m_serial(++nextNodeSerial), m_instanceId(id)
+{
+    m_store.prototype = prototype;
+    liveNodes().insert(this);
+}
+
+NodeImpl::~NodeImpl()
+{
+    liveNodes().remove(this);
+    for (const auto& [index, property] : m_store.objects)
+        delete property;
+}
+
+bool NodeImpl::valid(const NodeImpl* node)
+{
+    return liveNodes().contains(node);
+}
+
+SpaceImpl* NodeImpl::space()
+{
+    for (NodeImpl* node = this; node; node = node->m_parent) {
+        if (node->kind() == NodeKind::Scene || node->kind() == NodeKind::Popup)
+            return static_cast<SpaceImpl*>(node);
+    }
+    return nullptr;
+}
+
+ModelImpl* NodeImpl::model() const
+{
+    return m_document->getModel();
+}
+
+PropertyImpl* NodeImpl::getProperty(Property::Key key)
+{
+    const int index = m_prototype->indexOf(key);
+    return index < 0 ? nullptr : propertyIn(m_store, INVALID_CID, index);
+}
+
+PropertyImpl* NodeImpl::existingProperty(Property::Key key) const
+{
+    const int index = m_prototype->indexOf(key);
+    return index < 0 ? nullptr : m_store.object(index);
+}
+
+Value NodeImpl::valueOfProperty(Property::Key key) const
+{
+    const int index = m_prototype->indexOf(key);
+    if (index < 0)
+        return {};
+    if (const PropertyImpl* property = m_store.object(index); property && property->isProxy())
+        return property->getValue();
+    return resolved(m_store.value(index));
+}
+
+std::vector<Property::Key> NodeImpl::propertyKeys() const
+{
+    std::vector<Property::Key> keys;
+    keys.reserve(m_prototype->properties().size());
+    for (const PropertyDefinition& definition : m_prototype->properties())
+        keys.push_back(definition.key);
+    return keys;
+}
+
+bool NodeImpl::hasOwnValue(Property::Key key) const
+{
+    const int index = m_prototype->indexOf(key);
+    const auto it = findByIndex(m_store.values, index);
+    return index >= 0 && it != m_store.values.end() && it->first == index;
+}
+
+int NodeImpl::getIndexForChild(const NodeImpl* child) const
+{
+    return child && child->m_parent == this ? m_children.indexOf(child) : -1;
+}
+
+QString NodeImpl::displayName() const
+{
+    for (const PropertyKey key : {coreKeys::title(), coreKeys::id()}) {
+        const QString text = valueOfProperty(key).toQString();
+        if (!text.isEmpty())
+            return text;
+    }
+    const QString label = m_document->getMetaLabelForCID(classId());
+    return label.isEmpty() ? findStringForCid(classId()) : label;
+}
+
+QString NodeImpl::unknownContent() const
+{
+    return m_unknown ? *m_unknown : QString();
+}
+
+NodeImpl::PropertyStore* NodeImpl::store(ClassId domain)
+{
+    return domain == INVALID_CID ? &m_store : nullptr;
+}
+
+void NodeImpl::collectStores(std::vector<std::pair<ClassId, PropertyStore*>>& out)
+{
+    out.emplace_back(INVALID_CID, &m_store);
+}
+
+PropertyImpl* NodeImpl::propertyIn(PropertyStore& store, ClassId domain, int index)
+{
+    const auto it = findByIndex(store.objects, index);
+    if (it != store.objects.end() && it->first == index)
+        return it->second;
+    auto* property = new PropertyImpl(this, domain, &store.prototype->properties()[static_cast<size_t>(index)]);
+    store.objects.emplace(it, index, property);
+    return property;
+}
+
+Value NodeImpl::resolved(const Value& stored) const
+{
+    if (stored.type() != Value::NODE || stored.toNode().valid())
+        return stored;
+    NodeImpl* node = m_document->nodeById(stored.toInstanceId());
+    return node ? Value(Node(node)) : stored;
+}
+
+const Value& NodeImpl::PropertyStore::value(int index) const
+{
+    const auto it = findByIndex(values, index);
+    if (it != values.end() && it->first == index)
+        return it->second;
+    return prototype->properties()[static_cast<size_t>(index)].defaultValue;
+}
+
+bool NodeImpl::PropertyStore::setValue(int index, const Value& value)
+{
+    const auto it = findByIndex(values, index);
+    const bool own = it != values.end() && it->first == index;
+    if (value == prototype->properties()[static_cast<size_t>(index)].defaultValue) {
+        if (own)
+            values.erase(it);
+        return own;
+    }
+    if (!own) {
+        values.emplace(it, index, value);
+        return true;
+    }
+    if (it->second == value)
+        return false;
+    it->second = value;
+    return true;
+}
+
+PropertyImpl* NodeImpl::PropertyStore::object(int index) const
+{
+    const auto it = findByIndex(objects, index);
+    return it != objects.end() && it->first == index ? it->second : nullptr;
+}
