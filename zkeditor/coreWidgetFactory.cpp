@@ -1,0 +1,47 @@
+#include "zkeditor/coreWidgetFactory.h"
+
+#include "zkeditor/widgets/confirmingObserverCheckbox.h"
+#include "zkeditor/widgets/groupBox.h"
+#include "zkeditor/widgets/groupRadioButton.h"
+#include "zkeditor/widgets/observerButton.h"
+#include "zkeditor/widgets/observerCheckbox.h"
+#include "zkeditor/widgets/observerStringCheckbox.h"
+#include "zkeditor/widgets/paletteBoxSection.h"
+
+#include <algorithm>
+#include <iterator>
+
+namespace {
+
+template <typename Widget> QWidget* makeFormWidget(QWidget* parent, const QString& name)
+{
+    return new Widget(parent, name);
+}
+
+struct FormWidgetRow
+{
+    const char* className;
+    QWidget* (*make)(QWidget* parent, const QString& name);
+};
+
+constexpr FormWidgetRow s_formWidgets[] = {
+    {"GroupBox", makeFormWidget<GroupBox>},
+    {"PaletteBoxSection", makeFormWidget<PaletteBoxSection>},
+    {"ObserverButton", makeFormWidget<ObserverButton>},
+    {"ObserverCheckBox", makeFormWidget<ObserverCheckBox>},
+    {"ConfirmingObserverCheckBox", makeFormWidget<ConfirmingObserverCheckBox>},
+    {"ObserverStringCheckBox", makeFormWidget<ObserverStringCheckBox>},
+    {"RadioButton", makeFormWidget<RadioButton>},
+};
+
+} // namespace
+
+CoreWidgetFactory::~CoreWidgetFactory() = default;
+
+QWidget* CoreWidgetFactory::createWidget(const QString& className, QWidget* parent, const QString& name)
+{
+    const auto* row = std::find_if(std::begin(s_formWidgets), std::end(s_formWidgets), [&](const FormWidgetRow& entry) {
+        return className == QLatin1String(entry.className);
+    });
+    return row == std::end(s_formWidgets) ? nullptr : row->make(parent, name);
+}

@@ -1,0 +1,11 @@
+#pragma once
+
+#include "zkeditor/formFactory.h"
+
+/// Makes the library's own widgets by class name.
+class ZKEDITOR_EXPORT CoreWidgetFactory : public FormFactory
+{
+public:
+    ~CoreWidgetFactory() override;
+    QWidget* createWidget(const QString& className, QWidget* parent, const QString& name) override;
+};

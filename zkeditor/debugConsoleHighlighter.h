@@ -1,0 +1,18 @@
+#pragma once
+
+#include "zkeditor/export.h"
+
+#include <QSyntaxHighlighter>
+
+/// Colours the paragraphs of the debug console by the first level word, in the order DEBUG, WARNING, FATAL and in any
+/// case of letters, that stands anywhere in them. The last character keeps the default colour.
+class ZKEDITOR_EXPORT DebugConsoleHighlighter : public QSyntaxHighlighter
+{
+    Q_OBJECT
+
+public:
+    explicit DebugConsoleHighlighter(QTextDocument* document);
+
+protected:
+    void highlightBlock(const QString& text) override;
+};

@@ -1,0 +1,16 @@
+#pragma once
+
+#include "zkeditor/export.h"
+
+class QString;
+class QWidget;
+
+/// Makes widgets by class name while a form is read. FormLoader asks every registered factory before the toolkit.
+class ZKEDITOR_EXPORT FormFactory
+{
+public:
+    virtual ~FormFactory() = default;
+
+    /// A new widget with that parent, which owns it, and object name; null for a class that is not this factory's.
+    virtual QWidget* createWidget(const QString& className, QWidget* parent, const QString& name) = 0;
+};

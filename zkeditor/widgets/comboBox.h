@@ -1,0 +1,28 @@
+#pragma once
+
+#include "zkeditor/export.h"
+
+#include <QComboBox>
+
+/// A combo box that fits into narrow palettes and keeps its value while a palette is scrolled past it.
+class ZKEDITOR_EXPORT ComboBox : public QComboBox
+{
+    Q_OBJECT
+
+public:
+    explicit ComboBox(QWidget* parent = nullptr, const QString& name = {});
+
+    /// This object for connections, where a class has more bases than this one.
+    QObject* qObject() { return this; }
+
+    /// As wide as the widest item, but at most 30 average characters.
+    QSize sizeHint() const override;
+    /// Wide enough for 6 average characters, whatever the items.
+    QSize minimumSizeHint() const override;
+
+protected:
+    void wheelEvent(QWheelEvent* event) override;
+
+private:
+    int widthForCharacters(int characters) const;
+};
