@@ -6,9 +6,11 @@
 #include <QString>
 
 /// Evaluates typed text as an arithmetic expression (muParser's operators and functions, pi and e).
-class ZKCORE_EXPORT ExpressionParser {
+class ZKCORE_EXPORT ExpressionParser
+{
 public:
-    class ZKCORE_EXPORT ExpressionResult {
+    class ZKCORE_EXPORT ExpressionResult
+    {
     public:
         ExpressionResult() = default;
         explicit ExpressionResult(double value) : m_value(value) {}
@@ -29,7 +31,7 @@ public:
 
     /// Both the locale's decimal point and '.' are understood.
     static ExpressionResult eval(const QString& text);
-    /// As above; a number may carry a unit that is convertible to the unit shown ("2 in + 3 mm"), and the value is in the
-    /// unit shown. With the null unit, unit texts are malformed.
+    /// As above; a number may carry a unit that is convertible to the unit shown ("2 in + 3 mm"), and the value is in
+    /// the unit shown. With the null unit, unit texts are malformed.
     static ExpressionResult eval(const QString& text, const Unit& shown);
 };

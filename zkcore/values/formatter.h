@@ -10,7 +10,8 @@
 
 /// Turns a value into text and text into a value. A formatter belongs to one property and is light: what a class says
 /// about its format is shared.
-class ZKCORE_EXPORT Formatter {
+class ZKCORE_EXPORT Formatter
+{
 public:
     explicit Formatter(Value::Type type) : m_type(type) {}
     virtual ~Formatter();
@@ -41,7 +42,8 @@ struct NumericalFormat
 
 /// Formats INT, DOUBLE and POINT values in a unit. Text is read with the locale's decimal point and with '.', with or
 /// without the unit behind it, and as an expression ("2 in + 3 mm").
-class ZKCORE_EXPORT NumericalFormatter : public Formatter {
+class ZKCORE_EXPORT NumericalFormatter : public Formatter
+{
 public:
     NumericalFormatter(Value::Type type, std::shared_ptr<const NumericalFormat> format);
 

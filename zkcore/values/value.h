@@ -19,7 +19,8 @@ class Value;
 using ValueMap = std::multimap<QString, Value>;
 
 /// A tagged variant, copied by value; long contents are shared between copies.
-class ZKCORE_EXPORT Value {
+class ZKCORE_EXPORT Value
+{
 public:
     enum Type {
         INVALID = 0,
