@@ -42,7 +42,11 @@ private:
     bool playAll()
     {
         m_xml.setNamespaceProcessing(false);
-        if (!m_xml.readNextStartElement() || m_xml.qualifiedName() != u"zksession")
+        while (!m_xml.atEnd() && m_xml.readNext() != QXmlStreamReader::StartElement) {
+            if (m_xml.isDTD())
+                return fail(tr("document type declarations are not allowed"));
+        }
+        if (m_xml.hasError() || m_xml.qualifiedName() != u"zksession")
             return fail(tr("this is no recorded session"));
         if (m_xml.attributes().value(QLatin1String("version")) != u"1")
             return fail(tr("the format version is missing or not known"));

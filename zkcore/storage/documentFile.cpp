@@ -4,7 +4,6 @@
 #include "zkcore/model/documentImpl.h"
 #include "zkcore/storage/nodeReader.h"
 #include "zkcore/storage/nodeWriter.h"
-#include "zkcore/storage/xmlText.h"
 
 #include <QFileDevice>
 #include <QXmlStreamReader>
@@ -29,33 +28,19 @@ public:
 
     bool read()
     {
-        if (!findRoot() || !readRootAttributes() || !readRootContent())
+        if (m_nodes.nextTag() != Tag::Start)
+            return m_nodes.fault(tr("this is no document"));
+        if (m_xml.qualifiedName() != u"zkdoc")
+            return m_nodes.fault(tr("this is no document: it begins with <%1>").arg(m_xml.qualifiedName()));
+        if (!readRootAttributes() || !readRootContent())
             return false;
         if (!m_hasModel)
             return m_nodes.fault(tr("the document has no model"));
-        return readRest() && m_nodes.check(&m_content.root) && raiseNextId();
+        return m_nodes.readRest() && m_nodes.check(&m_content.root) && raiseNextId();
     }
 
 private:
-    bool findRoot()
-    {
-        for (;;) {
-            switch (m_xml.readNext()) {
-            case QXmlStreamReader::StartElement:
-                return m_xml.qualifiedName() == u"zkdoc" ||
-                       m_nodes.fault(tr("this is no document: it begins with <%1>").arg(m_xml.qualifiedName()));
-            case QXmlStreamReader::DTD:
-                return m_nodes.fault(tr("document type declarations are not allowed"));
-            case QXmlStreamReader::StartDocument:
-            case QXmlStreamReader::Comment:
-            case QXmlStreamReader::ProcessingInstruction:
-            case QXmlStreamReader::Characters:
-                break;
-            default:
-                return m_nodes.fault(tr("this is no document"));
-            }
-        }
-    }
+    using Tag = NodeXml::Reader::Tag;
 
     bool readRootAttributes()
     {
@@ -77,25 +62,12 @@ private:
 
     bool readRootContent()
     {
-        for (;;) {
-            switch (m_xml.readNext()) {
-            case QXmlStreamReader::StartElement:
-                if (!readRootChild())
-                    return false;
-                break;
-            case QXmlStreamReader::EndElement:
-                return true;
-            case QXmlStreamReader::Characters:
-                if (!m_xml.isWhitespace())
-                    return m_nodes.fault(tr("text cannot stand here"));
-                break;
-            case QXmlStreamReader::Comment:
-            case QXmlStreamReader::ProcessingInstruction:
-                break;
-            default:
-                return m_nodes.fault(tr("this cannot stand here"));
-            }
+        Tag tag = Tag::Fault;
+        while ((tag = m_nodes.nextTag()) == Tag::Start) {
+            if (!readRootChild())
+                return false;
         }
+        return tag == Tag::End;
     }
 
     bool readRootChild()
@@ -115,35 +87,23 @@ private:
 
     bool readResources()
     {
-        for (;;) {
-            switch (m_xml.readNext()) {
-            case QXmlStreamReader::StartElement:
-                if (m_xml.qualifiedName() != u"resource")
-                    return m_nodes.fault(tr("<%1> cannot stand here").arg(m_xml.qualifiedName()));
-                if (!readResource())
-                    return false;
-                break;
-            case QXmlStreamReader::EndElement:
-                return true;
-            case QXmlStreamReader::Characters:
-                if (!m_xml.isWhitespace())
-                    return m_nodes.fault(tr("text cannot stand here"));
-                break;
-            case QXmlStreamReader::Comment:
-            case QXmlStreamReader::ProcessingInstruction:
-                break;
-            default:
-                return m_nodes.fault(tr("this cannot stand here"));
-            }
+        Tag tag = Tag::Fault;
+        while ((tag = m_nodes.nextTag()) == Tag::Start) {
+            if (m_xml.qualifiedName() != u"resource")
+                return m_nodes.fault(tr("<%1> cannot stand here").arg(m_xml.qualifiedName()));
+            if (!readResource())
+                return false;
         }
+        return tag == Tag::End;
     }
 
     bool readResource()
     {
         const QXmlStreamAttributes attributes = m_xml.attributes();
-        const QString name = attributes.value(QLatin1String("name")).toString();
+        const QString name = valueFromText(Value::STRING, attributes.value(QLatin1String("name"))).toQString();
         const QString typeText = attributes.value(QLatin1String("type")).toString();
-        const QString extension = attributes.value(QLatin1String("extension")).toString();
+        const QString extension =
+            valueFromText(Value::STRING, attributes.value(QLatin1String("extension"))).toQString();
         const Resource::Type type = Resource::typeFromString(typeText);
         if (!name.startsWith(u"local/") || name.size() == 6)
             return m_nodes.fault(tr("\"%1\" is no name of a document's resource").arg(name));
@@ -174,21 +134,6 @@ private:
         return true;
     }
 
-    /// Behind the root element there is white space only.
-    bool readRest()
-    {
-        for (;;) {
-            switch (m_xml.readNext()) {
-            case QXmlStreamReader::EndDocument:
-                return true;
-            case QXmlStreamReader::Characters:
-                break;
-            default:
-                return m_nodes.fault(tr("nothing can stand after </zkdoc>"));
-            }
-        }
-    }
-
     bool raiseNextId()
     {
         const InstanceId least = m_nodes.highestId() + 1;
@@ -215,9 +160,9 @@ void writeResources(QXmlStreamWriter& xml, const std::vector<Resource>& resource
         if (!entry)
             continue;
         xml.writeStartElement(QStringLiteral("resource"));
-        xml.writeAttribute(QStringLiteral("name"), xmlText::holdable(entry->name()));
+        xml.writeAttribute(QStringLiteral("name"), valueToText(Value(entry->name())));
         xml.writeAttribute(QStringLiteral("type"), Resource::typeAsString(entry->type()));
-        xml.writeAttribute(QStringLiteral("extension"), xmlText::holdable(entry->extension()));
+        xml.writeAttribute(QStringLiteral("extension"), valueToText(Value(entry->extension())));
         xml.writeCharacters(QString::fromLatin1(entry->data().toBase64()));
         xml.writeEndElement();
     }
@@ -262,7 +207,7 @@ bool DocumentFile::write(QIODevice& device, const DocumentImpl& document, QStrin
     xml.writeStartDocument();
     xml.writeStartElement(QStringLiteral("zkdoc"));
     xml.writeAttribute(QStringLiteral("version"), QString::number(formatVersion));
-    xml.writeAttribute(QStringLiteral("next-id"), QString::number(document.m_nextId));
+    xml.writeAttribute(QStringLiteral("next-id"), QString::number(document.nextFreeId()));
     writeResources(xml, document.localResources());
     NodeXml::Writer nodes(xml);
     nodes.write(*document.m_model);

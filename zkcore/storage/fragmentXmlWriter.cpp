@@ -87,11 +87,13 @@ bool FragmentXMLWriter::read(const QByteArray& fragment, NodeDb& db, std::vector
     QStringList warnings;
     NodeXml::Reader reader(xml, db, warnings);
     const auto readAll = [&] {
-        if (!xml.readNextStartElement() || xml.qualifiedName() != u"zkfragment")
+        using Tag = NodeXml::Reader::Tag;
+        if (reader.nextTag() != Tag::Start || xml.qualifiedName() != u"zkfragment")
             return reader.fault(NodeXml::Reader::tr("this is no fragment"));
         if (xml.attributes().value(QLatin1String("version")) != QString::number(fragmentVersion))
             return reader.fault(NodeXml::Reader::tr("the format version is missing or not known"));
-        while (xml.readNextStartElement()) {
+        Tag tag = Tag::Fault;
+        while ((tag = reader.nextTag()) == Tag::Start) {
             NodeKind kind{};
             if (!NodeXml::Reader::kindOf(xml.qualifiedName(), kind) ||
                 (kind != NodeKind::Part && kind != NodeKind::Subpart))
@@ -99,9 +101,7 @@ bool FragmentXMLWriter::read(const QByteArray& fragment, NodeDb& db, std::vector
             if (!reader.readNode(nodes.emplace_back()))
                 return false;
         }
-        while (!xml.atEnd())
-            xml.readNext();
-        return !xml.hasError() && reader.check(nullptr);
+        return tag == Tag::End && reader.readRest() && reader.check(nullptr);
     };
     if (readAll())
         return true;

@@ -263,46 +263,74 @@ bool NodeXml::Reader::readNode(NodeSnapshot& node)
     return done;
 }
 
-bool NodeXml::Reader::readContent(NodeSnapshot& node, ClassInfo& info)
+NodeXml::Reader::Tag NodeXml::Reader::nextTag()
 {
-    const size_t firstEntry = m_entries.size();
     for (;;) {
         switch (m_xml.readNext()) {
-        case QXmlStreamReader::StartElement: {
-            const QStringView element = m_xml.qualifiedName();
-            NodeKind kind{};
-            bool done = false;
-            if (element == u"value") {
-                done = readValue(node, info, firstEntry, node.unknownContent);
-            } else if (kindOf(element, kind)) {
-                done = readChild(node, kind);
-            } else if (element == u"domain") {
-                done = readDomain(node, firstEntry);
-            } else {
-                warn(tr("<%1> is not known; kept as it is").arg(element));
-                done = xmlText::appendElement(m_xml, node.unknownContent);
-            }
-            if (!done)
-                return false;
-            break;
-        }
-        case QXmlStreamReader::EndElement: {
-            const auto first = m_entries.begin() + static_cast<std::ptrdiff_t>(firstEntry);
-            node.values.assign(std::make_move_iterator(first), std::make_move_iterator(m_entries.end()));
-            m_entries.erase(first, m_entries.end());
-            return true;
-        }
+        case QXmlStreamReader::StartElement:
+            return Tag::Start;
+        case QXmlStreamReader::EndElement:
+            return Tag::End;
         case QXmlStreamReader::Characters:
-            if (!m_xml.isWhitespace())
-                return fault(tr("text cannot stand here"));
-            break;
+            if (m_xml.isWhitespace())
+                break;
+            fault(tr("text cannot stand here"));
+            return Tag::Fault;
+        case QXmlStreamReader::StartDocument:
         case QXmlStreamReader::Comment:
         case QXmlStreamReader::ProcessingInstruction:
             break;
+        case QXmlStreamReader::DTD:
+            fault(tr("document type declarations are not allowed"));
+            return Tag::Fault;
         default:
-            return fault(tr("this cannot stand here"));
+            fault(tr("this cannot stand here"));
+            return Tag::Fault;
         }
     }
+}
+
+bool NodeXml::Reader::readRest()
+{
+    for (;;) {
+        switch (m_xml.readNext()) {
+        case QXmlStreamReader::EndDocument:
+            return true;
+        case QXmlStreamReader::Characters:
+            break;
+        default:
+            return fault(tr("nothing can stand after the end of the document"));
+        }
+    }
+}
+
+bool NodeXml::Reader::readContent(NodeSnapshot& node, ClassInfo& info)
+{
+    const size_t firstEntry = m_entries.size();
+    Tag tag = Tag::Fault;
+    while ((tag = nextTag()) == Tag::Start) {
+        const QStringView element = m_xml.qualifiedName();
+        NodeKind kind{};
+        bool done = false;
+        if (element == u"value") {
+            done = readValue(node, info, firstEntry, node.unknownContent);
+        } else if (kindOf(element, kind)) {
+            done = readChild(node, kind);
+        } else if (element == u"domain") {
+            done = readDomain(node, firstEntry);
+        } else {
+            warn(tr("<%1> is not known; kept as it is").arg(element));
+            done = xmlText::appendElement(m_xml, node.unknownContent);
+        }
+        if (!done)
+            return false;
+    }
+    if (tag == Tag::Fault)
+        return false;
+    const auto first = m_entries.begin() + static_cast<std::ptrdiff_t>(firstEntry);
+    node.values.assign(std::make_move_iterator(first), std::make_move_iterator(m_entries.end()));
+    m_entries.erase(first, m_entries.end());
+    return true;
 }
 
 bool NodeXml::Reader::readChild(NodeSnapshot& node, NodeKind kind)
@@ -335,36 +363,25 @@ bool NodeXml::Reader::readDomain(NodeSnapshot& node, size_t firstEntry)
         }
     }
     QString unknown;
-    for (;;) {
-        switch (m_xml.readNext()) {
-        case QXmlStreamReader::StartElement:
-            if (m_xml.qualifiedName() == u"value") {
-                if (!readValue(node, *info, firstEntry, unknown))
-                    return false;
-            } else {
-                warn(tr("<%1> is not known; kept as it is").arg(m_xml.qualifiedName()));
-                if (!xmlText::appendElement(m_xml, unknown))
-                    return false;
-            }
-            break;
-        case QXmlStreamReader::EndElement:
-            if (!unknown.isEmpty()) {
-                xmlText::appendOpenTag(node.unknownContent, u"domain");
-                xmlText::appendAttribute(node.unknownContent, u"class", info->text);
-                node.unknownContent += u'>';
-                node.unknownContent += unknown;
-                node.unknownContent += u"</domain>";
-            }
-            return true;
-        case QXmlStreamReader::Characters:
-            if (!m_xml.isWhitespace())
-                return fault(tr("text cannot stand here"));
-            break;
-        case QXmlStreamReader::Comment:
-        case QXmlStreamReader::ProcessingInstruction:
-            break;
-        default:
-            return fault(tr("this cannot stand here"));
+    Tag tag = Tag::Fault;
+    while ((tag = nextTag()) == Tag::Start) {
+        if (m_xml.qualifiedName() == u"value") {
+            if (!readValue(node, *info, firstEntry, unknown))
+                return false;
+        } else {
+            warn(tr("<%1> is not known; kept as it is").arg(m_xml.qualifiedName()));
+            if (!xmlText::appendElement(m_xml, unknown))
+                return false;
         }
     }
+    if (tag == Tag::Fault)
+        return false;
+    if (!unknown.isEmpty()) {
+        xmlText::appendOpenTag(node.unknownContent, u"domain");
+        xmlText::appendAttribute(node.unknownContent, u"class", info->text);
+        node.unknownContent += u'>';
+        node.unknownContent += unknown;
+        node.unknownContent += u"</domain>";
+    }
+    return true;
 }

@@ -34,6 +34,12 @@ public:
 
     /// Every node must have an instance id from now on.
     void requireIds() { m_idsRequired = true; }
+    enum class Tag { Start, End, Fault };
+    /// Reads on to the start of the next element or the end of the one that is open. Text other than white space
+    /// between them is a fault, and so is a document type declaration.
+    Tag nextTag();
+    /// Reads on to the end of the file. False when there is anything but white space.
+    bool readRest();
     /// Reads the node on whose start the XML reader stands.
     bool readNode(NodeSnapshot& node);
     /// After the last node. False when proxies lead in a circle. With a root, warns of references to what is not in it.

@@ -113,8 +113,6 @@ Value NodeXml::Reader::readTyped(QXmlStreamReader& xml, const PropertyDefinition
     }
     if (!readText(xml))
         return {};
-    if (definition.type == Value::STRING)
-        return Value(QString(m_text.constData(), m_text.size()));
     Value value = valueFromText(definition.type, m_text);
     if (!value.isValid()) {
         const QString shown = m_text.size() > 40 ? m_text.left(40) + QStringLiteral("...") : m_text;

@@ -101,10 +101,6 @@ void NodeXml::Writer::startDomain(ClassId domain)
 void NodeXml::Writer::writeContent(const Value& value)
 {
     switch (value.type()) {
-    case Value::STRING:
-    case Value::RESOURCE:
-        xmlText::writeText(m_xml, value.toQString());
-        break;
     case Value::STRINGVECTOR:
     case Value::RESOURCEVECTOR:
     case Value::VALUEVECTOR:

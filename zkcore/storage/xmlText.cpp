@@ -8,35 +8,6 @@ namespace {
 
 constexpr int maximumUnknownDepth = 64;
 
-bool isHoldableUnit(char16_t unit)
-{
-    return unit >= 0x20 ? unit < 0xfffe : unit == u'\t' || unit == u'\n' || unit == u'\r';
-}
-
-/// Whether all of the text can stand in XML; notes whether it has carriage returns, which readers would take for line
-/// ends.
-bool scanXmlText(QStringView text, bool& hasReturns)
-{
-    const qsizetype size = text.size();
-    for (qsizetype i = 0; i < size; ++i) {
-        const char16_t unit = text[i].unicode();
-        if (unit >= 0x20 && unit < 0xd800)
-            continue;
-        if (unit == u'\r')
-            hasReturns = true;
-        if (!isHoldableUnit(unit))
-            return false;
-        if (QChar::isLowSurrogate(unit))
-            return false;
-        if (QChar::isHighSurrogate(unit)) {
-            if (i + 1 == size || !text[i + 1].isLowSurrogate())
-                return false;
-            ++i;
-        }
-    }
-    return true;
-}
-
 void appendEscaped(QString& out, QStringView text, bool attribute)
 {
     for (const QChar c : text) {
@@ -77,6 +48,20 @@ void appendEscaped(QString& out, QStringView text, bool attribute)
     }
 }
 
+/// Readers take a carriage return for a line end unless it is written as a reference.
+void writeTextWithReturns(QXmlStreamWriter& writer, const QString& text)
+{
+    qsizetype from = 0;
+    for (;;) {
+        const qsizetype end = text.indexOf(u'\r', from);
+        writer.writeCharacters(text.mid(from, end < 0 ? -1 : end - from));
+        if (end < 0)
+            return;
+        writer.writeEntityReference(QStringLiteral("#13"));
+        from = end + 1;
+    }
+}
+
 bool refuseUnknown(QXmlStreamReader& reader, const char* reason)
 {
     reader.raiseError(QCoreApplication::translate("DocumentFile", reason));
@@ -84,43 +69,6 @@ bool refuseUnknown(QXmlStreamReader& reader, const char* reason)
 }
 
 } // namespace
-
-QString xmlText::holdable(const QString& text)
-{
-    bool hasReturns = false;
-    if (scanXmlText(text, hasReturns))
-        return text;
-    QString result = text;
-    for (qsizetype i = 0; i < result.size(); ++i) {
-        const QChar c = result[i];
-        if (c.isHighSurrogate() && i + 1 < result.size() && result[i + 1].isLowSurrogate())
-            ++i;
-        else if (c.isSurrogate() || !isHoldableUnit(c.unicode()))
-            result[i] = QChar(QChar::ReplacementCharacter);
-    }
-    return result;
-}
-
-void xmlText::writeText(QXmlStreamWriter& writer, const QString& text)
-{
-    bool hasReturns = false;
-    const bool allHoldable = scanXmlText(text, hasReturns);
-    if (allHoldable && !hasReturns) {
-        if (!text.isEmpty())
-            writer.writeCharacters(text);
-        return;
-    }
-    const QString clean = holdable(text);
-    qsizetype from = 0;
-    for (;;) {
-        const qsizetype end = clean.indexOf(u'\r', from);
-        writer.writeCharacters(clean.mid(from, end < 0 ? -1 : end - from));
-        if (end < 0)
-            return;
-        writer.writeEntityReference(QStringLiteral("#13"));
-        from = end + 1;
-    }
-}
 
 void xmlText::appendOpenTag(QString& out, QStringView name)
 {
@@ -239,7 +187,7 @@ void xmlText::writeElements(QXmlStreamWriter& writer, const QString& elements)
             break;
         case QXmlStreamReader::Characters:
             if (depth > 1)
-                writeText(writer, reader.text().toString());
+                writeTextWithReturns(writer, reader.text().toString());
             break;
         case QXmlStreamReader::Comment:
             writer.writeComment(reader.text().toString());

@@ -5,16 +5,11 @@
 class QXmlStreamReader;
 class QXmlStreamWriter;
 
-/// Text and unknown elements in XML, kept exactly.
+/// Elements that nothing here understands, kept as XML.
 namespace xmlText {
 
 /// Greatest length of one value's text, in characters.
 constexpr qsizetype maximumLength = 64 * 1024 * 1024;
-
-/// The text with what XML cannot hold (control characters, half surrogate pairs) replaced by U+FFFD.
-QString holdable(const QString& text);
-/// Writes text so that reading gives it back; what XML cannot hold is replaced.
-void writeText(QXmlStreamWriter& writer, const QString& text);
 
 /// Adds to `out`, as XML, the element on whose start the reader stands, with everything in it, and leaves the reader on
 /// its end. False when that raised an error (too deep, too long, damaged).
