@@ -1,0 +1,55 @@
+#pragma once
+
+#include <QString>
+
+class QAction;
+class QMainWindow;
+class QMenu;
+
+/// The actions, menus and tool bar of the main window. Owned by the window, which connects them.
+struct Actions
+{
+    explicit Actions(QMainWindow* window);
+
+    QAction* newDocument;
+    QAction* open;
+    QAction* save;
+    QAction* saveAs;
+    QAction* revert;
+    QAction* close;
+    QAction* quit;
+
+    QAction* undo;
+    QAction* redo;
+    QAction* cut;
+    QAction* copy;
+    QAction* paste;
+    QAction* duplicate;
+    QAction* remove;
+    QAction* selectAll;
+    QAction* selectNext;
+    QAction* selectPrevious;
+    QAction* rotateLeft;
+    QAction* rotateRight;
+
+    QAction* zoomIn;
+    QAction* zoomOut;
+    QAction* zoomNormal;
+    QAction* zoomFit;
+    QAction* openPopup;
+
+    QAction* addScene;
+    QAction* removeScene;
+
+    QAction* about;
+
+    QMenu* recentMenu;
+    QMenu* editMenu;
+    QMenu* viewMenu;
+    QMenu* insertMenu;
+    QMenu* partMenu; ///< for the right mouse button
+
+private:
+    void makeMenus(QMainWindow* window);
+    void makeToolBar(QMainWindow* window);
+};

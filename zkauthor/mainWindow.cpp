@@ -1,0 +1,454 @@
+#include "zkauthor/mainWindow.h"
+
+#include "zkauthor/actions.h"
+#include "zkauthor/formsDock.h"
+#include "zkauthor/partEditor.h"
+#include "zkauthor/recentFiles.h"
+#include "zkauthor/sceneView.h"
+#include "zkauthor/spaceTabs.h"
+#include "zkcore/commands/addNodesCommand.h"
+#include "zkcore/commands/deleteNodeCommand.h"
+#include "zkcore/media/imageCache.h"
+#include "zkcore/model/documentImpl.h"
+#include "zkcore/model/view.h"
+#include "zkcore/services/crashHandler.h"
+#include "zkcore/services/productPackage.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QClipboard>
+#include <QCloseEvent>
+#include <QDir>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QLabel>
+#include <QLocale>
+#include <QMenu>
+#include <QMessageBox>
+#include <QStatusBar>
+
+MainWindow::MainWindow(QWidget* parent)
+    : QMainWindow(parent), m_views(new ViewManager(this)), m_editor(new PartEditor(this)),
+      m_recent(new RecentFiles(this)), m_tabs(new SpaceTabs(m_views, m_editor)), m_forms(new FormsDock),
+      m_actions(std::make_unique<Actions>(this)), m_selectionText(new QLabel), m_pointerText(new QLabel),
+      m_zoomText(new QLabel)
+{
+    setObjectName(QStringLiteral("mainWindow"));
+    setCentralWidget(m_tabs);
+    addDockWidget(Qt::RightDockWidgetArea, m_forms);
+    resizeDocks({m_forms}, {320}, Qt::Horizontal);
+    resize(1180, 760);
+
+    for (const auto& [label, name] :
+         {std::pair{m_selectionText, tr("Selection")}, std::pair{m_pointerText, tr("Place of the mouse pointer")},
+          std::pair{m_zoomText, tr("Zoom")}}) {
+        label->setAccessibleName(name);
+        label->setToolTip(name);
+        statusBar()->addPermanentWidget(label);
+    }
+    m_pointerText->setMinimumWidth(fontMetrics().horizontalAdvance(QStringLiteral("0000.0, 0000.0 mm")));
+
+    m_recent->attachTo(m_actions->recentMenu);
+    QAction* toggle = m_forms->toggleViewAction();
+    toggle->setText(tr("&Properties"));
+    toggle->setShortcut(QKeySequence(QStringLiteral("F4")));
+    m_actions->viewMenu->addAction(toggle);
+    connectActions();
+    setDocument(new DocumentImpl);
+}
+
+MainWindow::~MainWindow()
+{
+    // Everything lets go of the document before it goes.
+    m_forms->setDocument(nullptr);
+    m_tabs->setDocument(nullptr);
+    m_editor->setDocument(nullptr);
+    delete m_document;
+}
+
+void MainWindow::connectActions()
+{
+    const auto on = [this](QAction* action, auto function) { connect(action, &QAction::triggered, this, function); };
+    on(m_actions->newDocument, &MainWindow::newDocument);
+    on(m_actions->open, &MainWindow::open);
+    on(m_actions->save, &MainWindow::save);
+    on(m_actions->saveAs, &MainWindow::saveAs);
+    on(m_actions->revert, &MainWindow::revert);
+    on(m_actions->close, &MainWindow::closeDocument);
+    on(m_actions->quit, &MainWindow::close);
+
+    on(m_actions->undo, &MainWindow::undo);
+    on(m_actions->redo, &MainWindow::redo);
+    on(m_actions->cut, [this] {
+        edit([this](SpaceImpl* space) { return m_editor->copySelection(space) && m_editor->deleteSelection(); });
+    });
+    on(m_actions->copy, [this] { edit([this](SpaceImpl* space) { return m_editor->copySelection(space); }); });
+    on(m_actions->paste, [this] { edit([this](SpaceImpl* space) { return m_editor->paste(space); }); });
+    on(m_actions->duplicate,
+       [this] { edit([this](SpaceImpl* space) { return m_editor->duplicateSelection(space); }); });
+    on(m_actions->remove, [this] { edit([this](SpaceImpl*) { return m_editor->deleteSelection(); }); });
+    on(m_actions->rotateLeft,
+       [this] { edit([this](SpaceImpl* space) { return m_editor->rotateSelection(space, -1); }); });
+    on(m_actions->rotateRight,
+       [this] { edit([this](SpaceImpl* space) { return m_editor->rotateSelection(space, 1); }); });
+
+    const auto onView = [this](QAction* action, auto function) {
+        connect(action, &QAction::triggered, this, [this, function] {
+            m_forms->commitPendingEdit();
+            if (SceneView* view = m_tabs->currentView())
+                function(view);
+        });
+    };
+    onView(m_actions->selectAll, [](SceneView* view) { view->selectAllParts(); });
+    onView(m_actions->selectNext, [](SceneView* view) { view->selectNext(false); });
+    onView(m_actions->selectPrevious, [](SceneView* view) { view->selectNext(true); });
+    onView(m_actions->zoomIn, [](SceneView* view) { view->zoomIn(); });
+    onView(m_actions->zoomOut, [](SceneView* view) { view->zoomOut(); });
+    onView(m_actions->zoomNormal, [](SceneView* view) { view->setZoom(1); });
+    onView(m_actions->zoomFit, [](SceneView* view) { view->zoomToFit(); });
+    on(m_actions->openPopup, &MainWindow::openPopup);
+    on(m_actions->addScene, &MainWindow::addScene);
+    on(m_actions->removeScene, &MainWindow::removeScene);
+    on(m_actions->about, &MainWindow::about);
+
+    // Delete pressed in a check box of the forms must not delete the part.
+    m_actions->remove->setShortcutContext(Qt::WidgetWithChildrenShortcut);
+    m_tabs->addAction(m_actions->remove);
+
+    connect(m_recent, &RecentFiles::chosen, this, &MainWindow::openRecent);
+    connect(m_editor, &PartEditor::failed, this,
+            [this](const QString& reason) { showError(tr("That could not be done."), reason); });
+    connect(m_tabs, &SpaceTabs::currentSpaceChanged, this, &MainWindow::onCurrentSpaceChanged);
+    connect(m_tabs, &SpaceTabs::pointerMoved, this, &MainWindow::showPointer);
+    connect(m_tabs, &SpaceTabs::pointerLeft, m_pointerText, &QLabel::clear);
+    connect(m_tabs, &SpaceTabs::zoomChanged, this,
+            [this](double zoom) { m_zoomText->setText(tr("%1 %").arg(QLocale().toString(qRound(zoom * 100)))); });
+    connect(m_tabs, &SpaceTabs::menuRequested, this,
+            [this](const QPoint& place) { m_actions->partMenu->popup(place); });
+    connect(QGuiApplication::clipboard(), &QClipboard::dataChanged, this, &MainWindow::updateActions);
+    connect(m_actions->insertMenu, &QMenu::aboutToShow, this, &MainWindow::fillInsertMenu);
+}
+
+template <typename Function> void MainWindow::edit(Function function)
+{
+    m_forms->commitPendingEdit();
+    if (SpaceImpl* space = m_tabs->currentSpace())
+        function(space);
+}
+
+void MainWindow::setDocument(DocumentImpl* document)
+{
+    DocumentImpl* old = m_document;
+    if (old)
+        disconnect(old, nullptr, this, nullptr);
+    m_forms->setDocument(nullptr);
+    m_tabs->setDocument(nullptr);
+
+    m_document = document;
+    connect(document, &DocumentImpl::modifiedChanged, this, &MainWindow::updateTitle);
+    connect(document, &DocumentImpl::saved, this, &MainWindow::updateTitle);
+    connect(document, &DocumentImpl::Loaded, this, &MainWindow::updateTitle);
+    connect(document, &DocumentImpl::undoStateChanged, this, &MainWindow::updateUndoActions);
+    connect(document, &DocumentImpl::SelectionChanged, this, &MainWindow::updateActions);
+    m_editor->setDocument(document);
+    m_forms->setDocument(document);
+    m_tabs->setDocument(document);
+    delete old;
+    updateTitle();
+    updateUndoActions();
+    updateActions();
+}
+
+QString MainWindow::fileName() const
+{
+    return m_document->getUrl().toLocalFile();
+}
+
+void MainWindow::updateTitle()
+{
+    const QString file = fileName();
+    const QString name = file.isEmpty() ? tr("Untitled") : QFileInfo(file).fileName();
+    setWindowTitle(QStringLiteral("%1[*] - zkauthor").arg(name));
+    CrashHandler::setOpenDocument(file);
+    setWindowModified(m_document->isModified());
+    m_actions->revert->setEnabled(!file.isEmpty() && m_document->isModified());
+}
+
+void MainWindow::updateUndoActions()
+{
+    m_actions->undo->setEnabled(m_document->canUndo());
+    m_actions->redo->setEnabled(m_document->canRedo());
+    const auto text = [](QString step) { return step.replace(QLatin1Char('&'), QLatin1String("&&")); };
+    m_actions->undo->setText(m_document->canUndo() ? tr("&Undo %1").arg(text(m_document->undoText())) : tr("&Undo"));
+    m_actions->redo->setText(m_document->canRedo() ? tr("&Redo %1").arg(text(m_document->redoText())) : tr("&Redo"));
+}
+
+void MainWindow::updateActions()
+{
+    const ElementImplSet selection = m_document->getSelection();
+    const bool any = !selection.empty();
+    for (QAction* action : {m_actions->cut, m_actions->copy, m_actions->duplicate, m_actions->remove,
+                            m_actions->rotateLeft, m_actions->rotateRight})
+        action->setEnabled(any);
+    m_actions->paste->setEnabled(m_editor->canPaste());
+    const auto* part = selection.size() == 1 ? qobject_cast<PartImpl*>(*selection.begin()) : nullptr;
+    m_actions->openPopup->setEnabled(part && part->popup());
+    const SpaceImpl* space = m_tabs->currentSpace();
+    m_actions->removeScene->setEnabled(space && space->kind() == NodeKind::Scene &&
+                                       m_document->getModel()->childCount() > 1);
+    updateSelectionText();
+}
+
+void MainWindow::updateSelectionText()
+{
+    const size_t count = m_document->getSelection().size();
+    m_selectionText->setText(count == 0 ? tr("Nothing selected") : tr("%n selected", nullptr, int(count)));
+}
+
+void MainWindow::showPointer(const QPointF& place)
+{
+    const QLocale locale;
+    m_pointerText->setText(tr("%1, %2 mm").arg(locale.toString(place.x(), 'f', 1), locale.toString(place.y(), 'f', 1)));
+}
+
+void MainWindow::onCurrentSpaceChanged()
+{
+    m_forms->setSpace(m_tabs->currentSpace());
+    updateActions();
+}
+
+void MainWindow::fillInsertMenu()
+{
+    QMenu* menu = m_actions->insertMenu;
+    menu->clear();
+    for (QObject* child : menu->findChildren<QMenu*>(QString(), Qt::FindDirectChildrenOnly))
+        child->deleteLater();
+    for (const PartsTreeStructure::Folder& folder : m_document->getPartsTreeStructure().folders) {
+        QMenu* group = menu->addMenu(folder.label);
+        for (const ClassId cid : folder.classes) {
+            QAction* action = group->addAction(m_document->getMetaLabelForCID(cid));
+            const Resource icon = m_document->getMetaIconForCID(cid);
+            if (icon.isValid())
+                action->setIcon(QIcon(ImageCache::getPixmap(icon, true)));
+            action->setData(cid);
+            connect(action, &QAction::triggered, this, [this, cid] { addPart(cid); });
+        }
+    }
+    menu->addSeparator();
+    menu->addActions({m_actions->addScene, m_actions->removeScene});
+}
+
+void MainWindow::addPart(unsigned int cid)
+{
+    edit([this, cid](SpaceImpl* space) {
+        SceneView* view = m_tabs->currentView();
+        view->setFocus();
+        return m_editor->addPart(space, cid, view->visibleCentre());
+    });
+}
+
+void MainWindow::addScene()
+{
+    m_forms->commitPendingEdit();
+    const Value scene = m_document->executeCommand(new AddSceneCommand(Model(m_document->getModel())));
+    if (auto* added = qobject_cast<SpaceImpl*>(scene.toNode().impl()))
+        m_tabs->showSpace(added);
+    else
+        showError(tr("That could not be done."), m_document->lastError());
+}
+
+void MainWindow::removeScene()
+{
+    m_forms->commitPendingEdit();
+    SpaceImpl* space = m_tabs->currentSpace();
+    if (!space || space->kind() != NodeKind::Scene)
+        return;
+    if (!m_document->executeCommand(new DeleteNodeCommand(Node(space), Command::PushUndo)).isValid())
+        showError(tr("That could not be done."), m_document->lastError());
+}
+
+void MainWindow::openPopup()
+{
+    const ElementImplSet selection = m_document->getSelection();
+    const auto* part = selection.size() == 1 ? qobject_cast<PartImpl*>(*selection.begin()) : nullptr;
+    if (part && part->popup())
+        m_tabs->showSpace(part->popup());
+}
+
+void MainWindow::undo()
+{
+    m_forms->commitPendingEdit();
+    m_document->undo();
+}
+
+void MainWindow::redo()
+{
+    m_forms->commitPendingEdit();
+    m_document->redo();
+}
+
+bool MainWindow::openFile(const QString& fileName, QString& error)
+{
+    auto document = std::make_unique<DocumentImpl>();
+    if (!document->load(fileName)) {
+        error = document->lastError();
+        return false;
+    }
+    for (const QString& warning : document->loadWarnings())
+        qWarning("MainWindow: %s", qPrintable(warning));
+    setDocument(document.release());
+    return true;
+}
+
+bool MainWindow::openStartDocument(const QString& fileName, QString& error)
+{
+    if (!openFile(fileName, error))
+        return false;
+    m_recent->add(fileName);
+    return true;
+}
+
+bool MainWindow::selectParts(const QStringList& ids, QString& error)
+{
+    ElementImplSet elements;
+    SpaceImpl* space = nullptr;
+    for (const QString& id : ids) {
+        auto* element = qobject_cast<ElementImpl*>(m_document->nodeWithId(id));
+        bool number = false;
+        const InstanceId instance = id.toUInt(&number);
+        if (!element && number)
+            element = qobject_cast<ElementImpl*>(m_document->nodeById(instance));
+        if (!element) {
+            error = tr("There is no part with the id \"%1\".").arg(id);
+            return false;
+        }
+        if (!space)
+            space = element->space();
+        elements.insert(element);
+    }
+    if (space)
+        m_tabs->showSpace(space);
+    m_document->setSelection(elements);
+    return true;
+}
+
+void MainWindow::newDocument()
+{
+    if (mayDiscard())
+        setDocument(new DocumentImpl);
+}
+
+void MainWindow::open()
+{
+    if (!mayDiscard())
+        return;
+    const QString folder = fileName().isEmpty() ? QString() : QFileInfo(fileName()).path();
+    const QString file =
+        QFileDialog::getOpenFileName(this, tr("Open"), folder, ProductPackage::instance().getLoadFilters());
+    if (file.isEmpty())
+        return;
+    QString error;
+    if (!openStartDocument(file, error))
+        showError(tr("%1 cannot be opened.").arg(QFileInfo(file).fileName()), error);
+}
+
+void MainWindow::openRecent(const QString& file)
+{
+    if (!mayDiscard())
+        return;
+    QString error;
+    if (!openStartDocument(file, error)) {
+        m_recent->remove(file);
+        showError(tr("%1 cannot be opened.").arg(QFileInfo(file).fileName()), error);
+    }
+}
+
+bool MainWindow::save()
+{
+    return fileName().isEmpty() ? saveAs() : saveTo(fileName());
+}
+
+bool MainWindow::saveAs()
+{
+    m_forms->commitPendingEdit();
+    QFileDialog dialog(this, tr("Save As"), QString(), ProductPackage::instance().getSaveFilter());
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setDefaultSuffix(ProductPackage::instance().documentExtension());
+    if (!fileName().isEmpty()) {
+        dialog.setDirectory(QFileInfo(fileName()).path());
+        dialog.selectFile(QFileInfo(fileName()).fileName());
+    }
+    if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty())
+        return false;
+    return saveTo(dialog.selectedFiles().constFirst());
+}
+
+bool MainWindow::saveTo(const QString& file)
+{
+    m_forms->commitPendingEdit();
+    if (!m_document->save(file)) {
+        showError(tr("%1 could not be saved.").arg(QFileInfo(file).fileName()), m_document->lastError());
+        return false;
+    }
+    m_recent->add(file);
+    statusBar()->showMessage(tr("Saved %1").arg(QDir::toNativeSeparators(file)), 4000);
+    return true;
+}
+
+void MainWindow::revert()
+{
+    m_forms->commitPendingEdit();
+    if (fileName().isEmpty() || !m_document->isModified())
+        return;
+    const auto answer = QMessageBox::question(
+        this, tr("Revert"), tr("Lose all changes made since %1 was last saved?").arg(QFileInfo(fileName()).fileName()),
+        QMessageBox::Discard | QMessageBox::Cancel, QMessageBox::Cancel);
+    if (answer != QMessageBox::Discard)
+        return;
+    const QString file = fileName();
+    QString error;
+    if (!openFile(file, error))
+        showError(tr("%1 cannot be opened.").arg(QFileInfo(file).fileName()), error);
+}
+
+void MainWindow::closeDocument()
+{
+    newDocument();
+}
+
+bool MainWindow::mayDiscard()
+{
+    m_forms->commitPendingEdit();
+    if (!m_document->isModified())
+        return true;
+    const QString name = fileName().isEmpty() ? tr("Untitled") : QFileInfo(fileName()).fileName();
+    const auto answer =
+        QMessageBox::question(this, tr("Changes not saved"), tr("Save the changes to %1?").arg(name),
+                              QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel, QMessageBox::Save);
+    if (answer == QMessageBox::Save)
+        return save();
+    return answer == QMessageBox::Discard;
+}
+
+void MainWindow::closeEvent(QCloseEvent* event)
+{
+    if (mayDiscard())
+        event->accept();
+    else
+        event->ignore();
+}
+
+void MainWindow::showError(const QString& text, const QString& reason)
+{
+    QMessageBox box(QMessageBox::Warning, QStringLiteral("zkauthor"), text, QMessageBox::Ok, this);
+    box.setInformativeText(reason);
+    box.exec();
+}
+
+void MainWindow::about()
+{
+    QMessageBox::about(this, tr("About zkauthor"),
+                       tr("zkauthor %1\n\nShows and edits interactive teaching models: scenes with parts, their "
+                          "connections and properties.")
+                           .arg(QStringLiteral(ZK_VERSION)));
+}

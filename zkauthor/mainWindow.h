@@ -1,0 +1,89 @@
+#pragma once
+
+#include <QMainWindow>
+#include <memory>
+
+struct Actions;
+class DocumentImpl;
+class FormsDock;
+class PartEditor;
+class QLabel;
+class QMenu;
+class RecentFiles;
+class SceneView;
+class SpaceTabs;
+class ViewManager;
+
+/// The main window: one document, its scenes and pop-ups in tabs, and the forms of what is selected.
+class MainWindow : public QMainWindow
+{
+    Q_OBJECT
+
+public:
+    /// Begins with a new document.
+    explicit MainWindow(QWidget* parent = nullptr);
+    ~MainWindow() override;
+
+    DocumentImpl* document() const { return m_document; }
+    ViewManager* viewManager() const { return m_views; }
+    SpaceTabs* spaceTabs() const { return m_tabs; }
+    FormsDock* formsDock() const { return m_forms; }
+
+    /// Opens the file in place of the present document, without a question. False, with the message, when it cannot be
+    /// read; the present document stays then.
+    bool openFile(const QString& fileName, QString& error);
+    /// As openFile, and puts the file among the recent ones.
+    bool openStartDocument(const QString& fileName, QString& error);
+    /// Selects parts by their "id" texts or instance ids and shows the space in which the first of them stands. False,
+    /// with the message, when one of them is unknown; nothing is selected then.
+    bool selectParts(const QStringList& ids, QString& error);
+    /// The file of the document; empty when it was never saved.
+    QString fileName() const;
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+
+private:
+    void connectActions();
+    void setDocument(DocumentImpl* document);
+    void fillInsertMenu();
+    /// Enters what is being typed, then asks about changes that are not saved. True when the document may go.
+    bool mayDiscard();
+    void newDocument();
+    void open();
+    void openRecent(const QString& fileName);
+    bool save();
+    bool saveAs();
+    bool saveTo(const QString& fileName);
+    void revert();
+    void closeDocument();
+    void showError(const QString& text, const QString& reason);
+    void about();
+
+    void undo();
+    void redo();
+    void addPart(unsigned int cid);
+    void addScene();
+    void removeScene();
+    void openPopup();
+    /// Runs a command of the part editor on the current space, after what is being typed was entered.
+    template <typename Function> void edit(Function function);
+
+    void updateTitle();
+    void updateActions();
+    void updateUndoActions();
+    void updateSelectionText();
+    void showPointer(const QPointF& place);
+    void onCurrentSpaceChanged();
+
+    DocumentImpl* m_document = nullptr;
+    ViewManager* m_views;
+    PartEditor* m_editor;
+    RecentFiles* m_recent;
+    SpaceTabs* m_tabs;
+    FormsDock* m_forms;
+    std::unique_ptr<Actions> m_actions;
+    QLabel* m_selectionText;
+    QLabel* m_pointerText;
+    QLabel* m_zoomText;
+};

@@ -1,0 +1,74 @@
+#include "zkauthor/moveGesture.h"
+
+#include "zkauthor/partRules.h"
+#include "zkcore/commands/setValueCommand.h"
+#include "zkcore/commands/viewCommands.h"
+#include "zkcore/model/coreKeys.h"
+#include "zkcore/model/documentImpl.h"
+#include "zkcore/model/elementImpl.h"
+
+#include <QCoreApplication>
+#include <cmath>
+
+namespace {
+
+// Sums of steps leave no tails of digits in the document.
+double toNanometre(double metres)
+{
+    return std::round(metres * 1e9) / 1e9;
+}
+
+} // namespace
+
+bool MoveGesture::isMovable(const ElementImpl& element)
+{
+    return !isConnection(element) && userMayChange(element, coreKeys::position()) &&
+           !element.isEffectivelyLocked(LockPosition);
+}
+
+bool MoveGesture::begin(DocumentImpl* document, const std::vector<ElementImpl*>& parts)
+{
+    finish();
+    for (const ElementImpl* part : parts) {
+        if (isMovable(*part))
+            m_parts.push_back({part->instanceId(), part->position()});
+    }
+    m_document = document;
+    m_offset = {};
+    m_stepOpen = false;
+    return isActive();
+}
+
+void MoveGesture::moveTo(zk::Point offset)
+{
+    if (!isActive() || !m_document || offset == m_offset)
+        return;
+    if (!m_stepOpen) {
+        const QString text =
+            QCoreApplication::translate("MoveGesture", "Move %n part(s)", nullptr, int(m_parts.size()));
+        m_document->executeCommand(new PushUndoCommand(text));
+        m_stepOpen = true;
+    }
+    m_offset = offset;
+    const bool back = offset == zk::Point{};
+    auto* command = new SetValueCommand(false);
+    for (const Start& start : m_parts) {
+        if (m_document->nodeById(start.id)) {
+            const zk::Point place{toNanometre(start.position.x + offset.x), toNanometre(start.position.y + offset.y)};
+            command->addAddress({start.id, INVALID_CID, coreKeys::position()}, Value(back ? start.position : place));
+        }
+    }
+    m_document->executeCommand(command);
+}
+
+void MoveGesture::finish()
+{
+    m_parts.clear();
+    m_stepOpen = false;
+}
+
+void MoveGesture::cancel()
+{
+    moveTo({});
+    finish();
+}

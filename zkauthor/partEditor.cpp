@@ -1,0 +1,233 @@
+#include "zkauthor/partEditor.h"
+
+#include "zkauthor/partRules.h"
+#include "zkcore/commands/addNodesCommand.h"
+#include "zkcore/commands/deleteNodeCommand.h"
+#include "zkcore/commands/setValueCommand.h"
+#include "zkcore/model/coreKeys.h"
+#include "zkcore/model/documentImpl.h"
+#include "zkcore/storage/addPartDrag.h"
+#include "zkcore/storage/fragmentXmlWriter.h"
+
+#include <QClipboard>
+#include <QGuiApplication>
+#include <QMimeData>
+#include <QSet>
+#include <cmath>
+#include <numbers>
+
+namespace {
+
+// How far copies stand from their originals, in metres.
+constexpr double copyOffset = 0.005;
+
+bool stands(const SpaceImpl& space, zk::Point place)
+{
+    for (const NodeImpl* child : space.children()) {
+        const zk::Point other = child->valueOfProperty(coreKeys::position()).toPoint();
+        if (std::abs(other.x - place.x) < copyOffset / 2 && std::abs(other.y - place.y) < copyOffset / 2)
+            return true;
+    }
+    return false;
+}
+
+void moveSnapshot(NodeSnapshot& node, zk::Point offset)
+{
+    bool placed = false;
+    for (NodeSnapshot::ValueEntry& entry : node.values) {
+        if (entry.key == coreKeys::position() && entry.domain == INVALID_CID && !entry.proxy.isValid()) {
+            const zk::Point old = entry.value.toPoint();
+            entry.value = Value(zk::Point{old.x + offset.x, old.y + offset.y});
+        }
+        placed = placed || entry.key == coreKeys::position();
+    }
+    if (!placed) {
+        NodeSnapshot::ValueEntry entry;
+        entry.key = coreKeys::position();
+        entry.value = Value(offset);
+        node.values.push_back(entry);
+    }
+}
+
+} // namespace
+
+PartEditor::PartEditor(QObject* parent) : QObject(parent) {}
+
+bool PartEditor::execute(Command* command, Value& result)
+{
+    result = m_document->executeCommand(command);
+    if (result.isValid())
+        return true;
+    Q_EMIT failed(m_document->lastError());
+    return false;
+}
+
+bool PartEditor::addPart(SpaceImpl* space, ClassId cid, zk::Point place)
+{
+    if (!m_document || !NodeImpl::valid(space))
+        return false;
+    for (int tries = 0; tries < 20 && stands(*space, place); ++tries)
+        place = {place.x + copyOffset, place.y + copyOffset};
+    Value result;
+    if (!execute(new AddPartCommand(space, cid, place), result))
+        return false;
+    if (auto* element = qobject_cast<ElementImpl*>(result.toNode().impl()))
+        m_document->setSelection({element});
+    return true;
+}
+
+bool PartEditor::deleteSelection()
+{
+    if (!m_document || m_document->getSelection().empty())
+        return false;
+    std::vector<Node> nodes;
+    for (ElementImpl* element : m_document->getSelection())
+        nodes.emplace_back(element);
+    Value result;
+    return execute(new DeleteNodeCommand(nodes, Command::PushUndo), result);
+}
+
+bool PartEditor::rotateSelection(const SpaceImpl* space, int quarters)
+{
+    if (!m_document)
+        return false;
+    constexpr double turn = 2 * std::numbers::pi;
+    auto command = std::make_unique<SetValueCommand>(true);
+    bool any = false;
+    for (const ElementImpl* part : selectedParts(*m_document, space)) {
+        if (isConnection(*part) || part->isEffectivelyLocked(LockOrientation) ||
+            part->getOrientationConstraint() == QLatin1String("fixed") ||
+            !userMayChange(*part, coreKeys::orientation()))
+            continue;
+        // Counted in whole quarters where it stands on one, so that four turns lead back to exactly the same number.
+        const double inQuarters = part->orientation() / (turn / 4) + quarters;
+        const double nearest = std::round(inQuarters);
+        double quarter = std::abs(inQuarters - nearest) < 1e-9 ? nearest : inQuarters;
+        quarter -= 4 * std::floor(quarter / 4);
+        command->addAddress({part->instanceId(), INVALID_CID, coreKeys::orientation()}, Value(quarter * (turn / 4)));
+        any = true;
+    }
+    Value result;
+    return any && execute(command.release(), result);
+}
+
+std::vector<const ElementImpl*> PartEditor::selectionWithConnections(const SpaceImpl* space) const
+{
+    // A connection goes along exactly when both its ends do, whether it is selected itself or not.
+    const std::vector<ElementImpl*> selected = selectedParts(*m_document, space);
+    QSet<const ElementImpl*> parts;
+    for (const ElementImpl* part : selected) {
+        if (!isConnection(*part))
+            parts.insert(part);
+    }
+    std::vector<const ElementImpl*> result;
+    if (parts.isEmpty())
+        return result;
+    for (NodeImpl* child : space->children()) {
+        const auto* element = static_cast<const ElementImpl*>(child);
+        bool wanted = parts.contains(element);
+        if (isConnection(*element)) {
+            const ElementImpl* from = partInSpace(element->valueOfProperty(coreKeys::from()).toNode().impl(), space);
+            const ElementImpl* to = partInSpace(element->valueOfProperty(coreKeys::to()).toNode().impl(), space);
+            wanted = from && to && parts.contains(from) && parts.contains(to);
+        }
+        if (wanted)
+            result.push_back(element);
+    }
+    return result;
+}
+
+bool PartEditor::addNodes(SpaceImpl* space, std::vector<NodeSnapshot> nodes, zk::Point offset)
+{
+    if (nodes.empty())
+        return false;
+    for (NodeSnapshot& node : nodes) {
+        const NodePrototype* prototype = m_document->getNodeDb()->lookupPrototype(node.cid);
+        if (prototype && !isConnection(*prototype))
+            moveSnapshot(node, offset);
+    }
+    Value result;
+    if (!execute(new AddNodesCommand(space, std::move(nodes)), result))
+        return false;
+    ElementImplSet added;
+    for (const Value& value : result.toValueVector()) {
+        auto* element = qobject_cast<ElementImpl*>(value.toNode().impl());
+        if (element && !isConnection(*element))
+            added.insert(element);
+    }
+    m_document->setSelection(added);
+    return true;
+}
+
+bool PartEditor::duplicateSelection(SpaceImpl* space)
+{
+    if (!m_document || !NodeImpl::valid(space))
+        return false;
+    const std::vector<const ElementImpl*> elements = selectionWithConnections(space);
+    if (elements.empty())
+        return false;
+    std::vector<NodeSnapshot> nodes;
+    nodes.reserve(elements.size());
+    for (const ElementImpl* element : elements)
+        nodes.push_back(NodeSnapshot::of(*element));
+    return addNodes(space, std::move(nodes), {copyOffset, copyOffset});
+}
+
+bool PartEditor::copySelection(const SpaceImpl* space)
+{
+    if (!m_document || !NodeImpl::valid(space))
+        return false;
+    const std::vector<const ElementImpl*> elements = selectionWithConnections(space);
+    if (elements.empty())
+        return false;
+    auto* data = new QMimeData;
+    data->setData(FragmentXMLWriter::fragmentMimeType(), FragmentXMLWriter::writeElements(elements));
+    QGuiApplication::clipboard()->setMimeData(data);
+    m_lastPasted.clear();
+    return true;
+}
+
+bool PartEditor::canPaste() const
+{
+    return canDrop(QGuiApplication::clipboard()->mimeData());
+}
+
+bool PartEditor::paste(SpaceImpl* space)
+{
+    const QMimeData* data = QGuiApplication::clipboard()->mimeData();
+    if (!m_document || !NodeImpl::valid(space) || !canDrop(data))
+        return false;
+    const QByteArray fragment = data->data(FragmentXMLWriter::fragmentMimeType());
+    std::vector<NodeSnapshot> nodes;
+    QString error;
+    if (!FragmentXMLWriter::read(fragment, *m_document->getNodeDb(), nodes, error)) {
+        Q_EMIT failed(error);
+        return false;
+    }
+    // Each further paste of the same stands a step further, so that none hides another.
+    m_pasteCount = fragment == m_lastPasted ? m_pasteCount + 1 : 1;
+    m_lastPasted = fragment;
+    return addNodes(space, std::move(nodes), {copyOffset * m_pasteCount, copyOffset * m_pasteCount});
+}
+
+bool PartEditor::canDrop(const QMimeData* data)
+{
+    return data && AddPartDrag::canDecode(data);
+}
+
+bool PartEditor::drop(SpaceImpl* space, const QMimeData* data, zk::Point place)
+{
+    if (!m_document || !NodeImpl::valid(space))
+        return false;
+    std::vector<NodeSnapshot> nodes;
+    if (!AddPartDrag::decode(data, *m_document->getNodeDb(), nodes) || nodes.empty()) {
+        Q_EMIT failed(tr("What was dropped is not a part."));
+        return false;
+    }
+    zk::Point first;
+    for (const NodeSnapshot::ValueEntry& entry : nodes.front().values) {
+        if (entry.key == coreKeys::position())
+            first = entry.value.toPoint();
+    }
+    return addNodes(space, std::move(nodes), {place.x - first.x, place.y - first.y});
+}

@@ -1,0 +1,25 @@
+#pragma once
+
+#include "zkcore/base/propertyKey.h"
+
+#include <vector>
+
+class DocumentImpl;
+class ElementImpl;
+class NodeImpl;
+class NodePrototype;
+class PartImpl;
+class SpaceImpl;
+
+/// Whether the element is a connection between pins, which has no place of its own.
+bool isConnection(const ElementImpl& element);
+bool isConnection(const NodePrototype& prototype);
+
+/// Whether the user may change the property now, locks aside; answered without making the property object.
+bool userMayChange(const ElementImpl& element, PropertyKey key);
+
+/// The part of the space that the node is or stands in; null when it stands elsewhere.
+ElementImpl* partInSpace(NodeImpl* node, const SpaceImpl* space);
+
+/// The selected parts that stand in the space, back to front.
+std::vector<ElementImpl*> selectedParts(const DocumentImpl& document, const SpaceImpl* space);

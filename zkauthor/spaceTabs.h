@@ -1,0 +1,68 @@
+#pragma once
+
+#include "zkcore/model/handles.h"
+
+#include <QPointer>
+#include <QTabWidget>
+#include <unordered_map>
+
+class DocumentImpl;
+class PartEditor;
+class QMenu;
+class QToolButton;
+class SceneView;
+class ViewManager;
+
+/// A tab for each scene and each open pop-up of the document, in that order. Views are made when their tab is first
+/// shown. The view of the current tab is the view manager's focused view.
+class SpaceTabs : public QTabWidget
+{
+    Q_OBJECT
+
+public:
+    SpaceTabs(ViewManager* views, PartEditor* editor, QWidget* parent = nullptr);
+    ~SpaceTabs() override;
+
+    /// Null closes all tabs. The document must be taken away before it is destroyed.
+    void setDocument(DocumentImpl* document);
+    /// Null when no document is shown.
+    SceneView* currentView() const;
+    SpaceImpl* currentSpace() const;
+    /// Shows the space's tab; a pop-up is opened first.
+    void showSpace(SpaceImpl* space);
+
+Q_SIGNALS:
+    /// Another space is shown, or none.
+    void currentSpaceChanged();
+    /// Of the view shown.
+    void pointerMoved(const QPointF& place);
+    void pointerLeft();
+    void zoomChanged(double zoom);
+    void menuRequested(const QPoint& globalPlace);
+
+private:
+    void rebuild();
+    void clearTabs();
+    void addTabFor(SpaceImpl* space);
+    void removeTabOf(InstanceId space);
+    int placeOf(SpaceImpl* space) const;
+    int indexOfSpace(InstanceId space) const;
+    InstanceId spaceAt(int index) const;
+    SceneView* viewAt(int index) const;
+    void makeView(int index);
+    void updateLabel(NodeImpl* space);
+    void fillPopupMenu();
+    void onCurrentChanged(int index);
+    void onTabCloseRequested(int index);
+    void onNodeValueChanged(NodeImpl* node, PropertyKey key);
+    void onLoaded();
+    void activate(ElementImpl* part);
+
+    ViewManager* m_views;
+    PartEditor* m_editor;
+    QPointer<DocumentImpl> m_document;
+    QToolButton* m_popupButton;
+    QMenu* m_popupMenu;
+    bool m_inUndoRedo = false;
+    bool m_rebuilding = false;
+};

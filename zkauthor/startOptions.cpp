@@ -1,0 +1,85 @@
+#include "zkauthor/startOptions.h"
+
+#include <QCommandLineParser>
+#include <QCoreApplication>
+#include <cstring>
+#include <string_view>
+#include <utility>
+
+bool StartOptions::needsNoDisplay(int argc, char** argv)
+{
+    for (int i = 1; i < argc; ++i) {
+        const std::string_view argument(argv[i]);
+        if (argument == "--")
+            return false;
+        for (const std::string_view option : {"-h", "--help", "--help-all", "-v", "--version", "--screenshot"}) {
+            if (argument == option)
+                return true;
+        }
+        if (argument.substr(0, std::strlen("--screenshot=")) == "--screenshot=")
+            return true;
+    }
+    return false;
+}
+
+bool StartOptions::parse(const QCoreApplication& application, StartOptions& options, QString& error)
+{
+    const auto tr = [](const char* text) { return QCoreApplication::translate("StartOptions", text); };
+
+    QCommandLineParser parser;
+    parser.setApplicationDescription(tr("Shows and edits interactive teaching models."));
+    parser.addHelpOption();
+    parser.addVersionOption();
+    const QCommandLineOption logOption(
+        QStringLiteral("log"),
+        tr("Where messages go: stdout, stderr, file (velmor.log in the current folder), console (a window) or none."),
+        QStringLiteral("target"));
+    const QCommandLineOption screenshotOption(QStringLiteral("screenshot"),
+                                              tr("Write a picture of the main window into a PNG file and quit."),
+                                              QStringLiteral("file"));
+    const QCommandLineOption selectOption(
+        QStringLiteral("select"), tr("Select the part with this id for the picture. May be given several times."),
+        QStringLiteral("id"));
+    parser.addOption(logOption);
+    parser.addOption(screenshotOption);
+    parser.addOption(selectOption);
+    parser.addPositionalArgument(QStringLiteral("document"), tr("The document to open."), QStringLiteral("[document]"));
+    parser.process(application);
+
+    if (parser.isSet(logOption)) {
+        static const std::pair<const char*, Log> targets[] = {{"stdout", Log::Stdout},
+                                                              {"stderr", Log::Stderr},
+                                                              {"file", Log::File},
+                                                              {"console", Log::Console},
+                                                              {"none", Log::None}};
+        const QString text = parser.value(logOption);
+        bool known = false;
+        for (const auto& [name, log] : targets) {
+            if (text == QLatin1String(name)) {
+                options.log = log;
+                known = true;
+            }
+        }
+        if (!known) {
+            error = tr("--log takes stdout, stderr, file, console or none, not \"%1\".").arg(text);
+            return false;
+        }
+    }
+    if (parser.positionalArguments().size() > 1) {
+        error = tr("Only one document can be opened, but %1 were given.").arg(parser.positionalArguments().size());
+        return false;
+    }
+    if (!parser.positionalArguments().isEmpty())
+        options.document = parser.positionalArguments().constFirst();
+    if (parser.isSet(screenshotOption) && parser.value(screenshotOption).isEmpty()) {
+        error = tr("--screenshot needs the name of a file.");
+        return false;
+    }
+    options.screenshot = parser.value(screenshotOption);
+    options.select = parser.values(selectOption);
+    if (!options.select.isEmpty() && options.screenshot.isEmpty()) {
+        error = tr("--select only works together with --screenshot.");
+        return false;
+    }
+    return true;
+}

@@ -1,0 +1,26 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+class QCoreApplication;
+
+/// What the command line asked for.
+struct StartOptions
+{
+    enum class Log { Default, Stdout, Stderr, File, Console, None };
+
+    Log log = Log::Default;
+    /// The document to open; empty for a new one.
+    QString document;
+    /// The picture to write instead of opening a window; empty for none.
+    QString screenshot;
+    /// What to select for the picture: "id" texts or instance ids.
+    QStringList select;
+
+    /// Whether the arguments ask for something that needs no display. Looked at before the application object exists.
+    static bool needsNoDisplay(int argc, char** argv);
+    /// Reads the application's arguments. Prints the answer to --help and --version and ends the program. False, with
+    /// the message, when the arguments make no sense.
+    static bool parse(const QCoreApplication& application, StartOptions& options, QString& error);
+};
