@@ -11,7 +11,8 @@
 class NodePrototype;
 
 /// A package: a folder with package.xml that defines node classes and brings forms and pictures (docs/packages.md).
-class ZKCORE_EXPORT Package {
+class ZKCORE_EXPORT Package
+{
 public:
     QString name() const { return m_name; }
     /// What people call it, translated.
@@ -23,21 +24,25 @@ public:
 
     /// The package that defines a class; null for an unknown class.
     static const Package* findByClassID(unsigned int cid);
-    /// All packages loaded, in the order of loading. The first call loads the built-in ones and those in the user's package
-    /// folder; a broken one is skipped, with a warning that names file, line, column and reason.
+    /// All packages loaded, in the order of loading. The first call loads the built-in ones and those in the user's
+    /// package folder; a broken one is skipped, with a warning that names file, line, column and reason.
     static const std::vector<std::unique_ptr<Package>>& all();
     /// Loads one more package folder. False, with the message, when it is broken; nothing of it is kept then.
     static bool load(const QString& folder, QString& error);
     /// Where packages of the user stand: "packages" in the application's data folder.
     static QString userFolder();
-    /// Adds the class to the user's own package of the class's domain and writes its package.xml (the old file stays when that
-    /// fails). False with the message when it cannot be written.
+    /// Adds the class to the user's own package "user-DOMAIN" of the class's domain and writes its package.xml (the old
+    /// file stays when that fails). The class becomes exactly what later runs will read: its package, bases and meta
+    /// properties are filled, pictures that belong to a document are copied into the package. False with the message
+    /// when the id is taken, the class cannot stand in a package (a value that its validator refuses, say), or the file
+    /// cannot be written.
     static bool addUserClass(std::shared_ptr<NodePrototype> prototype, QString& error);
-    /// Forgets all packages; for tests.
+    /// Forgets all packages and their resources; the next call of all() loads them again. For tests.
     static void unloadAll();
 
 private:
     friend class PackageReader;
+    friend class PackageRegistry;
     Package() = default;
 
     QString m_name;

@@ -1,0 +1,46 @@
+#include "zkcore/storage/package.h"
+
+#include "zkcore/media/resourceTable.h"
+#include "zkcore/storage/packageRegistry.h"
+
+#include <QCoreApplication>
+#include <QStandardPaths>
+
+QString Package::label() const
+{
+    return QCoreApplication::translate("Package", m_label.toUtf8().constData());
+}
+
+const Package* Package::findByClassID(unsigned int cid)
+{
+    all();
+    return PackageRegistry::instance().findByClass(cid);
+}
+
+const std::vector<std::unique_ptr<Package>>& Package::all()
+{
+    return PackageRegistry::instance().packages();
+}
+
+bool Package::load(const QString& folder, QString& error)
+{
+    all();
+    return PackageRegistry::instance().load(folder, false, error);
+}
+
+QString Package::userFolder()
+{
+    return QStandardPaths::writableLocation(QStandardPaths::AppDataLocation) + QStringLiteral("/packages");
+}
+
+bool Package::addUserClass(std::shared_ptr<NodePrototype> prototype, QString& error)
+{
+    all();
+    return PackageRegistry::instance().addUserClass(prototype, error);
+}
+
+void Package::unloadAll()
+{
+    PackageRegistry::instance().clear();
+    ResourceTable::instance().restore({});
+}

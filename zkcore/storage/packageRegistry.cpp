@@ -1,0 +1,145 @@
+#include "zkcore/storage/packageRegistry.h"
+
+#include "zkcore/media/resourceTable.h"
+#include "zkcore/model/nodePrototype.h"
+#include "zkcore/storage/packageReader.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFileInfo>
+
+namespace {
+
+QString builtInFolder()
+{
+    return QStringLiteral(":/zk/packages");
+}
+
+void warnOfPackage(const QString& message)
+{
+    qWarning("Package: %s", qPrintable(message));
+}
+
+} // namespace
+
+PackageRegistry& PackageRegistry::instance()
+{
+    static PackageRegistry registry;
+    return registry;
+}
+
+const std::vector<std::unique_ptr<Package>>& PackageRegistry::packages()
+{
+    if (!m_loaded) {
+        // First, because reading a package looks up resources, which asks for the packages.
+        m_loaded = true;
+        loadBuiltIn();
+        loadUserPackages();
+    }
+    return m_packages;
+}
+
+bool PackageRegistry::load(const QString& folder, bool builtIn, QString& error)
+{
+    const QString path = QDir::cleanPath(folder);
+    const QDir dir(path);
+    const auto refuse = [&error](const QString& file, const QString& reason) {
+        PackageFault fault;
+        fault.raise(1, 1, reason);
+        error = fault.message(file);
+        return false;
+    };
+    if (findByName(dir.dirName()))
+        return refuse(dir.filePath(QStringLiteral("package.xml")),
+                      QCoreApplication::translate("Package", "there is a package \"%1\" already").arg(dir.dirName()));
+    ResourceTable& resources = ResourceTable::instance();
+    const ResourceTable::Snapshot before = resources.snapshot();
+    QString faultyFile;
+    QString reason;
+    if (!resources.addFolder(path, &faultyFile, &reason))
+        return refuse(faultyFile, reason);
+    std::unique_ptr<Package> package = PackageReader::readFolder(
+        path, [this](ClassId cid) { return prototype(cid); }, error);
+    if (!package) {
+        resources.restore(before);
+        return false;
+    }
+    package->m_builtIn = builtIn;
+    for (const std::shared_ptr<NodePrototype>& added : package->m_classes)
+        registerClass(package.get(), added);
+    m_packages.push_back(std::move(package));
+    return true;
+}
+
+void PackageRegistry::clear()
+{
+    m_packageOf.clear();
+    m_prototypes.clear();
+    m_packages.clear();
+    m_loaded = false;
+}
+
+void PackageRegistry::loadBuiltIn()
+{
+    const QDir root(builtInFolder());
+    QStringList names = root.entryList(QDir::Dirs | QDir::NoDotAndDotDot);
+    names.sort();
+    // These build on one another; the rest builds on these.
+    QStringList ordered;
+    for (const char* first : {"core", "electronics", "flowcharts", "mechanics"})
+        if (names.removeOne(QLatin1String(first)))
+            ordered.append(QLatin1String(first));
+    ordered += names;
+    for (const QString& name : ordered) {
+        const QString folder = root.filePath(name);
+        QString error;
+        if (name == QLatin1String("editor")) {
+            QString file;
+            if (!ResourceTable::instance().addFolder(folder, &file, &error))
+                warnOfPackage(file + QStringLiteral(":1:1: ") + error);
+        } else if (!load(folder, true, error)) {
+            warnOfPackage(error);
+        }
+    }
+}
+
+void PackageRegistry::loadUserPackages()
+{
+    const QDir root(Package::userFolder());
+    QStringList waiting = root.entryList(QDir::Dirs | QDir::NoDotAndDotDot);
+    waiting.sort();
+    // A package may need classes of one that comes after it by name: the refused ones get another chance as long as
+    // that brings something new.
+    QStringList errors;
+    for (bool progress = true; progress && !waiting.isEmpty();) {
+        progress = false;
+        errors.clear();
+        QStringList refused;
+        for (const QString& name : waiting) {
+            QString error;
+            if (load(root.filePath(name), false, error)) {
+                progress = true;
+            } else {
+                refused.append(name);
+                errors.append(error);
+            }
+        }
+        waiting = refused;
+    }
+    for (const QString& error : errors)
+        warnOfPackage(error);
+}
+
+Package* PackageRegistry::findByName(const QString& name) const
+{
+    for (const std::unique_ptr<Package>& package : m_packages)
+        if (package->name() == name)
+            return package.get();
+    return nullptr;
+}
+
+void PackageRegistry::registerClass(Package* package, const std::shared_ptr<NodePrototype>& prototype)
+{
+    m_packageOf.insert(prototype->cid, package);
+    m_prototypes.insert(prototype->cid, prototype);
+}
