@@ -13,11 +13,11 @@ target_link_options(zk_options INTERFACE -Wl,--no-undefined)
 # Gives the target an include root of its own that shows only the named folders, so that an include of a folder
 # which the target may not use does not compile. Files are included from the root: "zkcore/values/value.h".
 function(zk_include_root target)
-  set(root ${CMAKE_BINARY_DIR}/roots/${target})
+  set(root ${PROJECT_BINARY_DIR}/roots/${target})
   foreach(folder IN LISTS ARGN)
     get_filename_component(parent ${root}/${folder} DIRECTORY)
     file(MAKE_DIRECTORY ${parent})
-    file(CREATE_LINK ${CMAKE_SOURCE_DIR}/${folder} ${root}/${folder} SYMBOLIC)
+    file(CREATE_LINK ${PROJECT_SOURCE_DIR}/${folder} ${root}/${folder} SYMBOLIC)
   endforeach()
   target_include_directories(${target} PUBLIC ${root})
 endfunction()
