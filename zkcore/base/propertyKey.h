@@ -7,7 +7,8 @@
 #include <compare>
 
 /// The name of a property as an interned number; Property::Key is this class.
-class ZKCORE_EXPORT PropertyKey {
+class ZKCORE_EXPORT PropertyKey
+{
 public:
     /// The invalid key, whose text is empty.
     PropertyKey() = default;

@@ -1,5 +1,6 @@
 #include "zkcore/values/unit.h"
 
+#include "zkcore/base/classicLocale.h"
 #include "zkcore/values/numberText.h"
 #include "zkcore/values/unitNames.h"
 #include "zkcore/values/value.h"
@@ -7,7 +8,10 @@
 #include <QCoreApplication>
 #include <QHash>
 #include <cmath>
+#include <memory>
+#include <tuple>
 #include <utility>
+#include <vector>
 
 #include <udunits2.h>
 
@@ -38,6 +42,7 @@ constexpr qsizetype longestUnitText = 64;
 ut_system* unitSystem()
 {
     static ut_system* const system = [] {
+        const ClassicLocale classic;
         ut_set_error_message_handler(ut_ignore);
         return ut_read_xml(nullptr);
     }();
@@ -170,6 +175,7 @@ Unit Unit::fromText(const QString& text, const QString& abbreviation)
     if (found != known.constEnd())
         return Unit(*found);
 
+    const ClassicLocale classic;
     const UnitPointer unit(ut_parse(unitSystem(), symbol.toUtf8().constData(), UT_UTF8));
     const ut_unit* const base = unit ? siUnit(unit.get()) : nullptr;
     UnitPointer si(base ? ut_clone(base) : nullptr);
