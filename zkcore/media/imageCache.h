@@ -2,8 +2,11 @@
 
 #include "zkcore/base/export.h"
 
+#include <QColor>
 #include <QPixmap>
 #include <memory>
+#include <utility>
+#include <vector>
 
 class QSvgRenderer;
 class Resource;
@@ -30,6 +33,10 @@ public:
     /// For painting an SVG resource at any size; shared by all who ask for the same one. Null when the resource is not
     /// SVG; null, with a warning, when its bytes cannot be read as SVG.
     static std::shared_ptr<QSvgRenderer> svgRenderer(const Resource& resource);
+    /// A colour that stands in an SVG picture as "#rrggbb", and the one to paint in its place.
+    using ColorChange = std::pair<QColor, QColor>;
+    /// The same with colours changed.
+    static std::shared_ptr<QSvgRenderer> svgRenderer(const Resource& resource, const std::vector<ColorChange>& changes);
     /// Forgets everything; for tests and for a host that is short of memory.
     static void clear();
     /// Bytes of pixels kept now.

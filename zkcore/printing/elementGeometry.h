@@ -28,5 +28,5 @@ ZKCORE_EXPORT QRectF elementBounds(const ElementImpl& element);
 ZKCORE_EXPORT QPainterPath connectionPath(const ElementImpl& connection);
 
 /// The text written under an element: its title, else its reference where that is shown, else what its class is called.
-/// Empty for connections, texts, reflections and subparts without title.
+/// Empty for connections and texts; reflections, subparts, explanations and parts of unknown classes show only a title.
 ZKCORE_EXPORT QString elementLabel(const ElementImpl& element);

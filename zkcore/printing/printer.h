@@ -46,7 +46,7 @@ public:
     bool scaleToWidth() const { return m_scaleToWidth; }
     void setScaleToWidth(bool scaleToWidth) { m_scaleToWidth = scaleToWidth; }
 
-    /// Width and height of the paper in millimetres, as it is read (landscape paper is wider than high).
+    /// Width and height of the paper in millimetres, exchanged for landscape.
     QSizeF getStandardPaperSizeMM() const;
     /// The paper between the margins, in millimetres from its top left corner; empty when the margins leave nothing.
     QRectF printableRectMM() const;

@@ -7,7 +7,6 @@
 
 class ElementImpl;
 class QPainter;
-class QTransform;
 class Resource;
 class SpaceImpl;
 
@@ -34,15 +33,14 @@ public:
     void paintBackground(const SpaceImpl& space);
 
 private:
-    void paintTurned(const ElementImpl& element, const QTransform& toSpace);
+    // These paint in millimetres.
+    bool beginElement(const ElementImpl& element);
     void paintConnection(const ElementImpl& connection);
+    void paintPart(const ElementImpl& part);
+    void paintSubpart(const ElementImpl& subpart, bool reflected);
     void paintBody(const ElementImpl& element);
-    void paintSubparts(const ElementImpl& element, const QTransform& toSpace);
-    void paintSubpart(const ElementImpl& subpart, const QTransform& toSpace, bool reflected);
-    void paintPicture(const Resource& picture, const QRectF& rect);
+    void paintPicture(const ElementImpl& element, const Resource& picture, QRectF rect);
     void paintText(const ElementImpl& element, const QRectF& rect);
-    void paintCaption(const QString& text, const QRectF& rect);
-    void paintPlaceholder(const ElementImpl& element, const QRectF& rect);
     void paintLabel(const ElementImpl& element);
 
     QPainter& m_painter;
