@@ -87,11 +87,12 @@ void ExpressionText::translate()
         if (m_position >= m_typed.size())
             break;
         const QChar c = m_typed[m_position];
+        if (m_operand == noOperand)
+            m_hasUnit = false;
         if (readNumber())
             continue;
         if (m_operand != noOperand && (isNameCharacter(c) || isUnitSign(c))) {
-            if (!readUnit())
-                failUnexpected(m_position, 1);
+            readUnit();
         } else if (isNameCharacter(c)) {
             readName();
         } else if (!readSign(c)) {
@@ -166,7 +167,7 @@ void ExpressionText::readName()
 }
 
 /// The unit of the operand before it: the longest text from here that is a unit of the same kind as the one shown.
-bool ExpressionText::readUnit()
+void ExpressionText::readUnit()
 {
     qsizetype end = m_position;
     while (end < m_typed.size() && end - m_position < longestTypedUnit) {
@@ -182,21 +183,21 @@ bool ExpressionText::readUnit()
         if (splitsName)
             continue;
         const Unit unit = unitTyped(m_typed.sliced(m_position, cut - m_position).toString());
-        if (unit.isNull())
+        if (unit.isNull() || m_hasUnit)
             continue;
         m_position = cut;
         applyUnit(unit);
-        return true;
+        m_hasUnit = true;
+        return;
     }
     const qsizetype length = std::max<qsizetype>(end - m_position, 1);
-    if (m_shown.isNull()) {
+    if (m_shown.isNull() || m_hasUnit) {
         failUnexpected(m_position, length);
     } else {
         fail(translatedFault(QT_TRANSLATE_NOOP("ExpressionParser",
                                                "\"%1\" at position %2 is not a unit that can be converted to %3."))
                  .arg(m_typed.sliced(m_position, length).toString(), QString::number(m_position + 1), m_shown.name()));
     }
-    return true;
 }
 
 /// Brackets, separators and operators.
@@ -217,6 +218,7 @@ bool ExpressionText::readSign(QChar c)
             return false;
         emitText(")", m_position);
         m_operand = m_groups.back();
+        m_hasUnit = false;
         m_groups.pop_back();
         ++m_position;
         return true;

@@ -31,7 +31,7 @@ private:
     void translate();
     bool readNumber();
     void readName();
-    bool readUnit();
+    void readUnit();
     bool readSign(QChar c);
     void emitText(const std::string& text, qsizetype from);
     void applyUnit(const Unit& unit);
@@ -50,6 +50,7 @@ private:
     std::vector<qsizetype> m_origins; // for each character of the expression, its place in the typed text
     std::vector<size_t> m_groups;     // where in the expression each open bracket's operand begins
     size_t m_operand = noOperand;     // where the operand that was just completed begins
+    bool m_hasUnit = false;           // whether that operand carries a unit already
     size_t m_function = noOperand;    // where the function name that was just read begins
     QString m_fault;
 };

@@ -121,7 +121,24 @@ QString canonicalSymbol(const QString& text)
 
 bool mayBeginUnit(QChar c)
 {
-    return c.isLetter() || c == u'°' || c == u'%' || c == u'"' || c == u'\'' || c == u'Ω' || c == u'\u2126';
+    return c.isLetter() || QStringLiteral("°%\"'").contains(c);
+}
+
+/// Whether the text has the form of a unit; the data base would also take one with something else behind it.
+bool isUnitText(const QString& text)
+{
+    if (text.isEmpty() || text.size() > longestUnitText || !mayBeginUnit(text.front()))
+        return false;
+    int open = 0;
+    for (const QChar c : text) {
+        if (c == u'(')
+            ++open;
+        else if (c == u')' && --open < 0)
+            return false;
+        else if (!mayBeginUnit(c) && !c.isDigit() && !QStringLiteral("/.^*+-_ :()²³").contains(c))
+            return false;
+    }
+    return open == 0;
 }
 
 /// Applies a conversion to every number of a value.
@@ -169,7 +186,7 @@ Unit Unit::fromText(const QString& text, const QString& abbreviation)
     static QHash<std::pair<QString, QString>, std::shared_ptr<const Data>> known;
 
     const QString symbol = canonicalSymbol(text.trimmed());
-    if (symbol.isEmpty() || symbol.size() > longestUnitText || !mayBeginUnit(symbol.front()) || !unitSystem())
+    if (!isUnitText(symbol) || !unitSystem())
         return {};
     const auto found = known.constFind({symbol, abbreviation});
     if (found != known.constEnd())
