@@ -79,7 +79,7 @@ Actions::Actions(QMainWindow* window)
         makeAction(window, "select-previous", tr("Select Pre&vious"), tr("Select the part before"), key("Alt+Up"));
     rotateLeft = makeAction(window, "rotate-left", tr("Rotate Le&ft"),
                             tr("Turn the selected parts a quarter to the left"), key("Ctrl+Shift+R"));
-    rotateRight = makeAction(window, "rotate-right", tr("&Rotate Right"),
+    rotateRight = makeAction(window, "rotate", tr("&Rotate Right"),
                              tr("Turn the selected parts a quarter to the right"), key("Ctrl+R"));
 
     QList<QKeySequence> zoomInKeys = keys(QKeySequence::ZoomIn, "Ctrl++");
@@ -108,6 +108,7 @@ void Actions::makeMenus(QMainWindow* window)
     QMenu* file = window->menuBar()->addMenu(tr("&File"));
     file->addActions({newDocument, open});
     recentMenu = file->addMenu(tr("Open &Recent"));
+    recentMenu->setObjectName(QStringLiteral("recentMenu"));
     file->addSeparator();
     file->addActions({save, saveAs, revert});
     file->addSeparator();
@@ -129,6 +130,7 @@ void Actions::makeMenus(QMainWindow* window)
     viewMenu->addSeparator();
 
     insertMenu = window->menuBar()->addMenu(tr("&Insert"));
+    insertMenu->setObjectName(QStringLiteral("insertMenu"));
 
     QMenu* help = window->menuBar()->addMenu(tr("&Help"));
     help->addAction(about);
@@ -148,9 +150,9 @@ void Actions::makeToolBar(QMainWindow* window)
     bar->addSeparator();
     bar->addActions({undo, redo});
     bar->addSeparator();
-    bar->addActions({cut, copy, paste, duplicate, remove});
+    bar->addActions({copy, paste, duplicate, remove});
     bar->addSeparator();
-    bar->addActions({rotateLeft, rotateRight});
+    bar->addAction(rotateRight);
     bar->addSeparator();
     bar->addActions({zoomIn, zoomOut, zoomFit});
 }

@@ -4,13 +4,16 @@
 #include "zkcore/model/coreKeys.h"
 #include "zkcore/model/documentImpl.h"
 #include "zkeditor/loadUIFromResource.h"
+#include "zkeditor/widgets/paletteBoxSection.h"
 #include "zkeditor/widgets/paneWidget.h"
 
 #include <QApplication>
 #include <QLabel>
 #include <QScrollArea>
+#include <QToolButton>
 #include <QVBoxLayout>
 #include <algorithm>
+#include <memory>
 
 namespace {
 
@@ -148,36 +151,66 @@ void FormsDock::showNodes(const std::set<NodeImpl*>& nodes)
 
 QWidget* FormsDock::makePane(NodeImpl* node, const QStringList& forms)
 {
+    const ClassId cid = node->classId();
     auto* pane = new QWidget;
     auto* layout = new QVBoxLayout(pane);
-    layout->setContentsMargins(6, 0, 6, 6);
-    bool any = false;
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(1);
     for (const QString& name : forms) {
         const Resource resource(name);
         if (!resource.isValid())
             continue;
-        QWidget* form = loadUIFromResource(resource, pane);
+        std::unique_ptr<QWidget> form(loadUIFromResource(resource, nullptr));
         if (!form) {
             qWarning("FormsDock: the form %s of %s cannot be read", qPrintable(name),
-                     qPrintable(findStringForCid(node->classId())));
+                     qPrintable(findStringForCid(cid)));
             continue;
         }
-        if (!form->windowTitle().isEmpty()) {
-            auto* title = new QLabel(form->windowTitle());
-            QFont font = title->font();
-            font.setBold(true);
-            title->setFont(font);
-            title->setContentsMargins(0, any ? 8 : 0, 0, 0);
-            layout->addWidget(title);
+        QList<PaletteBoxSection*> sections =
+            form->findChildren<PaletteBoxSection*>(QString(), Qt::FindDirectChildrenOnly);
+        if (auto* section = qobject_cast<PaletteBoxSection*>(form.get()))
+            sections = {section};
+        for (PaletteBoxSection* section : std::as_const(sections))
+            addSection(pane, cid, section->label(), section->getSectionWidget(pane));
+        if (sections.isEmpty()) {
+            const QString title = form->windowTitle();
+            form->setParent(pane);
+            addSection(pane, cid, title, form.release());
         }
-        layout->addWidget(form);
-        any = true;
     }
-    layout->addStretch(1);
-    if (any)
+    if (layout->count() > 0) {
+        layout->addStretch(1);
         return pane;
+    }
     delete pane;
     return nullptr;
+}
+
+void FormsDock::addSection(QWidget* pane, ClassId cid, const QString& label, QWidget* content)
+{
+    auto* header = new QToolButton(pane);
+    header->setObjectName(QStringLiteral("sectionHeader"));
+    header->setText(label);
+    header->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+    header->setCheckable(true);
+    header->setChecked(!m_folded.contains({cid, label}));
+    header->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    header->setFocusPolicy(Qt::TabFocus);
+    QFont font = header->font();
+    font.setBold(true);
+    header->setFont(font);
+    const auto show = [this, header, content, cid, label](bool open) {
+        header->setArrowType(open ? Qt::DownArrow : isRightToLeft() ? Qt::LeftArrow : Qt::RightArrow);
+        content->setVisible(open);
+        if (open)
+            m_folded.remove({cid, label});
+        else
+            m_folded.insert({cid, label});
+    };
+    pane->layout()->addWidget(header);
+    pane->layout()->addWidget(content);
+    show(header->isChecked());
+    connect(header, &QToolButton::toggled, content, show);
 }
 
 void FormsDock::setHeading(const std::set<NodeImpl*>& nodes)

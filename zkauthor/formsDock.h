@@ -5,7 +5,9 @@
 
 #include <QDockWidget>
 #include <QPointer>
+#include <QSet>
 #include <set>
+#include <utility>
 #include <vector>
 
 class DocumentImpl;
@@ -38,6 +40,7 @@ private:
     void showMessage(const QString& caption, const QString& text);
     void replacePane(QWidget* pane, ClassId cid);
     QWidget* makePane(NodeImpl* node, const QStringList& forms);
+    void addSection(QWidget* pane, ClassId cid, const QString& label, QWidget* content);
     void setHeading(const std::set<NodeImpl*>& nodes);
     void onNodeValueChanged(NodeImpl* node, PropertyKey key);
 
@@ -49,4 +52,5 @@ private:
     ClassId m_paneClass = INVALID_CID; // INVALID_CID for a message
     Node m_onlyNode;                   // the one node that the heading names
     std::vector<Node> m_bound;
+    QSet<std::pair<ClassId, QString>> m_folded; // sections that the user closed, by class and label
 };

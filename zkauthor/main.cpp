@@ -2,11 +2,14 @@
 #include "zkauthor/mainWindow.h"
 #include "zkauthor/screenshot.h"
 #include "zkauthor/startOptions.h"
+#include "zkcore/media/imageCache.h"
+#include "zkcore/media/resource.h"
 #include "zkcore/services/crashHandler.h"
 #include "zkeditor/debugConsole.h"
 #include "zkeditor/msgHandlers.h"
 
 #include <QApplication>
+#include <QIcon>
 #include <QMessageBox>
 #include <cstdio>
 
@@ -67,6 +70,8 @@ int main(int argc, char** argv)
     QApplication::setOrganizationName(QStringLiteral("zkauthor"));
     QApplication::setApplicationName(QStringLiteral("zkauthor"));
     QApplication::setApplicationVersion(QStringLiteral(ZK_VERSION));
+
+    QApplication::setWindowIcon(QIcon(ImageCache::getPixmap(Resource("editor/app"), QSize(128, 128), 1.0)));
 
     StartOptions options;
     QString error;

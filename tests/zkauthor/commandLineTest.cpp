@@ -1,0 +1,90 @@
+#include "windowTest.h"
+
+#include "zkcore/model/elementImpl.h"
+
+#include <QImage>
+#include <QProcess>
+
+namespace {
+
+class CommandLineTest : public WindowTest
+{
+protected:
+    struct Result
+    {
+        int code = -1;
+        QString out;
+        QString err;
+    };
+
+    Result start(const QStringList& arguments)
+    {
+        QProcess process;
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        environment.remove(QStringLiteral("QT_QPA_PLATFORM"));
+        environment.remove(QStringLiteral("DISPLAY"));
+        environment.insert(QStringLiteral("XDG_CONFIG_HOME"), path("config"));
+        environment.insert(QStringLiteral("XDG_DATA_HOME"), path("data"));
+        process.setProcessEnvironment(environment);
+        process.setWorkingDirectory(m_folder.path());
+        process.start(QStringLiteral(ZK_BINARY_DIR "/bin/zkauthor"), arguments);
+        Result result;
+        if (process.waitForFinished() && process.exitStatus() == QProcess::NormalExit)
+            result.code = process.exitCode();
+        result.out = QString::fromUtf8(process.readAllStandardOutput());
+        result.err = QString::fromUtf8(process.readAllStandardError());
+        return result;
+    }
+};
+
+TEST_F(CommandLineTest, HelpAndVersionNeedNoDisplay)
+{
+    const Result help = start({"--help"});
+    EXPECT_EQ(help.code, 0) << help.err.toStdString();
+    EXPECT_TRUE(help.out.contains(QLatin1String("--screenshot <file>"))) << help.out.toStdString();
+    EXPECT_EQ(start({"--version"}).out, "zkauthor 0.1.0\n");
+}
+
+TEST_F(CommandLineTest, ScreenshotShowsWhatIsSelected)
+{
+    const Result plain = start({"--screenshot", "plain.png", path("sample.zkdoc")});
+    EXPECT_EQ(plain.code, 0) << plain.err.toStdString();
+    const Result selected =
+        start({"--screenshot=two.png", "--select", "lamp1", "--select", "lamp2", path("sample.zkdoc")});
+    EXPECT_EQ(selected.code, 0) << selected.err.toStdString();
+    const QImage without(path("plain.png"), "png");
+    const QImage with(path("two.png"), "png");
+    EXPECT_GE(without.width(), 600);
+    EXPECT_EQ(without.size(), with.size());
+    EXPECT_NE(without, with);
+    EXPECT_EQ(selected.err, "");
+
+    // The same part by its instance id.
+    const QString number = QString::number(part("lamp1")->instanceId());
+    EXPECT_EQ(start({"--screenshot", "a.png", "--select", "lamp1", path("sample.zkdoc")}).code, 0);
+    EXPECT_EQ(start({"--screenshot", "b.png", "--select", number, path("sample.zkdoc")}).code, 0);
+    EXPECT_EQ(QImage(path("a.png")), QImage(path("b.png")));
+}
+
+TEST_F(CommandLineTest, FaultsAreToldOnStandardError)
+{
+    const std::pair<QStringList, QString> cases[] = {
+        {{"--screenshot", "x.png", "--select", "nobody", path("sample.zkdoc")},
+         "zkauthor: There is no part with the id \"nobody\".\n"},
+        {{"--log", "paper"}, "zkauthor: --log takes stdout, stderr, file, console or none, not \"paper\".\n"},
+        {{"--screenshot", "x.png", "a", "b"}, "zkauthor: Only one document can be opened, but 2 were given.\n"},
+    };
+    for (const auto& [arguments, message] : cases) {
+        const Result result =
+            start(QStringList(arguments) << QStringLiteral("-platform") << QStringLiteral("offscreen"));
+        EXPECT_EQ(result.code, 1);
+        EXPECT_EQ(result.err, message);
+    }
+    EXPECT_EQ(start({"--screenshot", "x.png", path("missing.zkdoc")}).code, 1);
+    EXPECT_FALSE(QFile::exists(path("x.png")));
+    const Result unwritable = start({"--screenshot", "no/such/folder/x.png", path("sample.zkdoc")});
+    EXPECT_EQ(unwritable.code, 1);
+    EXPECT_TRUE(unwritable.err.contains(QLatin1String("no/such/folder/x.png"))) << unwritable.err.toStdString();
+}
+
+} // namespace

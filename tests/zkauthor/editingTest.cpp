@@ -1,0 +1,244 @@
+#include "windowTest.h"
+
+#include "tests/support/testDocument.h"
+#include "zkauthor/formsDock.h"
+#include "zkauthor/sceneView.h"
+#include "zkauthor/spaceTabs.h"
+#include "zkcore/commands/setUILockedCommand.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QCheckBox>
+#include <QLabel>
+#include <QMenu>
+#include <QTest>
+#include <QToolButton>
+
+namespace {
+
+class EditingTest : public WindowTest
+{
+protected:
+    /// The check box of the form that stands for a property.
+    QCheckBox* box(const char* property)
+    {
+        for (QCheckBox* found : m_window->formsDock()->widget()->findChildren<QCheckBox*>()) {
+            if (found->isVisible() && found->property("modelProperty").toString() == QLatin1String(property))
+                return found;
+        }
+        return nullptr;
+    }
+
+    QString message()
+    {
+        const auto* label = m_window->formsDock()->findChild<QLabel*>(QStringLiteral("formsMessage"));
+        return label && label->isVisible() ? label->text() : QString();
+    }
+
+    bool lit(const char* id) { return part(id)->valueOfProperty(PropertyKey::fromString("lit")).toBool(); }
+};
+
+TEST_F(EditingTest, EditOfTwoLampsIsOneUndoStepAndSurvivesSaving)
+{
+    clickPart("lamp1");
+    clickPart("lamp2", Qt::ShiftModifier);
+    EXPECT_EQ(selectedIds(), (QStringList{"lamp1", "lamp2"}));
+    ASSERT_TRUE(box("lit"));
+    const QByteArray before = bytesOf(document());
+
+    QTest::mouseClick(box("lit"), Qt::LeftButton, Qt::NoModifier, QPoint(8, box("lit")->height() / 2));
+    EXPECT_TRUE(lit("lamp1"));
+    EXPECT_TRUE(lit("lamp2"));
+    EXPECT_TRUE(m_window->isWindowModified());
+    EXPECT_EQ(undoSteps(), 1);
+
+    trigger("undo");
+    EXPECT_EQ(bytesOf(document()), before);
+    EXPECT_FALSE(box("lit")->isChecked());
+    EXPECT_FALSE(m_window->isWindowModified());
+    trigger("redo");
+    EXPECT_TRUE(box("lit")->isChecked());
+
+    trigger("save");
+    EXPECT_FALSE(m_window->isWindowModified());
+    const QByteArray saved = bytesOf(document());
+    QString error;
+    ASSERT_TRUE(m_window->openFile(path("sample.zkdoc"), error)) << error.toStdString();
+    EXPECT_EQ(bytesOf(document()), saved);
+    EXPECT_TRUE(lit("lamp2"));
+}
+
+TEST_F(EditingTest, FormFollowsTheSelection)
+{
+    EXPECT_EQ(m_window->formsDock()->windowTitle(), "Scene Properties");
+    clickPart("lamp1");
+    const QPointer<QCheckBox> first = box("lit");
+    EXPECT_EQ(m_window->formsDock()->windowTitle(), "LED Properties");
+
+    // Another part of the class keeps the form, bound to that part alone.
+    clickPart("lamp2");
+    EXPECT_EQ(box("lit"), first);
+    first->click();
+    EXPECT_TRUE(lit("lamp2"));
+    EXPECT_FALSE(lit("lamp1"));
+
+    clickPart("cell", Qt::ShiftModifier);
+    EXPECT_EQ(message(), "Multiple parts selected");
+    EXPECT_FALSE(box("lit"));
+
+    view().setFocus();
+    keys(Qt::Key_Escape);
+    EXPECT_EQ(selectedIds(), QStringList());
+    EXPECT_EQ(m_window->formsDock()->windowTitle(), "Scene Properties");
+    QTest::qWait(0); // the old forms go now
+    EXPECT_FALSE(first);
+}
+
+TEST_F(EditingTest, FoldedSectionStaysFoldedForTheClass)
+{
+    const auto header = [this] {
+        return m_window->formsDock()->findChild<QToolButton*>(QStringLiteral("sectionHeader"));
+    };
+    clickPart("lamp1");
+    ASSERT_TRUE(box("lit"));
+    header()->click();
+    EXPECT_FALSE(box("lit"));
+    clickPart("cell");
+    QTest::qWait(0);
+    clickPart("lamp2");
+    EXPECT_FALSE(box("lit"));
+    header()->click();
+    EXPECT_TRUE(box("lit"));
+}
+
+TEST_F(EditingTest, DeletedPartsComeBackSelectedWithTheirWires)
+{
+    const QByteArray before = bytesOf(document());
+    clickPart("lamp1");
+    QTest::keyClick(&view(), Qt::Key_Delete);
+    EXPECT_FALSE(part("lamp1"));
+    EXPECT_FALSE(part("wire"));
+    EXPECT_EQ(m_window->formsDock()->windowTitle(), "Scene Properties");
+    trigger("undo");
+    EXPECT_EQ(bytesOf(document()), before);
+    EXPECT_EQ(selectedIds(), QStringList{"lamp1"});
+    box("lit")->click();
+    EXPECT_TRUE(lit("lamp1"));
+    // The wire's item is there again as well: a click on its middle finds it.
+    const zk::Point cell = part("cell")->position();
+    EXPECT_EQ(part("wire")->space(), part("cell")->space());
+    EXPECT_NE(cell, part("lamp1")->position());
+}
+
+TEST_F(EditingTest, CopiesBringTheWiresBetweenThem)
+{
+    trigger("select-all");
+    EXPECT_EQ(selectedIds(), (QStringList{"cell", "lamp1", "lamp2", "wire"}));
+    const unsigned int count = firstScene(document())->childCount();
+    const auto check = [this, count] {
+        const SceneImpl* scene = firstScene(document());
+        ASSERT_EQ(scene->childCount(), 2 * count);
+        const NodeImpl* wire = scene->getChildAt(2 * count - 1);
+        const Node from = wire->valueOfProperty(PropertyKey::fromString("from")).toNode();
+        ASSERT_TRUE(from.valid());
+        EXPECT_EQ(scene->getIndexForChild(from.impl()->parentNode()), int(count)); // the copy of the cell
+        EXPECT_EQ(document().getSelection().size(), 3u);
+    };
+    trigger("duplicate");
+    check();
+    trigger("undo");
+    EXPECT_EQ(firstScene(document())->childCount(), count);
+
+    trigger("select-all");
+    trigger("copy");
+    trigger("paste");
+    check();
+    trigger("undo");
+    EXPECT_EQ(undoSteps(), 0);
+
+    // A wire whose other end stays behind stays behind too.
+    clickPart("lamp1");
+    trigger("cut");
+    EXPECT_FALSE(part("lamp1"));
+    trigger("paste");
+    ASSERT_EQ(selectedIds().size(), 1);
+    EXPECT_EQ(document().getMetaLabelForCID((*document().getSelection().begin())->classId()), "LED");
+    EXPECT_FALSE(part("wire"));
+}
+
+TEST_F(EditingTest, QuarterTurnsRespectConstraintsAndLocks)
+{
+    run<SetUILockedCommand>(document(), std::vector<Node>{part("lamp2")}, LockOrientation, true);
+    const QByteArray before = bytesOf(document());
+    const int steps = undoSteps();
+    trigger("select-all");
+    for (int turns = 0; turns < 3; ++turns)
+        trigger("rotate");
+    EXPECT_NEAR(part("lamp1")->orientation(), 4.71238898038469, 1e-12);
+    EXPECT_EQ(part("lamp2")->orientation(), 0.0);
+    trigger("rotate");
+    EXPECT_EQ(bytesOf(document()), before); // four quarters are exactly none
+    EXPECT_EQ(undoSteps(), steps + 4);
+}
+
+TEST_F(EditingTest, InsertMenuAddsInTheMiddleOfTheView)
+{
+    auto* menu = m_window->findChild<QMenu*>(QStringLiteral("insertMenu"));
+    ASSERT_TRUE(menu);
+    Q_EMIT menu->aboutToShow();
+    QAction* led = nullptr;
+    for (QAction* found : menu->findChildren<QAction*>()) {
+        if (found->text() == QLatin1String("LED"))
+            led = found;
+    }
+    ASSERT_TRUE(led);
+    led->trigger();
+    ASSERT_EQ(document().getSelection().size(), 1u);
+    const zk::Point first = (*document().getSelection().begin())->position();
+    const zk::Point centre = view().visibleCentre();
+    EXPECT_NEAR(first.x, centre.x, 1e-6);
+    EXPECT_NEAR(first.y, centre.y, 1e-6);
+    led->trigger();
+    EXPECT_GT((*document().getSelection().begin())->position().x, first.x); // beside, not on top of the first
+    EXPECT_EQ(undoSteps(), 2);
+}
+
+TEST_F(EditingTest, ScenesAndPopupsHaveTabs)
+{
+    SpaceTabs* tabs = m_window->spaceTabs();
+    SpaceImpl* first = tabs->currentSpace();
+    ASSERT_TRUE(first);
+    trigger("add-scene");
+    EXPECT_EQ(tabs->count(), 2);
+    EXPECT_NE(tabs->currentSpace(), first);
+    EXPECT_EQ(m_window->viewManager()->getFocusedSpace().impl(), tabs->currentSpace());
+
+    PartImpl* info = addPart(document(), "core/info", {0.02, 0.02});
+    ASSERT_TRUE(info->popup());
+    tabs->showSpace(first);
+    document().setSelection({info});
+    trigger("open-popup");
+    EXPECT_EQ(tabs->currentSpace(), info->popup());
+    EXPECT_EQ(tabs->count(), 3);
+
+    // What is deleted takes its tabs along, and undo brings the scene's back.
+    trigger("undo");
+    EXPECT_EQ(tabs->count(), 2);
+    trigger("undo");
+    EXPECT_EQ(tabs->count(), 1);
+    EXPECT_EQ(tabs->currentSpace(), first);
+    trigger("redo");
+    EXPECT_EQ(tabs->count(), 2);
+}
+
+TEST_F(EditingTest, NoCommandIsWithoutAKeyOrAName)
+{
+    for (const QAction* found : m_window->findChildren<QAction*>(QString(), Qt::FindDirectChildrenOnly)) {
+        if (found->isSeparator() || found->text().isEmpty() || found->menu())
+            continue;
+        EXPECT_TRUE(found->text().contains(QLatin1Char('&'))) << found->text().toStdString();
+    }
+    EXPECT_FALSE(view().accessibleName().isEmpty());
+}
+
+} // namespace
