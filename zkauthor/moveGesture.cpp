@@ -36,6 +36,7 @@ bool MoveGesture::begin(DocumentImpl* document, const std::vector<ElementImpl*>&
     m_document = document;
     m_offset = {};
     m_stepOpen = false;
+    m_written = false;
     return isActive();
 }
 
@@ -50,25 +51,32 @@ void MoveGesture::moveTo(zk::Point offset)
         m_stepOpen = true;
     }
     m_offset = offset;
-    const bool back = offset == zk::Point{};
     auto* command = new SetValueCommand(false);
+    bool any = false;
     for (const Start& start : m_parts) {
-        if (m_document->nodeById(start.id)) {
-            const zk::Point place{toNanometre(start.position.x + offset.x), toNanometre(start.position.y + offset.y)};
-            command->addAddress({start.id, INVALID_CID, coreKeys::position()}, Value(back ? start.position : place));
-        }
+        if (!m_document->nodeById(start.id))
+            continue;
+        zk::Point place = start.position;
+        if (offset != zk::Point{})
+            place = {toNanometre(place.x + offset.x), toNanometre(place.y + offset.y)};
+        command->addAddress({start.id, INVALID_CID, coreKeys::position()}, Value(place));
+        any = true;
     }
-    m_document->executeCommand(command);
+    const bool done = m_document->executeCommand(command).isValid();
+    m_written = m_written || (done && any);
 }
 
 void MoveGesture::finish()
 {
     m_parts.clear();
     m_stepOpen = false;
+    m_written = false;
 }
 
 void MoveGesture::cancel()
 {
-    moveTo({});
+    const bool written = m_written && isActive();
     finish();
+    if (written && m_document)
+        m_document->undo();
 }

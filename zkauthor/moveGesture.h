@@ -27,7 +27,7 @@ public:
     void moveTo(zk::Point offset);
     zk::Point offset() const { return m_offset; }
     void finish();
-    /// Puts the parts back and leaves no undo step.
+    /// Takes the step back: the parts stand where they stood.
     void cancel();
 
     /// Whether the user may move the element.
@@ -44,4 +44,5 @@ private:
     std::vector<Start> m_parts;
     zk::Point m_offset;
     bool m_stepOpen = false;
+    bool m_written = false; // the step holds something
 };

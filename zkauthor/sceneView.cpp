@@ -61,13 +61,14 @@ SceneView::SceneView(DocumentImpl* document, SpaceImpl* space, PartEditor* edito
     setRenderHint(QPainter::Antialiasing);
     setRenderHint(QPainter::SmoothPixmapTransform);
     // A page reads from left to right whatever the language; only the scroll bars change sides.
-    setTransformationAnchor(QGraphicsView::AnchorUnderMouse);
+    setTransformationAnchor(QGraphicsView::AnchorViewCenter);
     setResizeAnchor(QGraphicsView::AnchorViewCenter);
     setAccessibleName(tr("Scene %1").arg(space->displayName()));
     setAccessibleDescription(tr("Arrow keys move the selected parts by one millimetre, with Shift by ten."));
     connect(document, &DocumentImpl::undoRedoStarted, this, [this] { endGesture(true); });
     connect(document, &DocumentImpl::Loaded, viewport(), qOverload<>(&QWidget::update));
     setZoom(1);
+    m_followFit = true;
 }
 
 SceneView::~SceneView()
@@ -87,6 +88,7 @@ double SceneView::zoom() const
 
 void SceneView::setZoom(double zoom)
 {
+    m_followFit = false;
     const double scale = std::clamp(zoom, smallestZoom, greatestZoom) * logicalDpiX() / mmPerInch;
     setTransform(QTransform::fromScale(scale, scale));
     Q_EMIT zoomChanged(this->zoom());
@@ -104,13 +106,15 @@ void SceneView::zoomOut()
 
 void SceneView::zoomToFit()
 {
-    const QRectF content = m_scene->contentRect();
-    const QSizeF room = viewport()->size() - QSize(24, 24);
-    if (content.isEmpty() || room.width() <= 0 || room.height() <= 0)
+    // As large as it goes without scroll bars, whether there are any now or not.
+    const QRectF extent = sceneRect();
+    const QSizeF room = maximumViewportSize() - QSize(2, 2);
+    if (extent.isEmpty() || room.width() <= 0 || room.height() <= 0)
         return;
-    const double scale = std::min(room.width() / content.width(), room.height() / content.height());
+    const double scale = std::min(room.width() / extent.width(), room.height() / extent.height());
     setZoom(scale * mmPerInch / logicalDpiX());
-    centerOn(content.center());
+    centerOn(extent.center());
+    m_followFit = true;
 }
 
 zk::Point SceneView::visibleCentre() const
@@ -118,13 +122,11 @@ zk::Point SceneView::visibleCentre() const
     return toMetres(mapToScene(viewport()->rect().center()));
 }
 
-void SceneView::showEvent(QShowEvent* event)
+void SceneView::resizeEvent(QResizeEvent* event)
 {
-    QGraphicsView::showEvent(event);
-    if (m_fitWhenShown) {
-        m_fitWhenShown = false;
+    QGraphicsView::resizeEvent(event);
+    if (m_followFit && m_mouse == Mouse::Idle)
         zoomToFit();
-    }
 }
 
 void SceneView::selectAllParts()
@@ -235,6 +237,7 @@ void SceneView::mouseMoveEvent(QMouseEvent* event)
         viewport()->update();
         break;
     case Mouse::Panning: {
+        m_followFit = false;
         const QPoint delta = place - m_pressPlace;
         m_pressPlace = place;
         horizontalScrollBar()->setValue(horizontalScrollBar()->value() - (isRightToLeft() ? -delta.x() : delta.x()));
@@ -397,9 +400,15 @@ void SceneView::wheelEvent(QWheelEvent* event)
             QGraphicsView::wheelEvent(event);
         return;
     }
-    if (event->angleDelta().y() != 0)
-        setZoom(zoom() * std::pow(zoomStep, event->angleDelta().y() / 120.0));
     event->accept();
+    if (event->angleDelta().y() == 0)
+        return;
+    // What is under the pointer stays there.
+    const QPoint pointer = event->position().toPoint();
+    const QPointF before = mapToScene(pointer);
+    setZoom(zoom() * std::pow(zoomStep, event->angleDelta().y() / 120.0));
+    const QPointF centre = mapToScene(viewport()->rect().center());
+    centerOn(centre + before - mapToScene(pointer));
 }
 
 void SceneView::contextMenuEvent(QContextMenuEvent* event)

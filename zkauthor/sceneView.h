@@ -31,7 +31,7 @@ public:
     void setZoom(double zoom);
     void zoomIn();
     void zoomOut();
-    /// Shows the page and all parts.
+    /// Shows the page and all parts, and goes on doing so when the view is resized, until the user zooms.
     void zoomToFit();
     /// The middle of what is visible, in metres from the space's top left corner.
     zk::Point visibleCentre() const;
@@ -67,7 +67,7 @@ protected:
     void dragMoveEvent(QDragMoveEvent* event) override;
     void dropEvent(QDropEvent* event) override;
     void drawForeground(QPainter* painter, const QRectF& rect) override;
-    void showEvent(QShowEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
 
 private:
     enum class Mouse { Idle, PressedOnPart, DraggingParts, RubberBand, Panning };
@@ -89,6 +89,6 @@ private:
     InstanceId m_pressedPart = 0;
     bool m_addToSelection = false;
     bool m_selectOnRelease = false;
-    int m_arrowKey = 0; // the one held down; 0 for none
-    bool m_fitWhenShown = true;
+    int m_arrowKey = 0;      // the one held down; 0 for none
+    bool m_followFit = true; // until the user zooms, a resized view shows the whole page again
 };

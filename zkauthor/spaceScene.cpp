@@ -14,7 +14,7 @@
 namespace {
 
 // Round the page and the parts, in millimetres, so that parts can be pushed over the edge and found again.
-constexpr double extentMargin = 20.0;
+constexpr double extentMargin = 10.0;
 
 bool isElement(const NodeImpl* node)
 {

@@ -25,6 +25,7 @@ protected:
         environment.remove(QStringLiteral("DISPLAY"));
         environment.insert(QStringLiteral("XDG_CONFIG_HOME"), path("config"));
         environment.insert(QStringLiteral("XDG_DATA_HOME"), path("data"));
+        environment.insert(QStringLiteral("XDG_RUNTIME_DIR"), m_folder.path()); // one that is the user's alone
         process.setProcessEnvironment(environment);
         process.setWorkingDirectory(m_folder.path());
         process.start(QStringLiteral(ZK_BINARY_DIR "/bin/zkauthor"), arguments);

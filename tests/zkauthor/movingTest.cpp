@@ -76,6 +76,14 @@ TEST_F(MovingTest, EscapePutsADragBack)
     EXPECT_EQ(bytesOf(document()), before);
     EXPECT_FALSE(document().isModified());
     EXPECT_FALSE(document().canUndo());
+
+    // Nor does it take back more than itself.
+    clickPart("lamp2");
+    hold(Qt::Key_Up, 0);
+    dragPart("lamp1", QPoint(50, 50));
+    keys(Qt::Key_Escape);
+    EXPECT_EQ(part("lamp2")->position(), (zk::Point{0.13, 0.049}));
+    EXPECT_EQ(undoSteps(), 1);
 }
 
 TEST_F(MovingTest, ClickWithoutMovingIsNoStep)
