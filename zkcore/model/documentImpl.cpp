@@ -289,14 +289,12 @@ void DocumentImpl::recordChanges(std::unique_ptr<ChangeSet> changes, const Comma
 
 void DocumentImpl::undo()
 {
-    m_openStepPending = false;
     if (m_undoStack->canUndo())
         runUndoRedo(true);
 }
 
 void DocumentImpl::redo()
 {
-    m_openStepPending = false;
     if (m_undoStack->canRedo())
         runUndoRedo(false);
 }
@@ -307,6 +305,7 @@ void DocumentImpl::runUndoRedo(bool undo)
         qWarning("DocumentImpl: undo or redo asked for while the document changes");
         return;
     }
+    m_openStepPending = false;
     m_undoRedoActive = true;
     Q_EMIT undoRedoStarted();
     {

