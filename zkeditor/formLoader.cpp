@@ -4,6 +4,7 @@
 
 #include <QBuffer>
 #include <QCoreApplication>
+#include <QUiLoader>
 #include <QXmlStreamReader>
 
 namespace {
@@ -31,23 +32,48 @@ bool isFormTooDeep(const QByteArray& form)
 
 } // namespace
 
+/// The toolkit's loader, which asks our factories first.
+class FormLoader::Reader : public QUiLoader
+{
+public:
+    QWidget* createWidget(const QString& className, QWidget* parent, const QString& name) override
+    {
+        for (FormFactory* factory : std::as_const(factories)) {
+            if (QWidget* widget = factory->createWidget(className, parent, name))
+                return widget;
+        }
+        return QUiLoader::createWidget(className, parent, name);
+    }
+
+    QList<FormFactory*> factories;
+};
+
 FormLoader& FormLoader::instance()
 {
-    static FormLoader* const loader = [] {
-        // The base's constructor loads every designer plug-in that it finds on the library paths.
-        const QStringList paths = QCoreApplication::libraryPaths();
-        QCoreApplication::setLibraryPaths({});
-        auto* made = new FormLoader;
-        QCoreApplication::setLibraryPaths(paths);
-        return made;
-    }();
+    static FormLoader* const loader = new FormLoader;
     return *loader;
 }
 
+FormLoader::FormLoader()
+{
+    // The toolkit's loader begins by loading every designer plug-in that it finds on the library paths.
+    const QStringList paths = QCoreApplication::libraryPaths();
+    QCoreApplication::setLibraryPaths({});
+    m_reader = std::make_unique<Reader>();
+    QCoreApplication::setLibraryPaths(paths);
+}
+
+FormLoader::~FormLoader() = default;
+
 void FormLoader::addFactory(FormFactory* factory)
 {
-    if (!m_factories.contains(factory))
-        m_factories.append(factory);
+    if (!m_reader->factories.contains(factory))
+        m_reader->factories.append(factory);
+}
+
+const QList<FormFactory*>& FormLoader::factories() const
+{
+    return m_reader->factories;
 }
 
 QWidget* FormLoader::loadForm(const QByteArray& form, QWidget* parent)
@@ -59,14 +85,5 @@ QWidget* FormLoader::loadForm(const QByteArray& form, QWidget* parent)
     QBuffer device;
     device.setData(form);
     device.open(QIODevice::ReadOnly);
-    return load(&device, parent);
-}
-
-QWidget* FormLoader::createWidget(const QString& className, QWidget* parent, const QString& name)
-{
-    for (FormFactory* factory : std::as_const(m_factories)) {
-        if (QWidget* widget = factory->createWidget(className, parent, name))
-            return widget;
-    }
-    return QUiLoader::createWidget(className, parent, name);
+    return m_reader->load(&device, parent);
 }

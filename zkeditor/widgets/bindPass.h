@@ -1,5 +1,7 @@
 #pragma once
 
+#include "zkeditor/export.h"
+
 #include <QHash>
 #include <QString>
 #include <memory>
@@ -11,7 +13,7 @@ class NodeImpl;
 /// Stands while one form is bound to one set of nodes. What several observers of the form need of the same nodes is
 /// worked out by the first that asks and kept here for the others. Passes nest: an inner one for the same set shares
 /// what the outer one has, one for another set begins afresh.
-class BindPass
+class ZKEDITOR_EXPORT BindPass
 {
 public:
     using Nodes = std::vector<NodeImpl*>; // ordered by address, each once

@@ -8,6 +8,7 @@ ComboBox::ComboBox(QWidget* parent, const QString& name) : QComboBox(parent)
 {
     setObjectName(name);
     setFocusPolicy(Qt::StrongFocus); // not by the wheel
+    setSizeAdjustPolicy(QComboBox::AdjustToContents);
 }
 
 QSize ComboBox::sizeHint() const

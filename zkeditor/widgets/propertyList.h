@@ -4,6 +4,7 @@
 
 #include <QHash>
 #include <cstddef>
+#include <iterator>
 #include <optional>
 #include <vector>
 
@@ -26,12 +27,24 @@ public:
     class const_iterator
     {
     public:
+        using iterator_category = std::forward_iterator_tag;
+        using value_type = PropertyImpl*;
+        using difference_type = std::ptrdiff_t;
+        using pointer = PropertyImpl* const*;
+        using reference = PropertyImpl*;
+
         PropertyImpl* operator*() const { return m_slot->property; }
         const_iterator& operator++()
         {
             ++m_slot;
             skipHoles();
             return *this;
+        }
+        const_iterator operator++(int)
+        {
+            const const_iterator before = *this;
+            ++*this;
+            return before;
         }
         friend bool operator==(const const_iterator& a, const const_iterator& b) { return a.m_slot == b.m_slot; }
 

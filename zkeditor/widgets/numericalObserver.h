@@ -1,0 +1,40 @@
+#pragma once
+
+#include "zkeditor/export.h"
+#include "zkeditor/widgets/propertyObserver.h"
+
+class NOReceiver;
+
+/// A PropertyObserver for widgets that show numbers: the model has SI values, the widget shows them in the unit that
+/// the first property's formatter prescribes, and follows when the user picks another.
+class ZKEDITOR_EXPORT NumericalObserver : public PropertyObserver
+{
+public:
+    explicit NumericalObserver(QWidget* widget);
+    NumericalObserver(QWidget* widget, Value::Type type);
+    ~NumericalObserver() override;
+
+    void bind(DocumentImpl* document, const std::set<NodeImpl*>& nodes) override;
+    void unbind() override;
+
+protected:
+    /// Whether all bound properties show the same: values are compared in the unit shown.
+    bool hasCompatibleValues() const override;
+    /// Shows the first property's value again; after its format changed.
+    virtual void onFormatChanged();
+    void dropSharedConnections() override;
+
+    /// From and to SI in the unit of the first property; unchanged where it has none.
+    Value convertFromSI(const Value& value) const;
+    Value convertToSI(const Value& value) const;
+    /// For typed numbers: a DOUBLE may lie outside a validator's range by less than the last decimal of its bounds, so
+    /// that a number rounded for display is not refused. Other types as in validateValue().
+    bool fuzzyValidateValue(const Value& value) const;
+
+private:
+    friend class NOReceiver;
+
+    Unit shownUnit() const;
+
+    NOReceiver* m_no;
+};
