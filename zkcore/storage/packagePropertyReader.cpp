@@ -17,18 +17,19 @@ QString packagePropertyText(const char* source)
     return QCoreApplication::translate("Package", source);
 }
 
-bool isNumberType(Value::Type type)
+bool isNumericPropertyType(Value::Type type)
 {
     return type == Value::INT || type == Value::DOUBLE || type == Value::POINT;
 }
 
 bool takesUnit(Value::Type type)
 {
-    return isNumberType(type) || type == Value::INTVECTOR || type == Value::DOUBLEVECTOR || type == Value::POINTVECTOR;
+    return isNumericPropertyType(type) || type == Value::INTVECTOR || type == Value::DOUBLEVECTOR ||
+           type == Value::POINTVECTOR;
 }
 
 /// Types whose values are a single line of text.
-bool isTextType(Value::Type type)
+bool isPlainTextType(Value::Type type)
 {
     switch (type) {
     case Value::INT:
@@ -212,7 +213,7 @@ bool PackagePropertyReader::readProperty(const PackageElement& element, const Pr
         if (second != element.children.end())
             return m_fault.raise(*second, packagePropertyText("a property has only one <%1>").arg(second->name));
     }
-    if (isNumberType(definition.type)) {
+    if (isNumericPropertyType(definition.type)) {
         auto format = std::make_shared<NumericalFormat>();
         if (!unit.isNull()) {
             format->units.push_back(unit);
@@ -345,7 +346,7 @@ bool PackagePropertyReader::readText(const PackageElement& at, Value::Type type,
 
 bool PackagePropertyReader::readContent(const PackageElement& element, Value::Type type, const Unit& unit, Value& value)
 {
-    if (isTextType(type)) {
+    if (isPlainTextType(type)) {
         if (!element.children.empty())
             return m_fault.raise(
                 element.children.front(),
@@ -381,7 +382,7 @@ bool PackagePropertyReader::readDefault(const PackageElement& element, const Uni
             return false;
     } else if (text.isNull()) {
         definition.defaultValue = emptyValueOfType(definition.type);
-    } else if (!isTextType(definition.type)) {
+    } else if (!isPlainTextType(definition.type)) {
         return m_fault.raise(element, packagePropertyText("a default of the type %1 stands in an element <default>")
                                           .arg(Value::typeAsString(definition.type)));
     } else if (!readText(element, definition.type, text, unit, definition.defaultValue)) {
@@ -394,7 +395,7 @@ bool PackagePropertyReader::readFormat(const PackageElement& element, const Unit
 {
     if (!element.check({"decimals"}, {"unit"}, PackageElement::OnlyElements, m_fault))
         return false;
-    if (!isNumberType(definition.type))
+    if (!isNumericPropertyType(definition.type))
         return m_fault.raise(
             element,
             packagePropertyText("values of the type %1 have no format").arg(Value::typeAsString(definition.type)));
@@ -448,7 +449,7 @@ bool PackagePropertyReader::readRange(const PackageElement& element, const Unit&
 {
     if (!element.check({"kind", "min", "max"}, {}, PackageElement::OnlyElements, m_fault))
         return false;
-    if (!isNumberType(definition.type) && definition.type != Value::DOUBLEVECTOR)
+    if (!isNumericPropertyType(definition.type) && definition.type != Value::DOUBLEVECTOR)
         return m_fault.raise(
             element,
             packagePropertyText("values of the type %1 have no range").arg(Value::typeAsString(definition.type)));
@@ -478,7 +479,7 @@ bool PackagePropertyReader::readSet(const PackageElement& element, const Unit& u
 {
     if (!element.check({"kind"}, {"item"}, PackageElement::OnlyElements, m_fault))
         return false;
-    if (!isTextType(definition.type))
+    if (!isPlainTextType(definition.type))
         return m_fault.raise(element, packagePropertyText("values of the type %1 cannot be chosen from a set")
                                           .arg(Value::typeAsString(definition.type)));
     if (element.children.empty())
