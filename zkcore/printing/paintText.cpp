@@ -10,6 +10,7 @@ namespace {
 
 // In millimetres.
 constexpr double labelLineHeight = 3.6;
+constexpr double labelHeight = 4.2;
 constexpr double labelGap = 0.5;
 constexpr double longestLabel = 60.0;
 
@@ -58,5 +59,5 @@ QRectF paintedLabelRect(const QString& label, const QRectF& area)
     const QFontMetricsF metrics(paintedLabelFont());
     const double width = metrics.horizontalAdvance(paintedLabelText(label)) / drawingText::unitsPerMillimetre + 1.0;
     return QRectF(area.center().x() - width / 2000.0, area.bottom() + labelGap / 1000.0, width / 1000.0,
-                  labelLineHeight / 1000.0);
+                  labelHeight / 1000.0);
 }

@@ -366,6 +366,6 @@ void ScenePainter::paintLabel(const ElementImpl& element)
         return;
     m_painter.setPen(labelColor);
     const QRectF rect = paintedLabelRect(label, elementArea(element).boundingRect());
-    drawingText::draw(m_painter, inMillimetres(rect), Qt::AlignHCenter | Qt::AlignTop, paintedLabelText(label),
-                      paintedLabelFont());
+    drawingText::draw(m_painter, inMillimetres(rect), Qt::AlignHCenter | Qt::AlignTop | Qt::TextDontClip,
+                      paintedLabelText(label), paintedLabelFont());
 }
