@@ -4,6 +4,7 @@
 #include "tests/support/documentGenerator.h"
 #include "zkcore/commands/setValueCommand.h"
 #include "zkcore/model/documentImpl.h"
+#include "zkcore/model/elementImpl.h"
 #include "zkcore/model/nodeImpl.h"
 #include "zkcore/model/propertyImpl.h"
 #include "zkeditor/widgets/observerStringCheckbox.h"
@@ -29,11 +30,14 @@ constexpr size_t sizes[] = {1'000, 10'000, 100'000};
 
 using Figures = std::vector<double>;
 
-/// All nodes of a document that have a property.
+/// All elements of a document that have a property, except those that are locked for the user.
 std::set<NodeImpl*> nodesWith(DocumentImpl& document, PropertyKey key)
 {
     std::set<NodeImpl*> found;
     const std::function<void(NodeImpl*)> visit = [&](NodeImpl* node) {
+        const bool element = node->kind() == NodeKind::Part || node->kind() == NodeKind::Subpart;
+        if (element && static_cast<ElementImpl*>(node)->isEffectivelyLocked(LockPropertyValues))
+            return;
         if (node->hasProperty(key))
             found.insert(node);
         for (NodeImpl* child : node->children())
