@@ -59,9 +59,12 @@ Actions::Actions(QMainWindow* window)
     close = makeAction(window, "close", tr("&Close"), tr("Close the document"), key("Ctrl+W"));
     quit = makeAction(window, "quit", tr("&Quit"), tr("Close the program"), key("Ctrl+Q"));
 
+    // What people try first, whatever the desktop's own key is.
+    QList<QKeySequence> redoKeys = keys(QKeySequence::Redo, "Ctrl+Y");
+    if (!redoKeys.contains(QKeySequence(QStringLiteral("Ctrl+Y"))))
+        redoKeys.append(QKeySequence(QStringLiteral("Ctrl+Y")));
     undo = makeAction(window, "undo", tr("&Undo"), tr("Take back the last change"), keys(QKeySequence::Undo, "Ctrl+Z"));
-    redo =
-        makeAction(window, "redo", tr("&Redo"), tr("Do again what was taken back"), keys(QKeySequence::Redo, "Ctrl+Y"));
+    redo = makeAction(window, "redo", tr("&Redo"), tr("Do again what was taken back"), redoKeys);
     cut = makeAction(window, "cut", tr("Cu&t"), tr("Move the selected parts to the clipboard"),
                      keys(QKeySequence::Cut, "Ctrl+X"));
     copy = makeAction(window, "copy", tr("&Copy"), tr("Copy the selected parts to the clipboard"),

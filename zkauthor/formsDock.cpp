@@ -223,8 +223,7 @@ void FormsDock::setHeading(const std::set<NodeImpl*>& nodes)
     else
         setWindowTitle(tr("%1 Properties").arg(label.isEmpty() ? findStringForCid(first->classId()) : label));
     m_onlyNode = nodes.size() == 1 ? Node(first) : Node();
-    m_heading->setText(nodes.size() == 1 ? first->displayName()
-                                         : tr("%n part(s) selected", nullptr, int(nodes.size())));
+    m_heading->setText(nodes.size() == 1 ? first->displayName() : tr("%1 parts selected").arg(nodes.size()));
     m_heading->show();
 }
 

@@ -3,6 +3,7 @@
 #include "zkauthor/actions.h"
 #include "zkauthor/formsDock.h"
 #include "zkauthor/partEditor.h"
+#include "zkauthor/partRules.h"
 #include "zkauthor/recentFiles.h"
 #include "zkauthor/sceneView.h"
 #include "zkauthor/spaceTabs.h"
@@ -25,6 +26,7 @@
 #include <QLocale>
 #include <QMenu>
 #include <QMessageBox>
+#include <QScopedValueRollback>
 #include <QStatusBar>
 
 MainWindow::MainWindow(QWidget* parent)
@@ -202,7 +204,7 @@ void MainWindow::updateActions()
 void MainWindow::updateSelectionText()
 {
     const size_t count = m_document->getSelection().size();
-    m_selectionText->setText(count == 0 ? tr("Nothing selected") : tr("%n selected", nullptr, int(count)));
+    m_selectionText->setText(count == 0 ? tr("Nothing selected") : tr("%1 selected").arg(count));
 }
 
 void MainWindow::showPointer(const QPointF& place)
@@ -213,6 +215,12 @@ void MainWindow::showPointer(const QPointF& place)
 
 void MainWindow::onCurrentSpaceChanged()
 {
+    // What is selected must be in sight, or the next command would change what nobody looks at.
+    SpaceImpl* space = m_tabs->currentSpace();
+    const ElementImplSet selection = m_document->getSelection();
+    const bool elsewhere = !selection.empty() && (*selection.begin())->space() != space;
+    if (elsewhere && !m_document->isUndoRedoActive() && !m_showingSelection)
+        m_document->setSelection({});
     m_forms->setSpace(m_tabs->currentSpace());
     updateActions();
 }
@@ -221,8 +229,7 @@ void MainWindow::fillInsertMenu()
 {
     QMenu* menu = m_actions->insertMenu;
     menu->clear();
-    for (QObject* child : menu->findChildren<QMenu*>(QString(), Qt::FindDirectChildrenOnly))
-        child->deleteLater();
+    qDeleteAll(menu->findChildren<QMenu*>(QString(), Qt::FindDirectChildrenOnly));
     for (const PartsTreeStructure::Folder& folder : m_document->getPartsTreeStructure().folders) {
         QMenu* group = menu->addMenu(folder.label);
         for (const ClassId cid : folder.classes) {
@@ -231,7 +238,16 @@ void MainWindow::fillInsertMenu()
             if (icon.isValid())
                 action->setIcon(QIcon(ImageCache::getPixmap(icon, true)));
             action->setData(cid);
-            connect(action, &QAction::triggered, this, [this, cid] { addPart(cid); });
+            const NodePrototype* prototype = m_document->getNodeDb()->lookupPrototype(cid);
+            if (prototype && isConnection(*prototype)) {
+                action->setStatusTip(tr("Connect the two selected parts"));
+                action->setEnabled(m_editor->canConnect(m_tabs->currentSpace()));
+                connect(action, &QAction::triggered, this, [this, cid] {
+                    edit([this, cid](SpaceImpl* space) { return m_editor->connectSelection(space, cid); });
+                });
+            } else {
+                connect(action, &QAction::triggered, this, [this, cid] { addPart(cid); });
+            }
         }
     }
     menu->addSeparator();
@@ -279,12 +295,24 @@ void MainWindow::undo()
 {
     m_forms->commitPendingEdit();
     m_document->undo();
+    showSelection();
 }
 
 void MainWindow::redo()
 {
     m_forms->commitPendingEdit();
     m_document->redo();
+    showSelection();
+}
+
+void MainWindow::showSelection()
+{
+    const ElementImplSet selection = m_document->getSelection();
+    SpaceImpl* space = selection.empty() ? nullptr : (*selection.begin())->space();
+    if (!space || space == m_tabs->currentSpace())
+        return;
+    const QScopedValueRollback<bool> showing(m_showingSelection, true);
+    m_tabs->showSpace(space);
 }
 
 bool MainWindow::openFile(const QString& fileName, QString& error)
@@ -311,7 +339,6 @@ bool MainWindow::openStartDocument(const QString& fileName, QString& error)
 bool MainWindow::selectParts(const QStringList& ids, QString& error)
 {
     ElementImplSet elements;
-    SpaceImpl* space = nullptr;
     for (const QString& id : ids) {
         auto* element = qobject_cast<ElementImpl*>(m_document->nodeWithId(id));
         bool number = false;
@@ -322,13 +349,10 @@ bool MainWindow::selectParts(const QStringList& ids, QString& error)
             error = tr("There is no part with the id \"%1\".").arg(id);
             return false;
         }
-        if (!space)
-            space = element->space();
         elements.insert(element);
     }
-    if (space)
-        m_tabs->showSpace(space);
     m_document->setSelection(elements);
+    showSelection();
     return true;
 }
 

@@ -66,6 +66,8 @@ private:
     void addScene();
     void removeScene();
     void openPopup();
+    /// Shows the space in which the selection stands.
+    void showSelection();
     /// Runs a command of the part editor on the current space, after what is being typed was entered.
     template <typename Function> void edit(Function function);
 
@@ -86,4 +88,5 @@ private:
     QLabel* m_selectionText;
     QLabel* m_pointerText;
     QLabel* m_zoomText;
+    bool m_showingSelection = false;
 };

@@ -6,6 +6,7 @@
 #include "zkcore/commands/setValueCommand.h"
 #include "zkcore/model/coreKeys.h"
 #include "zkcore/model/documentImpl.h"
+#include "zkcore/printing/elementGeometry.h"
 #include "zkcore/storage/addPartDrag.h"
 #include "zkcore/storage/fragmentXmlWriter.h"
 
@@ -15,6 +16,7 @@
 #include <QSet>
 #include <cmath>
 #include <numbers>
+#include <set>
 
 namespace {
 
@@ -171,6 +173,63 @@ bool PartEditor::duplicateSelection(SpaceImpl* space)
     for (const ElementImpl* element : elements)
         nodes.push_back(NodeSnapshot::of(*element));
     return addNodes(space, std::move(nodes), {copyOffset, copyOffset});
+}
+
+std::pair<ElementImpl*, ElementImpl*> PartEditor::pinsToConnect(const SpaceImpl* space) const
+{
+    if (!m_document || !NodeImpl::valid(space) || m_document->getSelection().size() != 2)
+        return {};
+    const std::vector<ElementImpl*> parts = selectedParts(*m_document, space);
+    if (parts.size() != 2)
+        return {};
+    const RoleSet pins(QStringLiteral("pins"));
+    std::set<InstanceId> taken;
+    for (const ElementImpl* connection : m_document->connectionsAt({parts[0]->instanceId(), parts[1]->instanceId()})) {
+        taken.insert(connection->valueOfProperty(coreKeys::from()).toInstanceId());
+        taken.insert(connection->valueOfProperty(coreKeys::to()).toInstanceId());
+    }
+    std::pair<ElementImpl*, ElementImpl*> best;
+    double least = 0;
+    for (ElementImpl* from : static_cast<PartImpl*>(parts[0])->getChildrenWithRole(pins)) {
+        for (ElementImpl* to : static_cast<PartImpl*>(parts[1])->getChildrenWithRole(pins)) {
+            const QPointF way = elementTransform(*to).map(QPointF()) - elementTransform(*from).map(QPointF());
+            double distance = std::hypot(way.x(), way.y());
+            for (const ElementImpl* pin : {from, to}) {
+                if (taken.contains(pin->instanceId()))
+                    distance += 1000; // further than any free pin
+            }
+            if (!best.first || distance < least) {
+                best = {from, to};
+                least = distance;
+            }
+        }
+    }
+    return best;
+}
+
+bool PartEditor::canConnect(const SpaceImpl* space) const
+{
+    return pinsToConnect(space).first != nullptr;
+}
+
+bool PartEditor::connectSelection(SpaceImpl* space, ClassId cid)
+{
+    const auto [from, to] = pinsToConnect(space);
+    if (!from)
+        return false;
+    NodeSnapshot connection = NodeSnapshot::ofPrototype(*m_document->getNodeDb(), cid);
+    connection.values.push_back({INVALID_CID, coreKeys::from(), Value(Node(from)), {}});
+    connection.values.push_back({INVALID_CID, coreKeys::to(), Value(Node(to)), {}});
+    std::vector<NodeSnapshot> nodes;
+    nodes.push_back(std::move(connection));
+    Value result;
+    if (!execute(new AddNodesCommand(space, std::move(nodes)), result))
+        return false;
+    for (const Value& value : result.toValueVector()) {
+        if (auto* element = qobject_cast<ElementImpl*>(value.toNode().impl()))
+            m_document->setSelection({element});
+    }
+    return true;
 }
 
 bool PartEditor::copySelection(const SpaceImpl* space)

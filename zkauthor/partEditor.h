@@ -5,7 +5,9 @@
 #include "zkcore/model/nodeSnapshot.h"
 #include "zkcore/values/point.h"
 
+#include <QByteArray>
 #include <QObject>
+#include <utility>
 #include <vector>
 
 class DocumentImpl;
@@ -32,6 +34,12 @@ public:
     /// Copies of the selected parts, with the connections between them, a little aside; selects them.
     bool duplicateSelection(SpaceImpl* space);
 
+    /// Whether exactly two parts that have pins are selected.
+    bool canConnect(const SpaceImpl* space) const;
+    /// Adds a connection of the class between the two pins of the selected parts that are nearest to each other, free
+    /// ones first; selects it.
+    bool connectSelection(SpaceImpl* space, ClassId cid);
+
     /// Puts the selected parts, with the connections between them, on the clipboard.
     bool copySelection(const SpaceImpl* space);
     bool canPaste() const;
@@ -46,6 +54,7 @@ Q_SIGNALS:
 
 private:
     std::vector<const ElementImpl*> selectionWithConnections(const SpaceImpl* space) const;
+    std::pair<ElementImpl*, ElementImpl*> pinsToConnect(const SpaceImpl* space) const;
     bool addNodes(SpaceImpl* space, std::vector<NodeSnapshot> nodes, zk::Point offset);
     bool execute(class Command* command, Value& result);
 

@@ -238,7 +238,8 @@ std::vector<ElementImpl*> SpaceScene::partsIn(const QRectF& rect) const
         const auto* item = qgraphicsitem_cast<ElementItem*>(candidate);
         if (!item || !item->element())
             continue;
-        if (rect.contains(item->area().controlPointRect()) || item->area().intersects(rect))
+        // Of connections, which run everywhere, only those that lie inside with both ends.
+        if (rect.contains(item->area().controlPointRect()) || (!item->isConnection() && item->area().intersects(rect)))
             found.push_back(item->element());
     }
     return found;

@@ -37,7 +37,7 @@ public:
     ElementItem* itemFor(const NodeImpl* node) const;
     /// The topmost part there (millimetres), one within `tolerance` when none is hit; null when there is none.
     ElementImpl* partAt(const QPointF& place, double tolerance) const;
-    /// The parts that the rectangle touches.
+    /// The parts that the rectangle touches, and the connections that it holds.
     std::vector<ElementImpl*> partsIn(const QRectF& rect) const;
 
     /// While held, the scrollable area keeps its size; a drag must not scroll the view under the pointer.

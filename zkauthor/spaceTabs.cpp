@@ -215,10 +215,7 @@ void SpaceTabs::showSpace(SpaceImpl* space)
 {
     if (!m_document || !NodeImpl::valid(space))
         return;
-    if (space->kind() == NodeKind::Popup) {
-        PartImpl* owner = static_cast<PopupImpl*>(space)->owner();
-        m_document->executeCommand(new ShowPopupCommmand(owner, true));
-    }
+    addTabFor(space); // does nothing where it has one
     const int index = indexOfSpace(space->instanceId());
     if (index < 0)
         return;
@@ -237,8 +234,12 @@ void SpaceTabs::activate(ElementImpl* part)
 void SpaceTabs::onTabCloseRequested(int index)
 {
     auto* popup = m_document ? qobject_cast<PopupImpl*>(m_document->nodeById(spaceAt(index))) : nullptr;
-    if (popup)
+    if (!popup)
+        return;
+    if (popup->valueOfProperty(coreKeys::open()).toBool())
         m_document->executeCommand(new ShowPopupCommmand(popup->owner(), false));
+    else
+        removeTabOf(popup->instanceId());
 }
 
 void SpaceTabs::onNodeValueChanged(NodeImpl* node, PropertyKey key)
@@ -277,7 +278,9 @@ void SpaceTabs::fillPopupMenu()
         for (PopupImpl* popup : m_document->getModel()->getPopups()) {
             if (++listed > popupsListed)
                 break;
-            const QString text = tr("%1 of %2").arg(popup->displayName(), popup->owner()->displayName());
+            const QString own = popup->displayName();
+            const QString owner = popup->owner()->displayName();
+            const QString text = own == owner ? own : tr("%1 (%2)").arg(own, owner);
             const InstanceId id = popup->instanceId();
             connect(m_popupMenu->addAction(withoutMnemonic(text)), &QAction::triggered, this, [this, id] {
                 if (m_document)

@@ -28,7 +28,7 @@ public:
     /// Null when no document is shown.
     SceneView* currentView() const;
     SpaceImpl* currentSpace() const;
-    /// Shows the space's tab; a pop-up is opened first.
+    /// Shows the space's tab, which a pop-up gets if it has none yet. Only a look at the document, no change of it.
     void showSpace(SpaceImpl* space);
 
 Q_SIGNALS:

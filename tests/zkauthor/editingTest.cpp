@@ -13,6 +13,7 @@
 #include <QMenu>
 #include <QTest>
 #include <QToolButton>
+#include <QUndoStack>
 
 namespace {
 
@@ -201,6 +202,32 @@ TEST_F(EditingTest, InsertMenuAddsInTheMiddleOfTheView)
     led->trigger();
     EXPECT_GT((*document().getSelection().begin())->position().x, first.x); // beside, not on top of the first
     EXPECT_EQ(undoSteps(), 2);
+
+    // Connections join the two selected parts.
+    const auto wire = [menu]() -> QAction* {
+        Q_EMIT menu->aboutToShow();
+        for (QMenu* group : menu->findChildren<QMenu*>()) {
+            for (QAction* found : group->actions()) {
+                if (found->text() == QLatin1String("Wire"))
+                    return found;
+            }
+        }
+        return nullptr;
+    };
+    ASSERT_TRUE(wire());
+    EXPECT_FALSE(wire()->isEnabled());
+    clickPart("cell");
+    clickPart("lamp2", Qt::ShiftModifier);
+    EXPECT_TRUE(wire()->isEnabled());
+    wire()->trigger();
+    ASSERT_EQ(document().getSelection().size(), 1u);
+    const ElementImpl* added = *document().getSelection().begin();
+    const Node from = added->valueOfProperty(PropertyKey::fromString("from")).toNode();
+    const Node to = added->valueOfProperty(PropertyKey::fromString("to")).toNode();
+    ASSERT_TRUE(from.valid() && to.valid());
+    EXPECT_EQ(from.impl()->parentNode(), part("cell"));
+    EXPECT_EQ(to.impl()->parentNode(), part("lamp2"));
+    EXPECT_EQ(undoSteps(), 3);
 }
 
 TEST_F(EditingTest, ScenesAndPopupsHaveTabs)
@@ -220,6 +247,8 @@ TEST_F(EditingTest, ScenesAndPopupsHaveTabs)
     trigger("open-popup");
     EXPECT_EQ(tabs->currentSpace(), info->popup());
     EXPECT_EQ(tabs->count(), 3);
+    EXPECT_EQ(document().undoStack()->count(), 2); // looking at a pop-up changes nothing
+    EXPECT_EQ(selectedIds(), QStringList());       // what is out of sight is not selected any more
 
     // What is deleted takes its tabs along, and undo brings the scene's back.
     trigger("undo");
