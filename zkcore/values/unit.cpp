@@ -20,19 +20,27 @@
 
 struct Unit::Data
 {
+    struct Free
+    {
+        void operator()(ut_unit* unit) const { ut_free(unit); }
+        void operator()(cv_converter* converter) const { cv_free(converter); }
+    };
+    using UnitPointer = std::unique_ptr<ut_unit, Free>;
+    using ConverterPointer = std::unique_ptr<cv_converter, Free>;
+
     QString symbol;
     QString abbreviation;           // null when there is none
     const UnitName* name = nullptr; // null unless the unit is well known
 
-    ut_unit* si = nullptr; // the product of base units that values are stored in
+    UnitPointer si; // the product of base units that values are stored in
     // SI value = value * numerator / denominator + offset. Factors that are decimal fractions are kept as a fraction of
     // whole numbers: 12.5 mm is then exactly the double 0.0125.
     double numerator = 1.0;
     double denominator = 1.0;
     double offset = 0.0;
     // Set for the few units (logarithmic ones) for which that does not hold.
-    cv_converter* toSI = nullptr;
-    cv_converter* fromSI = nullptr;
+    ConverterPointer toSI;
+    ConverterPointer fromSI;
 };
 
 namespace {
@@ -48,14 +56,6 @@ ut_system* unitSystem()
     }();
     return system;
 }
-
-struct UnitDeleter
-{
-    void operator()(ut_unit* unit) const { ut_free(unit); }
-    void operator()(cv_converter* converter) const { cv_free(converter); }
-};
-using UnitPointer = std::unique_ptr<ut_unit, UnitDeleter>;
-using ConverterPointer = std::unique_ptr<cv_converter, UnitDeleter>;
 
 ut_status rememberUnit(const ut_unit* unit, void* result)
 {
@@ -193,11 +193,11 @@ Unit Unit::fromText(const QString& text, const QString& abbreviation)
         return Unit(*found);
 
     const ClassicLocale classic;
-    const UnitPointer unit(ut_parse(unitSystem(), symbol.toUtf8().constData(), UT_UTF8));
+    const Data::UnitPointer unit(ut_parse(unitSystem(), symbol.toUtf8().constData(), UT_UTF8));
     const ut_unit* const base = unit ? siUnit(unit.get()) : nullptr;
-    UnitPointer si(base ? ut_clone(base) : nullptr);
-    ConverterPointer toSI(si ? ut_get_converter(unit.get(), si.get()) : nullptr);
-    ConverterPointer fromSI(si ? ut_get_converter(si.get(), unit.get()) : nullptr);
+    Data::UnitPointer si(base ? ut_clone(base) : nullptr);
+    Data::ConverterPointer toSI(si ? ut_get_converter(unit.get(), si.get()) : nullptr);
+    Data::ConverterPointer fromSI(si ? ut_get_converter(si.get(), unit.get()) : nullptr);
     if (!toSI || !fromSI)
         return {};
     auto data = std::make_shared<Data>();
@@ -207,10 +207,10 @@ Unit Unit::fromText(const QString& text, const QString& abbreviation)
         data->abbreviation = abbreviation;
     else if (data->name && data->name->abbreviation)
         data->abbreviation = QString::fromUtf8(data->name->abbreviation);
-    data->si = si.release();
+    data->si = std::move(si);
     if (!isAffine(toSI.get(), data->numerator, data->denominator, data->offset)) {
-        data->toSI = toSI.release();
-        data->fromSI = fromSI.release();
+        data->toSI = std::move(toSI);
+        data->fromSI = std::move(fromSI);
     }
     known.insert({symbol, abbreviation}, data);
     return Unit(data);
@@ -238,7 +238,7 @@ double Unit::convertToSI(double value) const
     if (!m_data)
         return value;
     if (m_data->toSI)
-        return cv_convert_double(m_data->toSI, value);
+        return cv_convert_double(m_data->toSI.get(), value);
     const double product = value * m_data->numerator;
     // Only the product may overflow although the result does not.
     const double scaled =
@@ -251,7 +251,7 @@ double Unit::convertFromSI(double value) const
     if (!m_data)
         return value;
     if (m_data->fromSI)
-        return cv_convert_double(m_data->fromSI, value);
+        return cv_convert_double(m_data->fromSI.get(), value);
     const double shifted = value - m_data->offset;
     const double product = shifted * m_data->denominator;
     return std::isfinite(product) ? product / m_data->numerator : shifted / (m_data->numerator / m_data->denominator);
@@ -272,7 +272,7 @@ bool Unit::isConvertibleTo(const Unit& other) const
     if (!m_data || !other.m_data)
         return !m_data && !other.m_data;
     // The library would also convert seconds into hertz, as reciprocals; nobody who types a time means that.
-    return ut_compare(m_data->si, other.m_data->si) == 0;
+    return ut_compare(m_data->si.get(), other.m_data->si.get()) == 0;
 }
 
 bool operator==(const Unit& a, const Unit& b)

@@ -5,9 +5,10 @@
 
 #include <QCoreApplication>
 #include <QLocale>
+#include <algorithm>
 #include <array>
 #include <charconv>
-#include <functional>
+#include <optional>
 
 // Values as text: the exact form that documents hold, and the form for people.
 
@@ -46,6 +47,10 @@ bool isEscapeAt(QStringView text, qsizetype position)
 /// as the beginning of such an escape. Nearly every text comes out as it is, without a copy.
 QString escapedText(const QString& text)
 {
+    const bool isOrdinary = std::all_of(
+        text.cbegin(), text.cend(), [](QChar c) { return c.unicode() >= 0x20 && c.unicode() < 0xd800 && c != u'\\'; });
+    if (isOrdinary)
+        return text.isNull() ? QLatin1String("") : text;
     QString result;
     qsizetype copied = 0;
     for (qsizetype i = 0; i < text.size(); ++i) {
@@ -59,8 +64,6 @@ QString escapedText(const QString& text)
             copied = i + 1;
         }
     }
-    if (copied == 0)
-        return text.isNull() ? QLatin1String("") : text;
     result += QStringView(text).sliced(copied);
     return result;
 }

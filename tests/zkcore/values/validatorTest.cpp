@@ -1,7 +1,7 @@
 // Validators: what they allow, and whom they tell of changes.
 #include "zkcore/values/validator.h"
 
-#include "support/messageCapture.h"
+#include "tests/support/messageCapture.h"
 
 #include <QObject>
 #include <cmath>
