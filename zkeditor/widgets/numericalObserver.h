@@ -1,6 +1,7 @@
 #pragma once
 
 #include "zkeditor/export.h"
+#include "zkcore/values/unit.h"
 #include "zkeditor/widgets/propertyObserver.h"
 
 class NOReceiver;
@@ -20,9 +21,9 @@ public:
 protected:
     /// Whether all bound properties show the same: values are compared in the unit shown.
     bool hasCompatibleValues() const override;
+    Value comparableValue(const Value& value) const override;
     /// Shows the first property's value again; after its format changed.
     virtual void onFormatChanged();
-    void dropSharedConnections() override;
 
     /// From and to SI in the unit of the first property; unchanged where it has none.
     Value convertFromSI(const Value& value) const;

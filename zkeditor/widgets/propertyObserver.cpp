@@ -79,6 +79,7 @@ void PropertyObserver::unbind()
     m_agreedValue.reset();
     m_allWriteable = false;
     m_noneHidden = false;
+    endGesture();
     ++m_bindingNumber;
 }
 
@@ -234,7 +235,7 @@ void PropertyObserver::followValue(const Property& property, const Value& value)
 {
     // A slot that was told before this one may have set the property again: only the value it has now is worth showing.
     const Value now = property.isValid() ? property.getValue() : value;
-    if (m_agreedValue && !(*m_agreedValue == now))
+    if (m_agreedValue && !(*m_agreedValue == comparableValue(now)))
         m_agreedValue.reset();
     showValue(property, now);
 }
@@ -342,8 +343,10 @@ bool PropertyObserver::hasCompatibleValues() const
 {
     if (m_props.size() < 2 || m_agreedValue)
         return true;
-    const Value first = m_props.front()->getValue();
-    const auto differs = [&first](const PropertyImpl* property) { return !(property->getValue() == first); };
+    const Value first = comparableValue(m_props.front()->getValue());
+    const auto differs = [this, &first](const PropertyImpl* property) {
+        return !(comparableValue(property->getValue()) == first);
+    };
     if (m_props.findFrom(m_differenceAt, differs))
         return false;
     m_agreedValue = first;
@@ -376,7 +379,8 @@ void PropertyObserver::setPropertyValue(Value value)
         if (property->getValue() == value)
             continue;
         if (!command)
-            command = std::make_unique<SetValueCommand>(Property(property), value, m_pushUndoOnSetProperty);
+            command = std::make_unique<SetValueCommand>(Property(property), value,
+                                                        m_pushUndoOnSetProperty && !m_gestureWrote);
         else
             command->addProperty(Property(property), value);
     }
@@ -384,8 +388,24 @@ void PropertyObserver::setPropertyValue(Value value)
         return;
     const QPointer<POReceiver> alive(m_receiver);
     const Value result = m_document->executeCommand(command.release());
-    if (!result.isValid() && alive)
+    if (!alive)
+        return;
+    if (result.isValid())
+        m_gestureWrote = m_inGesture;
+    else
         showFirstValue();
+}
+
+void PropertyObserver::beginGesture()
+{
+    m_inGesture = true;
+    m_gestureWrote = false;
+}
+
+void PropertyObserver::endGesture()
+{
+    m_inGesture = false;
+    m_gestureWrote = false;
 }
 
 void PropertyObserver::onPropertyDeleted(QObject* object)

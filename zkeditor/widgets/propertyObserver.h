@@ -99,6 +99,17 @@ protected:
     virtual void onValidatorChanged();
     /// Lets go of a property that is being destroyed.
     virtual void onPropertyDeleted(QObject* object);
+    /// What is compared of a value when mixed values are looked for: what the widget shows of it.
+    virtual Value comparableValue(const Value& value) const { return value; }
+    /// To be called when comparableValue() changed its mind (another unit, say).
+    void forgetAgreement() { m_agreedValue.reset(); }
+    /// The distinct validators of the bound properties.
+    const ValidatorSet& validators() const { return *m_validators; }
+    /// From here to endGesture() all that is written makes one undo step, the first write's. A gesture is what the user
+    /// holds: a button, a key, the mouse.
+    void beginGesture();
+    void endGesture();
+
     /// Called after the last bound property was destroyed: ends connections to what outlives it.
     virtual void dropSharedConnections();
 
@@ -165,6 +176,8 @@ private:
     mutable QByteArray m_name;
     bool m_widgetNamed = false;
     int m_showingValue = 0;
+    bool m_inGesture = false;
+    bool m_gestureWrote = false;
     unsigned int m_bindingNumber = 0;
 
     // Each property tells of its own changes one after the other; looking at all of them each time would take forever

@@ -33,6 +33,15 @@ public:
 
     /// Whether every validator allows the value.
     bool allow(const Value& value) const;
+    /// Whether the predicate holds for every validator (null never comes).
+    template <typename Predicate> bool all(Predicate predicate) const
+    {
+        for (const Entry& entry : m_entries) {
+            if (entry.validator && !predicate(*entry.validator))
+                return false;
+        }
+        return true;
+    }
     /// The validator of that number if all others compare equal to it and every property has one; else null.
     interface::Validator* commonTo(unsigned int number) const;
 

@@ -43,13 +43,13 @@ std::string looks(const QCheckBox& box)
     return box.isChecked() ? "on" : "off";
 }
 
-/// Answers the next question box and remembers what it said.
+/// Answers the next question box, by a button or (with QMessageBox::NoButton) by Escape, and remembers what it said.
 class Answer
 {
 public:
-    explicit Answer(Qt::Key key)
+    explicit Answer(QMessageBox::StandardButton button)
     {
-        QTimer::singleShot(0, &m_context, [this, key] {
+        QTimer::singleShot(0, &m_context, [this, button] {
             auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
             ASSERT_TRUE(box);
             ++asked;
@@ -58,7 +58,10 @@ public:
             defaultIsNo = box->standardButton(box->defaultButton()) == QMessageBox::No;
             if (meanwhile)
                 meanwhile();
-            QTest::keyClick(box, key, key == Qt::Key_Escape ? Qt::NoModifier : Qt::AltModifier);
+            if (button == QMessageBox::NoButton)
+                QTest::keyClick(box, Qt::Key_Escape);
+            else
+                QTest::keyClick(box->button(button), Qt::Key_Space);
         });
     }
 
@@ -194,7 +197,7 @@ TEST_F(BooleanObserverTest, ConfirmingBoxAsksOnceAndOnlyWhatWasGiven)
     box.bind(&document, {lamp}); // bound twice, asked once
     const int before = undoSteps();
     {
-        Answer no(Qt::Key_Escape);
+        Answer no(QMessageBox::NoButton);
         clickBox(box);
         EXPECT_EQ(no.asked, 1);
         EXPECT_EQ(no.title, QString("Change property value"));
@@ -204,7 +207,7 @@ TEST_F(BooleanObserverTest, ConfirmingBoxAsksOnceAndOnlyWhatWasGiven)
         EXPECT_EQ(undoSteps(), before);
     }
     {
-        Answer yes(Qt::Key_Y);
+        Answer yes(QMessageBox::Yes);
         clickBox(box);
         EXPECT_EQ(yes.asked, 1);
         EXPECT_TRUE(isOn(lamp));
@@ -214,7 +217,7 @@ TEST_F(BooleanObserverTest, ConfirmingBoxAsksOnceAndOnlyWhatWasGiven)
     EXPECT_FALSE(isOn(lamp));
     box.setConfirmOffQuestion(""); // empty is not null
     ASSERT_TRUE(set(property(lamp, "on"), boolean(true)));
-    Answer no(Qt::Key_N);
+    Answer no(QMessageBox::No);
     clickBox(box);
     EXPECT_EQ(no.asked, 1);
     EXPECT_TRUE(isOn(lamp));
@@ -229,7 +232,7 @@ TEST_F(BooleanObserverTest, AnswerDoesNotReachWhatWasBoundMeanwhile)
     prepare(box, "on");
     box.setConfirmOnQuestion("Really?");
     box.bind(&document, {lamp});
-    Answer yes(Qt::Key_Y);
+    Answer yes(QMessageBox::Yes);
     yes.meanwhile = [&] { box.bind(&document, {other}); };
     clickBox(box);
     EXPECT_EQ(yes.asked, 1);
@@ -239,7 +242,7 @@ TEST_F(BooleanObserverTest, AnswerDoesNotReachWhatWasBoundMeanwhile)
 
     box.bind(&document, {lamp, other});
     ASSERT_TRUE(set(property(other, "on"), boolean(true)));
-    Answer no(Qt::Key_N);
+    Answer no(QMessageBox::No);
     clickBox(box);
     EXPECT_EQ(no.asked, 1);
     EXPECT_EQ(looks(box), "mixed"); // as it was
