@@ -2,7 +2,6 @@
 
 #include "zkcore/storage/xmlText.h"
 
-#include <QCoreApplication>
 #include <QIODevice>
 #include <QXmlStreamReader>
 #include <algorithm>
@@ -11,11 +10,6 @@ namespace {
 
 constexpr int greatestPackageDepth = 32;
 constexpr qint64 greatestPackageFile = 16 * 1024 * 1024;
-
-QString packageElementText(const char* source)
-{
-    return QCoreApplication::translate("Package", source);
-}
 
 bool isNameAmong(const QString& name, std::initializer_list<const char*> names)
 {
@@ -89,12 +83,12 @@ bool PackageElement::check(std::initializer_list<const char*> attributeNames,
 {
     for (const auto& [known, value] : attributes)
         if (!isNameAmong(known, attributeNames))
-            return fault.raise(*this, packageElementText("<%1> has no attribute \"%2\"").arg(name, known));
+            return fault.raise(*this, tr("<%1> has no attribute \"%2\"").arg(name, known));
     for (const PackageElement& child : children)
         if (!isNameAmong(child.name, childNames))
-            return fault.raise(child, packageElementText("<%1> cannot stand in <%2>").arg(child.name, name));
+            return fault.raise(child, tr("<%1> cannot stand in <%2>").arg(child.name, name));
     if ((content == OnlyElements || !children.empty()) && !text.trimmed().isEmpty())
-        return fault.raise(*this, packageElementText("<%1> cannot have text here").arg(name));
+        return fault.raise(*this, tr("<%1> cannot have text here").arg(name));
     return true;
 }
 
@@ -108,7 +102,7 @@ QString PackageElement::toXml() const
 bool PackageElement::read(QIODevice& device, PackageElement& root, PackageFault& fault)
 {
     if (device.size() > greatestPackageFile)
-        return fault.raise(1, 1, packageElementText("the file is larger than 16 MB"));
+        return fault.raise(1, 1, tr("the file is larger than 16 MB"));
     QXmlStreamReader reader(&device);
     reader.setNamespaceProcessing(false);
     std::vector<PackageElement> open; // from the root to the element that is being read
@@ -116,7 +110,7 @@ bool PackageElement::read(QIODevice& device, PackageElement& root, PackageFault&
         switch (reader.readNext()) {
         case QXmlStreamReader::StartElement:
             if (open.size() >= greatestPackageDepth)
-                reader.raiseError(packageElementText("the elements are nested too deep"));
+                reader.raiseError(tr("the elements are nested too deep"));
             else
                 open.push_back(startedPackageElement(reader));
             break;
@@ -135,7 +129,7 @@ bool PackageElement::read(QIODevice& device, PackageElement& root, PackageFault&
             break;
         case QXmlStreamReader::DTD:
         case QXmlStreamReader::EntityReference:
-            reader.raiseError(packageElementText("document types and entities are not understood"));
+            reader.raiseError(tr("document types and entities are not understood"));
             break;
         default:
             break;

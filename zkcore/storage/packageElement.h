@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QCoreApplication>
 #include <QString>
 #include <initializer_list>
 #include <utility>
@@ -29,6 +30,9 @@ private:
 /// a tree first. Each element knows its place (the end of its start tag) for messages.
 struct PackageElement
 {
+    Q_DECLARE_TR_FUNCTIONS(Package)
+
+public:
     QString name;
     std::vector<std::pair<QString, QString>> attributes;
     /// The characters directly in it.

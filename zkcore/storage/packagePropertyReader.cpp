@@ -4,18 +4,12 @@
 #include "zkcore/storage/valueXml.h"
 #include "zkcore/values/validator.h"
 
-#include <QCoreApplication>
 #include <QRegularExpression>
 #include <QXmlStreamReader>
 #include <algorithm>
 #include <cmath>
 
 namespace {
-
-QString packagePropertyText(const char* source)
-{
-    return QCoreApplication::translate("Package", source);
-}
 
 bool isNumericPropertyType(Value::Type type)
 {
@@ -173,10 +167,9 @@ bool PackagePropertyReader::readKey(const PackageElement& element, PropertyKey& 
     const QString text = element.attribute("key");
     static const QRegularExpression form(QStringLiteral("^[^\\s\\p{C}]+$"));
     if (!form.match(text).hasMatch())
-        return m_fault.raise(element, packagePropertyText("<%1> needs a key without blanks").arg(element.name));
+        return m_fault.raise(element, tr("<%1> needs a key without blanks").arg(element.name));
     if (isReservedKey(text))
-        return m_fault.raise(element,
-                             packagePropertyText("the property \"%1\" is made by the program itself").arg(text));
+        return m_fault.raise(element, tr("the property \"%1\" is made by the program itself").arg(text));
     key = PropertyKey::fromString(text);
     return true;
 }
@@ -191,9 +184,9 @@ bool PackagePropertyReader::readProperty(const PackageElement& element, const Pr
     const QString typeText = element.attribute("type");
     definition.type = Value::typeFromString(typeText);
     if (definition.type == Value::INVALID)
-        return m_fault.raise(element, packagePropertyText("\"%1\" is no type of a property").arg(typeText));
+        return m_fault.raise(element, tr("\"%1\" is no type of a property").arg(typeText));
     if (inherited && inherited->type != definition.type)
-        return m_fault.raise(element, packagePropertyText("the property \"%1\" is inherited with the type %2")
+        return m_fault.raise(element, tr("the property \"%1\" is inherited with the type %2")
                                           .arg(definition.key.toString(), Value::typeAsString(inherited->type)));
     definition.label = element.attribute("label");
     definition.help = element.attribute("help");
@@ -211,7 +204,7 @@ bool PackagePropertyReader::readProperty(const PackageElement& element, const Pr
             continue;
         const auto second = std::find_if(first + 1, element.children.end(), named);
         if (second != element.children.end())
-            return m_fault.raise(*second, packagePropertyText("a property has only one <%1>").arg(second->name));
+            return m_fault.raise(*second, tr("a property has only one <%1>").arg(second->name));
     }
     if (isNumericPropertyType(definition.type)) {
         auto format = std::make_shared<NumericalFormat>();
@@ -260,7 +253,7 @@ bool PackagePropertyReader::readNumber(const PackageElement& element, const char
         return true;
     const Value value = valueFromText(Value::INT, text.trimmed());
     if (!value.isValid() || value.toInt() < minimum)
-        return m_fault.raise(element, packagePropertyText("the attribute \"%1\" is no whole number from %2 on: \"%3\"")
+        return m_fault.raise(element, tr("the attribute \"%1\" is no whole number from %2 on: \"%3\"")
                                           .arg(QLatin1String(attribute), QString::number(minimum), text));
     number = value.toInt();
     return true;
@@ -278,7 +271,7 @@ bool PackagePropertyReader::readChoice(const PackageElement& element, const char
         QStringList known;
         for (const char* word : words)
             known.append(QLatin1String(word));
-        return m_fault.raise(element, packagePropertyText("the attribute \"%1\" is none of %2: \"%3\"")
+        return m_fault.raise(element, tr("the attribute \"%1\" is none of %2: \"%3\"")
                                           .arg(QLatin1String(attribute), known.join(QLatin1String(", ")), text));
     }
     index = static_cast<int>(found - words.begin());
@@ -292,9 +285,9 @@ bool PackagePropertyReader::readResource(const PackageElement& at, const QString
     if (resource.isNull())
         return true;
     if (!resource.isValid())
-        return m_fault.raise(at, packagePropertyText("there is no resource \"%1\"").arg(name));
+        return m_fault.raise(at, tr("there is no resource \"%1\"").arg(name));
     if (type != Resource::INVALID && resource.type() != type)
-        return m_fault.raise(at, packagePropertyText("the resource \"%1\" is of the type %2, not %3")
+        return m_fault.raise(at, tr("the resource \"%1\" is of the type %2, not %3")
                                      .arg(name, Resource::typeAsString(resource.type()), Resource::typeAsString(type)));
     return true;
 }
@@ -305,10 +298,9 @@ bool PackagePropertyReader::readUnit(const PackageElement& element, Value::Type 
     if (text.isNull())
         return true;
     if (!takesUnit(type))
-        return m_fault.raise(element,
-                             packagePropertyText("values of the type %1 have no unit").arg(Value::typeAsString(type)));
+        return m_fault.raise(element, tr("values of the type %1 have no unit").arg(Value::typeAsString(type)));
     unit = Unit::fromText(text);
-    return !unit.isNull() || m_fault.raise(element, packagePropertyText("the unit \"%1\" is not known").arg(text));
+    return !unit.isNull() || m_fault.raise(element, tr("the unit \"%1\" is not known").arg(text));
 }
 
 bool PackagePropertyReader::readFlags(const PackageElement& element, PropertyDefinition& definition)
@@ -319,7 +311,7 @@ bool PackagePropertyReader::readFlags(const PackageElement& element, PropertyDef
             std::find_if(packageWords::flags.begin(), packageWords::flags.end(),
                          [&name](const packageWords::FlagName& f) { return name == QLatin1String(f.name); });
         if (found == packageWords::flags.end())
-            return m_fault.raise(element, packagePropertyText("the flag \"%1\" is not known").arg(name));
+            return m_fault.raise(element, tr("the flag \"%1\" is not known").arg(name));
         definition.flags |= found->flag;
     }
     return true;
@@ -340,17 +332,15 @@ bool PackagePropertyReader::readText(const PackageElement& at, Value::Type type,
         value = unit.convertToSI(value);
     if (value.isValid() && isFiniteValue(value))
         return true;
-    return m_fault.raise(at,
-                         packagePropertyText("\"%1\" is no value of the type %2").arg(text, Value::typeAsString(type)));
+    return m_fault.raise(at, tr("\"%1\" is no value of the type %2").arg(text, Value::typeAsString(type)));
 }
 
 bool PackagePropertyReader::readContent(const PackageElement& element, Value::Type type, const Unit& unit, Value& value)
 {
     if (isPlainTextType(type)) {
         if (!element.children.empty())
-            return m_fault.raise(
-                element.children.front(),
-                packagePropertyText("a value of the type %1 is a text").arg(Value::typeAsString(type)));
+            return m_fault.raise(element.children.front(),
+                                 tr("a value of the type %1 is a text").arg(Value::typeAsString(type)));
         return readText(element, type, element.text, unit, value);
     }
     QXmlStreamReader reader(element.toXml());
@@ -359,10 +349,9 @@ bool PackagePropertyReader::readContent(const PackageElement& element, Value::Ty
     if (reader.hasError())
         return m_fault.raise(element, reader.errorString());
     if (!value.isValid())
-        return m_fault.raise(
-            element, packagePropertyText("the content is no value of the type %1").arg(Value::typeAsString(type)));
+        return m_fault.raise(element, tr("the content is no value of the type %1").arg(Value::typeAsString(type)));
     const QString missing = missingResource(value);
-    return missing.isNull() || m_fault.raise(element, packagePropertyText("there is no resource \"%1\"").arg(missing));
+    return missing.isNull() || m_fault.raise(element, tr("there is no resource \"%1\"").arg(missing));
 }
 
 bool PackagePropertyReader::readDefault(const PackageElement& element, const Unit& unit, PropertyDefinition& definition)
@@ -372,19 +361,19 @@ bool PackagePropertyReader::readDefault(const PackageElement& element, const Uni
     const bool hasChild = child != element.children.end();
     const QString text = element.attribute("default");
     if (hasChild && !text.isNull())
-        return m_fault.raise(*child, packagePropertyText("the property has a default already"));
+        return m_fault.raise(*child, tr("the property has a default already"));
     if (hasChild) {
         if (!child->attributes.empty())
-            return m_fault.raise(
-                *child,
-                packagePropertyText("<%1> has no attribute \"%2\"").arg(child->name, child->attributes.front().first));
+            return m_fault.raise(*child,
+                                 tr("<%1> has no attribute \"%2\"").arg(child->name, child->attributes.front().first));
         if (!readContent(*child, definition.type, unit, definition.defaultValue))
             return false;
     } else if (text.isNull()) {
         definition.defaultValue = emptyValueOfType(definition.type);
     } else if (!isPlainTextType(definition.type)) {
-        return m_fault.raise(element, packagePropertyText("a default of the type %1 stands in an element <default>")
-                                          .arg(Value::typeAsString(definition.type)));
+        return m_fault.raise(
+            element,
+            tr("a default of the type %1 stands in an element <default>").arg(Value::typeAsString(definition.type)));
     } else if (!readText(element, definition.type, text, unit, definition.defaultValue)) {
         return false;
     }
@@ -396,9 +385,8 @@ bool PackagePropertyReader::readFormat(const PackageElement& element, const Unit
     if (!element.check({"decimals"}, {"unit"}, PackageElement::OnlyElements, m_fault))
         return false;
     if (!isNumericPropertyType(definition.type))
-        return m_fault.raise(
-            element,
-            packagePropertyText("values of the type %1 have no format").arg(Value::typeAsString(definition.type)));
+        return m_fault.raise(element,
+                             tr("values of the type %1 have no format").arg(Value::typeAsString(definition.type)));
     auto format = std::make_shared<NumericalFormat>(*definition.format);
     if (!readNumber(element, "decimals", -1, format->decimals))
         return false;
@@ -411,12 +399,11 @@ bool PackagePropertyReader::readFormat(const PackageElement& element, const Unit
         const QString abbreviation = child.attribute("abbreviation");
         const Unit offered = abbreviation.isEmpty() ? Unit::fromText(text) : Unit::fromText(text, abbreviation);
         if (offered.isNull())
-            return m_fault.raise(child, packagePropertyText("the unit \"%1\" is not known").arg(text));
+            return m_fault.raise(child, tr("the unit \"%1\" is not known").arg(text));
         const Unit& first = !unit.isNull() || format->units.empty() ? unit : format->units.front();
         if (!first.isNull() && !offered.isConvertibleTo(first))
-            return m_fault.raise(
-                child,
-                packagePropertyText("the unit \"%1\" does not measure the same as \"%2\"").arg(text, first.symbol()));
+            return m_fault.raise(child,
+                                 tr("the unit \"%1\" does not measure the same as \"%2\"").arg(text, first.symbol()));
         format->units.push_back(offered);
     }
     if (!format->units.empty())
@@ -429,7 +416,7 @@ bool PackagePropertyReader::readValidator(const PackageElement& element, const U
                                           PropertyDefinition& definition)
 {
     if (!element.has("kind"))
-        return m_fault.raise(element, packagePropertyText("a validator needs a kind"));
+        return m_fault.raise(element, tr("a validator needs a kind"));
     int kind = 0;
     if (!readChoice(element, "kind", {"range", "set", "pattern", "resources"}, kind))
         return false;
@@ -450,9 +437,8 @@ bool PackagePropertyReader::readRange(const PackageElement& element, const Unit&
     if (!element.check({"kind", "min", "max"}, {}, PackageElement::OnlyElements, m_fault))
         return false;
     if (!isNumericPropertyType(definition.type) && definition.type != Value::DOUBLEVECTOR)
-        return m_fault.raise(
-            element,
-            packagePropertyText("values of the type %1 have no range").arg(Value::typeAsString(definition.type)));
+        return m_fault.raise(element,
+                             tr("values of the type %1 have no range").arg(Value::typeAsString(definition.type)));
     const Value::Type type = definition.type == Value::INT ? Value::INT : Value::DOUBLE;
     Value minimum;
     Value maximum;
@@ -460,7 +446,7 @@ bool PackagePropertyReader::readRange(const PackageElement& element, const Unit&
         (element.has("max") && !readText(element, type, element.attribute("max"), unit, maximum)))
         return false;
     if (minimum.isValid() && maximum.isValid() && minimum.toDouble() > maximum.toDouble())
-        return m_fault.raise(element, packagePropertyText("the minimum %1 is greater than the maximum %2")
+        return m_fault.raise(element, tr("the minimum %1 is greater than the maximum %2")
                                           .arg(element.attribute("min"), element.attribute("max")));
     if (type == Value::INT) {
         const IntValidator whole;
@@ -480,10 +466,10 @@ bool PackagePropertyReader::readSet(const PackageElement& element, const Unit& u
     if (!element.check({"kind"}, {"item"}, PackageElement::OnlyElements, m_fault))
         return false;
     if (!isPlainTextType(definition.type))
-        return m_fault.raise(element, packagePropertyText("values of the type %1 cannot be chosen from a set")
-                                          .arg(Value::typeAsString(definition.type)));
+        return m_fault.raise(
+            element, tr("values of the type %1 cannot be chosen from a set").arg(Value::typeAsString(definition.type)));
     if (element.children.empty())
-        return m_fault.raise(element, packagePropertyText("the set is empty"));
+        return m_fault.raise(element, tr("the set is empty"));
     std::vector<Value> values;
     for (const PackageElement& item : element.children) {
         Value value;
@@ -501,13 +487,12 @@ bool PackagePropertyReader::readPattern(const PackageElement& element, PropertyD
     if (!element.check({"kind", "expression"}, {}, PackageElement::OnlyElements, m_fault))
         return false;
     if (definition.type != Value::STRING)
-        return m_fault.raise(element, packagePropertyText("only texts have a pattern"));
+        return m_fault.raise(element, tr("only texts have a pattern"));
     const QString text = element.attribute("expression");
     const QRegularExpression expression(text);
     if (text.isEmpty() || !expression.isValid())
-        return m_fault.raise(
-            element, packagePropertyText("the expression \"%1\" is faulty: %2")
-                         .arg(text, text.isEmpty() ? packagePropertyText("it is empty") : expression.errorString()));
+        return m_fault.raise(element, tr("the expression \"%1\" is faulty: %2")
+                                          .arg(text, text.isEmpty() ? tr("it is empty") : expression.errorString()));
     auto validator = std::make_shared<StringValidator>();
     validator->setRegularExpression(text);
     definition.validator = validator;
@@ -519,9 +504,9 @@ bool PackagePropertyReader::readResources(const PackageElement& element, Propert
     if (!element.check({"kind"}, {"item"}, PackageElement::OnlyElements, m_fault))
         return false;
     if (definition.type != Value::RESOURCE)
-        return m_fault.raise(element, packagePropertyText("only resources are chosen from resources"));
+        return m_fault.raise(element, tr("only resources are chosen from resources"));
     if (element.children.empty())
-        return m_fault.raise(element, packagePropertyText("the set is empty"));
+        return m_fault.raise(element, tr("the set is empty"));
     std::vector<Resource> resources;
     std::vector<QString> labels;
     for (const PackageElement& item : element.children) {
@@ -542,6 +527,7 @@ bool PackagePropertyReader::checkAllowed(const PackageElement& at, const Propert
 {
     if (!definition.validator || definition.validator->isValid(value))
         return true;
-    return m_fault.raise(at, packagePropertyText("the property \"%1\" does not allow the value \"%2\"")
-                                 .arg(definition.key.toString(), value.toQString()));
+    return m_fault.raise(
+        at,
+        tr("the property \"%1\" does not allow the value \"%2\"").arg(definition.key.toString(), value.toQString()));
 }

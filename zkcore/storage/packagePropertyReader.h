@@ -3,12 +3,16 @@
 #include "zkcore/model/propertyDefinition.h"
 #include "zkcore/storage/packageElement.h"
 
+#include <QCoreApplication>
+
 class NodePrototype;
 
 /// Makes property definitions and values from the <property> and <value> elements of a package file. Every function
 /// returns false after it raised the fault.
 class PackagePropertyReader
 {
+    Q_DECLARE_TR_FUNCTIONS(Package)
+
 public:
     explicit PackagePropertyReader(PackageFault& fault) : m_fault(fault) {}
 

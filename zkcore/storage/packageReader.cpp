@@ -4,7 +4,6 @@
 #include "zkcore/storage/package.h"
 #include "zkcore/storage/packageWords.h"
 
-#include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QRegularExpression>
@@ -15,11 +14,6 @@ namespace {
 
 /// Deep enough for any sensible chain of bases and subparts, and far from the end of the stack.
 constexpr int greatestClassDepth = 100;
-
-QString packageReaderText(const char* source)
-{
-    return QCoreApplication::translate("Package", source);
-}
 
 QString quotedClass(ClassId cid)
 {
@@ -43,7 +37,7 @@ std::unique_ptr<Package> PackageReader::readFolder(const QString& folder, const 
     if (file.open(QIODevice::ReadOnly))
         return read(file, folder, known, error);
     PackageFault fault;
-    fault.raise(1, 1, packageReaderText("the file cannot be read: %1").arg(file.errorString()));
+    fault.raise(1, 1, tr("the file cannot be read: %1").arg(file.errorString()));
     error = fault.message(file.fileName());
     return nullptr;
 }
@@ -79,15 +73,15 @@ std::unique_ptr<Package> PackageReader::readPackage(const PackageElement& root, 
 bool PackageReader::readHead(const PackageElement& root, Package& package)
 {
     if (root.name != QLatin1String("package"))
-        return fail(root, packageReaderText("this is no package but <%1>").arg(root.name));
+        return fail(root, tr("this is no package but <%1>").arg(root.name));
     int format = 0;
     if (!m_properties.readNumber(root, "format", 1, format))
         return false;
     if (format == 0)
-        return fail(root, packageReaderText("the attribute \"format\" is missing"));
+        return fail(root, tr("the attribute \"format\" is missing"));
     // A newer format may have anything in it: this is said first.
     if (format > formatVersion)
-        return fail(root, packageReaderText("the package has the format %1, this program understands %2")
+        return fail(root, tr("the package has the format %1, this program understands %2")
                               .arg(QString::number(format), QString::number(formatVersion)));
     if (!root.check({"format", "name", "version", "label"}, {"class"}, PackageElement::OnlyElements, m_fault))
         return false;
@@ -95,10 +89,12 @@ bool PackageReader::readHead(const PackageElement& root, Package& package)
     package.m_label = root.has("label") ? root.attribute("label") : package.m_name;
     static const QRegularExpression form(QStringLiteral("^[A-Za-z0-9_-]+$"));
     if (!form.match(package.m_name).hasMatch())
-        return fail(root, packageReaderText("a package needs a name of letters, digits, '-' and '_'"));
+        return fail(root, tr("a package needs a name of letters, digits, '-' and '_'"));
     if (package.m_name != QDir(package.m_folder).dirName())
-        return fail(root,
-                    packageReaderText("the package \"%1\" must stand in a folder of that name").arg(package.m_name));
+        return fail(root, tr("the package \"%1\" must stand in a folder of that name").arg(package.m_name));
+    // The first parts of the names of the program's own pictures and of what documents bring along.
+    if (package.m_name == QLatin1String("editor") || package.m_name == QLatin1String("local"))
+        return fail(root, tr("no package can have the name \"%1\"").arg(package.m_name));
     return m_properties.readNumber(root, "version", 0, package.m_version);
 }
 
@@ -109,12 +105,12 @@ bool PackageReader::collectClasses(const PackageElement& root)
     for (const PackageElement& element : root.children) {
         const QString id = element.attribute("id");
         if (!form.match(id).hasMatch())
-            return fail(element, packageReaderText("\"%1\" is no class id such as \"electronics/led\"").arg(id));
+            return fail(element, tr("\"%1\" is no class id such as \"electronics/led\"").arg(id));
         const ClassId cid = getCidForString(id);
         if (m_entryOf.contains(cid))
-            return fail(element, packageReaderText("the class \"%1\" is defined twice").arg(id));
+            return fail(element, tr("the class \"%1\" is defined twice").arg(id));
         if (m_known(cid))
-            return fail(element, packageReaderText("another package defines the class \"%1\"").arg(id));
+            return fail(element, tr("another package defines the class \"%1\"").arg(id));
         m_entryOf.insert(cid, static_cast<int>(m_entries.size()));
         m_entries.push_back({&element, cid, Entry::Waiting});
     }
@@ -131,15 +127,15 @@ bool PackageReader::resolve(ClassId cid, const PackageElement& user, int depth)
 {
     const int index = m_entryOf.value(cid, -1);
     if (index < 0) {
-        return m_known(cid) || fail(user, packageReaderText("there is no class %1").arg(quotedClass(cid)));
+        return m_known(cid) || fail(user, tr("there is no class %1").arg(quotedClass(cid)));
     }
     Entry& entry = m_entries[static_cast<size_t>(index)];
     if (entry.state == Entry::Done)
         return true;
     if (entry.state == Entry::Begun)
-        return fail(user, packageReaderText("the class %1 needs itself as a base or subpart").arg(quotedClass(cid)));
+        return fail(user, tr("the class %1 needs itself as a base or subpart").arg(quotedClass(cid)));
     if (depth > greatestClassDepth)
-        return fail(user, packageReaderText("the classes are nested too deep"));
+        return fail(user, tr("the classes are nested too deep"));
     entry.state = Entry::Begun;
     if (!resolveNeeded(*entry.element, depth + 1))
         return false;
@@ -204,13 +200,13 @@ bool PackageReader::readKind(const PackageElement& element, const NodePrototype*
     if (!m_properties.readChoice(element, "kind", packageWords::kinds, kind))
         return false;
     if (kind < 0)
-        return fail(element, packageReaderText("a class without a base needs a kind"));
+        return fail(element, tr("a class without a base needs a kind"));
     prototype.kind = static_cast<NodeKind>(kind);
     if (base && base->kind != prototype.kind && !(base->abstract && kindsAreRelated(base->kind, prototype.kind)))
-        return fail(element, packageReaderText("the base %1 is of another kind").arg(quotedClass(base->cid)));
+        return fail(element, tr("the base %1 is of another kind").arg(quotedClass(base->cid)));
     const bool domainId = isDomain(prototype.cid);
     if (domainId != (prototype.kind == NodeKind::Domain) && (domainId || !prototype.abstract))
-        return fail(element, packageReaderText("domains have ids such as \"electronics/*\", other classes have not"));
+        return fail(element, tr("domains have ids such as \"electronics/*\", other classes have not"));
     return true;
 }
 
@@ -228,9 +224,9 @@ bool PackageReader::readLooks(const PackageElement& element, NodePrototype& prot
         prototype.popupClass = getCidForString(element.attribute("popup"));
         const NodePrototype* popup = lookup(prototype.popupClass);
         if (popup && (popup->kind != NodeKind::Popup || popup->abstract))
-            return fail(element, packageReaderText("the class %1 is no pop-up").arg(quotedClass(popup->cid)));
+            return fail(element, tr("the class %1 is no pop-up").arg(quotedClass(popup->cid)));
         if (popup && prototype.kind != NodeKind::Part)
-            return fail(element, packageReaderText("only parts have a pop-up"));
+            return fail(element, tr("only parts have a pop-up"));
     }
     int pane = 0;
     if (!m_properties.readChoice(element, "pane", {"popup"}, pane))
@@ -238,7 +234,7 @@ bool PackageReader::readLooks(const PackageElement& element, NodePrototype& prot
     static const PropertyKey popupPane = PropertyKey::fromString("display-popup-pane-on-selection");
     if (element.has("pane")) {
         if (prototype.popupClass == INVALID_CID)
-            return fail(element, packageReaderText("a class without a pop-up cannot show its pane"));
+            return fail(element, tr("a class without a pop-up cannot show its pane"));
         prototype.addMetaProperty(popupPane, Value(true));
     }
     return true;
@@ -255,7 +251,7 @@ bool PackageReader::readProperties(const PackageElement& element, NodePrototype&
         if (!m_properties.readKey(child, definition.key))
             return false;
         if (given.contains(definition.key))
-            return fail(child, packageReaderText("the property \"%1\" is given twice").arg(definition.key.toString()));
+            return fail(child, tr("the property \"%1\" is given twice").arg(definition.key.toString()));
         given.insert(definition.key);
         const PropertyDefinition* inherited = prototype.find(definition.key);
         if (isProperty) {
@@ -263,9 +259,7 @@ bool PackageReader::readProperties(const PackageElement& element, NodePrototype&
                 return false;
         } else {
             if (!inherited)
-                return fail(
-                    child,
-                    packageReaderText("no base of the class has the property \"%1\"").arg(definition.key.toString()));
+                return fail(child, tr("no base of the class has the property \"%1\"").arg(definition.key.toString()));
             definition = *inherited;
             if (!m_properties.readValue(child, *inherited, definition.defaultValue))
                 return false;
@@ -294,7 +288,7 @@ bool PackageReader::readForms(const PackageElement& element, NodePrototype& prot
             !m_properties.readResource(child, name, Resource::FORM, form))
             return false;
         if (form.isNull())
-            return fail(child, packageReaderText("the name of the form is missing"));
+            return fail(child, tr("the name of the form is missing"));
         forms.push_back(name);
         any = true;
     }
@@ -321,9 +315,9 @@ bool PackageReader::readSubstitutions(const PackageElement& element, NodePrototy
             return false;
         const QString string = child.attribute("string");
         if (string.isNull() || child.has("resource") == child.has("text"))
-            return fail(child, packageReaderText("a substitution needs a string and either a resource or a text"));
+            return fail(child, tr("a substitution needs a string and either a resource or a text"));
         if (given.contains(string))
-            return fail(child, packageReaderText("\"%1\" is substituted twice").arg(string));
+            return fail(child, tr("\"%1\" is substituted twice").arg(string));
         given.insert(string);
         Resource resource;
         if (!m_properties.readResource(child, child.attribute("resource"), Resource::INVALID, resource))
@@ -350,11 +344,11 @@ bool PackageReader::readSubparts(const PackageElement& element, NodePrototype& p
         if (!isRule && child.name != QLatin1String("subpart"))
             continue;
         if (prototype.kind != NodeKind::Part && prototype.kind != NodeKind::Subpart)
-            return fail(child, packageReaderText("only parts and subparts have subparts"));
+            return fail(child, tr("only parts and subparts have subparts"));
         if (isRule) {
             const unsigned int role = Role(child.attribute("role")).number();
             if (roles.contains(role))
-                return fail(child, packageReaderText("there are two rules for the same role"));
+                return fail(child, tr("there are two rules for the same role"));
             roles.insert(role);
             if (!readRule(child, prototype))
                 return false;
@@ -375,21 +369,19 @@ bool PackageReader::readSubpart(const PackageElement& element, SubpartDefinition
     subpart.cid = getCidForString(element.attribute("class"));
     const NodePrototype* subpartClass = lookup(subpart.cid);
     if (!subpartClass)
-        return fail(element, packageReaderText("the class of the subpart is missing"));
+        return fail(element, tr("the class of the subpart is missing"));
     if (subpartClass->kind != NodeKind::Subpart || subpartClass->abstract)
-        return fail(element, packageReaderText("no subpart can be of the class %1").arg(quotedClass(subpart.cid)));
+        return fail(element, tr("no subpart can be of the class %1").arg(quotedClass(subpart.cid)));
     for (const PackageElement& child : element.children) {
         PropertyKey key;
         if (!m_properties.readKey(child, key))
             return false;
         const auto sameKey = [key](const auto& value) { return value.first == key; };
         if (std::any_of(subpart.values.begin(), subpart.values.end(), sameKey))
-            return fail(child, packageReaderText("the property \"%1\" is given twice").arg(key.toString()));
+            return fail(child, tr("the property \"%1\" is given twice").arg(key.toString()));
         const PropertyDefinition* definition = subpartClass->find(key);
         if (!definition)
-            return fail(
-                child,
-                packageReaderText("the class %1 has no property \"%2\"").arg(quotedClass(subpart.cid), key.toString()));
+            return fail(child, tr("the class %1 has no property \"%2\"").arg(quotedClass(subpart.cid), key.toString()));
         Value value;
         if (!m_properties.readValue(child, *definition, value))
             return false;
@@ -405,7 +397,7 @@ bool PackageReader::readRule(const PackageElement& element, NodePrototype& proto
     SubpartRule rule;
     const RoleSet role(element.attribute("role"));
     if (role.roles().size() != 1)
-        return fail(element, packageReaderText("a rule for subparts needs one role"));
+        return fail(element, tr("a rule for subparts needs one role"));
     rule.role = role.roles().front();
     int maximum = 0;
     if (!m_properties.readNumber(element, "max", 0, maximum))
@@ -417,7 +409,7 @@ bool PackageReader::readRule(const PackageElement& element, NodePrototype& proto
         const QString id = child.text.trimmed();
         const ClassId cid = getCidForString(id);
         if (!m_entryOf.contains(cid) && !m_known(cid))
-            return fail(child, packageReaderText("there is no class \"%1\"").arg(id));
+            return fail(child, tr("there is no class \"%1\"").arg(id));
         rule.classes.push_back(cid);
     }
     const auto sameRole = [&rule](const SubpartRule& other) { return other.role == rule.role; };
@@ -443,8 +435,7 @@ bool PackageReader::checkRules() const
                     continue;
                 const NodePrototype* allowed = lookup(getCidForString(child.text.trimmed()));
                 if (allowed && allowed->kind != NodeKind::Subpart && !isDomain(allowed->cid))
-                    return fail(child,
-                                packageReaderText("no subpart can be of the class %1").arg(quotedClass(allowed->cid)));
+                    return fail(child, tr("no subpart can be of the class %1").arg(quotedClass(allowed->cid)));
             }
     return true;
 }

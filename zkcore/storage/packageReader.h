@@ -4,6 +4,7 @@
 #include "zkcore/storage/packageElement.h"
 #include "zkcore/storage/packagePropertyReader.h"
 
+#include <QCoreApplication>
 #include <QHash>
 #include <QString>
 #include <functional>
@@ -18,6 +19,8 @@ struct SubpartDefinition;
 /// Reads package.xml. The resources of the package must be registered before.
 class PackageReader
 {
+    Q_DECLARE_TR_FUNCTIONS(Package)
+
 public:
     /// The class of that id among the packages loaded before; null when there is none.
     using KnownClasses = std::function<const NodePrototype*(ClassId)>;

@@ -4,7 +4,6 @@
 #include "zkcore/model/nodePrototype.h"
 #include "zkcore/storage/packageReader.h"
 
-#include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
 
@@ -51,7 +50,7 @@ bool PackageRegistry::load(const QString& folder, bool builtIn, QString& error)
     };
     if (findByName(dir.dirName()))
         return refuse(dir.filePath(QStringLiteral("package.xml")),
-                      QCoreApplication::translate("Package", "there is a package \"%1\" already").arg(dir.dirName()));
+                      tr("there is a package \"%1\" already").arg(dir.dirName()));
     ResourceTable& resources = ResourceTable::instance();
     const ResourceTable::Snapshot before = resources.snapshot();
     QString faultyFile;

@@ -3,6 +3,7 @@
 #include "zkcore/base/classId.h"
 #include "zkcore/storage/package.h"
 
+#include <QCoreApplication>
 #include <QHash>
 #include <QString>
 #include <functional>
@@ -14,6 +15,8 @@ class NodePrototype;
 /// The packages of the process: what stands behind the static functions of Package.
 class PackageRegistry
 {
+    Q_DECLARE_TR_FUNCTIONS(Package)
+
 public:
     static PackageRegistry& instance();
 

@@ -17,15 +17,12 @@
 
 namespace {
 
-QString userClassText(const char* source)
-{
-    return QCoreApplication::translate("Package", source);
-}
-
 /// Copies resources that belong to a document into a package's folder, and turns references to them into references to
 /// the copies. What was copied is removed again unless keep() is called.
 class DocumentResourceCopier
 {
+    Q_DECLARE_TR_FUNCTIONS(Package)
+
 public:
     explicit DocumentResourceCopier(const QString& folder) : m_folder(folder) {}
     DocumentResourceCopier(const DocumentResourceCopier&) = delete;
@@ -120,7 +117,7 @@ private:
             m_written.append(fileName);
             return true;
         }
-        m_error = userClassText("%1 cannot be written: %2").arg(fileName, file.errorString());
+        m_error = tr("%1 cannot be written: %2").arg(fileName, file.errorString());
         return false;
     }
 
@@ -136,11 +133,11 @@ bool PackageRegistry::addUserClass(const std::shared_ptr<NodePrototype>& prototy
     const QString domain = prototype ? getDomainAsString(prototype->cid) : QString();
     static const QRegularExpression form(QStringLiteral("^[A-Za-z0-9_-]+$"));
     if (!form.match(domain).hasMatch()) {
-        error = userClassText("the class belongs to no domain");
+        error = tr("the class belongs to no domain");
         return false;
     }
     if (findByClass(prototype->cid)) {
-        error = userClassText("there is a class \"%1\" already").arg(findStringForCid(prototype->cid));
+        error = tr("there is a class \"%1\" already").arg(findStringForCid(prototype->cid));
         return false;
     }
     const QString name = QStringLiteral("user-") + domain;
@@ -153,14 +150,14 @@ bool PackageRegistry::addUserClass(const std::shared_ptr<NodePrototype>& prototy
     for (const ClassId cid : needed) {
         const Package* other = findByClass(cid);
         if (package && other && other != package && dependsOn(*other, *package)) {
-            error = userClassText("the packages \"%1\" and \"%2\" would need each other").arg(name, other->name());
+            error = tr("the packages \"%1\" and \"%2\" would need each other").arg(name, other->name());
             return false;
         }
     }
 
     const QString folder = package ? package->folder() : Package::userFolder() + QLatin1Char('/') + name;
     if (!QDir().mkpath(folder)) {
-        error = userClassText("the folder %1 cannot be made").arg(folder);
+        error = tr("the folder %1 cannot be made").arg(folder);
         return false;
     }
     ResourceTable& resources = ResourceTable::instance();
@@ -169,7 +166,11 @@ bool PackageRegistry::addUserClass(const std::shared_ptr<NodePrototype>& prototy
     DocumentResourceCopier copier(folder);
     copier.adopt(*prototype);
     error = copier.error();
-    if (!error.isNull() || !resources.addFolder(folder) || !writeUserPackage(folder, package, prototype, error)) {
+    QString faultyFile;
+    QString reason;
+    if (error.isNull() && !resources.addFolder(folder, &faultyFile, &reason))
+        error = faultyFile + QStringLiteral(": ") + reason;
+    if (!error.isNull() || !writeUserPackage(folder, package, prototype, error)) {
         *prototype = original;
         resources.restore(before);
         return false;
@@ -191,7 +192,7 @@ bool PackageRegistry::findUserPackage(const QString& name, Package*& package, QS
 {
     package = findByName(name);
     if (package && package->isBuiltIn()) {
-        error = userClassText("the package \"%1\" is not the user's").arg(name);
+        error = tr("the package \"%1\" is not the user's").arg(name);
         return false;
     }
     // A file that was refused when the program started must not be overwritten: what is in it would be lost.
@@ -263,7 +264,7 @@ bool PackageRegistry::writeUserPackage(const QString& folder, const Package* pac
         return false;
     QSaveFile file(folder + QStringLiteral("/package.xml"));
     if (!file.open(QIODevice::WriteOnly) || file.write(content.data()) != content.data().size() || !file.commit()) {
-        error = userClassText("%1 cannot be written: %2").arg(file.fileName(), file.errorString());
+        error = tr("%1 cannot be written: %2").arg(file.fileName(), file.errorString());
         return false;
     }
     *added = *readBack;

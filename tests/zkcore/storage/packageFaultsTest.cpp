@@ -247,6 +247,11 @@ TEST_F(PackageFileFaults, FoldersWithoutAPackageOrWithTwoOfAName)
     EXPECT_EQ(error, second + QStringLiteral(":1:1: it differs from \"images/led.svg\" only by its extension"));
     EXPECT_FALSE(Resource("twice/images/led").isValid());
 
+    // The program's own pictures stand under that name.
+    EXPECT_FALSE(Package::load(writePackage(QStringLiteral("editor"), {}), error));
+    EXPECT_TRUE(error.endsWith(QLatin1String("no package can have the name \"editor\""))) << error.toStdString();
+    EXPECT_TRUE(Resource("editor/paletteBox/buttonRight_n").isValid());
+
     QFile::remove(second);
     ASSERT_TRUE(Package::load(folder, error)) << error.toStdString();
     EXPECT_FALSE(Package::load(folder, error));
