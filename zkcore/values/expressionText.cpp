@@ -76,7 +76,7 @@ bool ExpressionText::isPlausible(QChar c)
 int ExpressionText::typedPosition(int position) const
 {
     if (position < 0 || static_cast<size_t>(position) >= m_origins.size())
-        return static_cast<int>(m_typed.size()) + (m_typed.isEmpty() ? 1 : 0);
+        return static_cast<int>(m_typed.size());
     return static_cast<int>(m_origins[static_cast<size_t>(position)]) + 1;
 }
 

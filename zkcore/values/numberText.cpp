@@ -2,6 +2,7 @@
 
 #include "zkcore/values/value.h"
 
+#include <algorithm>
 #include <array>
 #include <charconv>
 #include <cmath>
@@ -86,13 +87,10 @@ QString fixed(double value, int decimals)
         if (text.endsWith(u'.'))
             text.chop(1);
     }
-    if (text.startsWith(u'-') && text.indexOf(QLatin1Char('-')) == 0) {
-        bool isZero = true;
-        for (const QChar c : text)
-            isZero = isZero && (c == u'-' || c == u'.' || c == u'0');
-        if (isZero)
-            text.remove(0, 1);
-    }
+    const bool isZero =
+        std::all_of(text.cbegin(), text.cend(), [](QChar c) { return c == u'-' || c == u'.' || c == u'0'; });
+    if (isZero && text.startsWith(u'-'))
+        text.remove(0, 1);
     text.replace(u'.', decimalPointCharacter());
     return text;
 }
