@@ -4,6 +4,10 @@ add_library(zk_options INTERFACE)
 target_compile_options(zk_options INTERFACE -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Werror)
 # GCC 12 and 13 see overlapping copies in optimised std::string concatenations where there are none (GCC bug 105651).
 target_compile_options(zk_options INTERFACE $<$<CXX_COMPILER_ID:GNU>:-Wno-restrict>)
+# In a source that includes several others GCC takes their unnamed namespaces for those of headers.
+if(CMAKE_UNITY_BUILD)
+  target_compile_options(zk_options INTERFACE $<$<CXX_COMPILER_ID:GNU>:-Wno-subobject-linkage>)
+endif()
 target_compile_definitions(zk_options INTERFACE QT_NO_CAST_TO_ASCII QT_NO_KEYWORDS QT_DISABLE_DEPRECATED_BEFORE=0x060400)
 if(ZK_SANITIZE)
   target_compile_options(zk_options INTERFACE -fsanitize=${ZK_SANITIZE} -fno-omit-frame-pointer -fno-sanitize-recover=all)
