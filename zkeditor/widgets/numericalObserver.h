@@ -1,7 +1,7 @@
 #pragma once
 
-#include "zkeditor/export.h"
 #include "zkcore/values/unit.h"
+#include "zkeditor/export.h"
 #include "zkeditor/widgets/propertyObserver.h"
 
 class NOReceiver;
@@ -32,10 +32,11 @@ protected:
     /// that a number rounded for display is not refused. Other types as in validateValue().
     bool fuzzyValidateValue(const Value& value) const;
 
+    /// The unit that the first property is shown in; the null unit when it has none, or nothing is bound.
+    Unit shownUnit() const;
+
 private:
     friend class NOReceiver;
-
-    Unit shownUnit() const;
 
     NOReceiver* m_no;
 };

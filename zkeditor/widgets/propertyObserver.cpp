@@ -133,7 +133,8 @@ void PropertyObserver::bindSpaceProperty(const std::set<NodeImpl*>& nodes)
 
 void PropertyObserver::getMatchingSubparts(const std::set<NodeImpl*>& nodes, std::set<NodeImpl*>& out) const
 {
-    for (NodeImpl* node : *matchingSubparts(nodes))
+    const std::shared_ptr<const BindPass::Nodes> found = matchingSubparts(nodes);
+    for (NodeImpl* node : *found)
         out.insert(out.end(), node);
 }
 
@@ -310,6 +311,31 @@ void PropertyObserver::setDisplayValid(bool valid)
         m_widget->setPalette(palette);
     }
     m_widget->repaint();
+}
+
+void PropertyObserver::setDisplayReason(const QString& reason)
+{
+    if (!reason.isEmpty()) {
+        if (!m_ownTexts)
+            m_ownTexts = OwnTexts{m_widget->toolTip(), m_widget->accessibleDescription()};
+        m_widget->setToolTip(reason);
+        m_widget->setAccessibleDescription(reason);
+    } else if (m_ownTexts) {
+        m_widget->setToolTip(m_ownTexts->toolTip);
+        m_widget->setAccessibleDescription(m_ownTexts->description);
+        m_ownTexts.reset();
+    }
+}
+
+QString PropertyObserver::refusalReason(const Value& value) const
+{
+    QString reason;
+    m_validators->all([&](const interface::Validator& validator) {
+        if (!validator.isValid(value))
+            reason = validator.reason(value);
+        return reason.isEmpty();
+    });
+    return reason;
 }
 
 void PropertyObserver::setWidgetName(const QString& name)

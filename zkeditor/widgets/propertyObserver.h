@@ -90,6 +90,11 @@ protected:
     virtual bool validateValue(Value value) const;
     /// Shows the widget's text in red while what the user entered is not valid.
     virtual void setDisplayValid(bool valid);
+    /// While what the user entered is not valid, the reason stands in the widget's tool tip and accessible description;
+    /// an empty text brings its own ones back.
+    void setDisplayReason(const QString& reason);
+    /// Why the properties may not take a value: one translated sentence; empty when they may.
+    QString refusalReason(const Value& value) const;
     /// The nearest value that the properties may take; the value itself, with a warning, where they do not say the
     /// same.
     virtual Value fixupValue(Value value);
@@ -172,6 +177,12 @@ private:
     void showValue(const Property& property, const Value& value);
 
     std::unique_ptr<ValidatorSet> m_validators;
+    struct OwnTexts
+    {
+        QString toolTip;
+        QString description;
+    };
+    std::optional<OwnTexts> m_ownTexts;   // the widget's, while a reason stands in their place
     std::optional<QPalette> m_ownPalette; // the widget's, where it has one of its own and shows red now
     mutable QByteArray m_name;
     bool m_widgetNamed = false;
