@@ -7,6 +7,7 @@
 #include "zkcore/values/validator.h"
 
 #include <QDir>
+#include <QFile>
 #include <algorithm>
 #include <cmath>
 
@@ -198,4 +199,29 @@ TEST_F(PackageTest, UnloadingForgetsClassesAndResources)
     EXPECT_FALSE(kept.data().isEmpty()) << "a reference outlives the table";
     EXPECT_EQ(Package::findByClassID(getCidForString("kit/a")), nullptr);
     EXPECT_NE(Package::findByClassID(getCidForString("core/part")), nullptr) << "asking loads the built-in ones again";
+}
+
+TEST_F(PackageTest, TheDocumentedExampleLoadsAndNoPartOfItDoes)
+{
+    QFile documentation(QStringLiteral(ZK_SOURCE_DIR "/docs/packages.md"));
+    ASSERT_TRUE(documentation.open(QIODevice::ReadOnly));
+    const QByteArray text = documentation.readAll();
+    const qsizetype begin = text.indexOf("<?xml");
+    const QByteArray example = text.mid(begin, text.indexOf("```", begin) - begin).trimmed();
+    for (const char* image : {"kettle", "kettle-icon", "boil"})
+        write(QStringLiteral("kitchen/images/%1.svg").arg(QLatin1String(image)), picture());
+    write(QStringLiteral("kitchen/forms/kettle.ui"), "<ui/>");
+
+    MessageCapture capture;
+    QString error;
+    for (qsizetype length = 0; length < example.size(); length += 13) {
+        write(QStringLiteral("kitchen/package.xml"), example.left(length));
+        ASSERT_FALSE(Package::load(path(QStringLiteral("kitchen")), error)) << length;
+        ASSERT_TRUE(error.startsWith(path(QStringLiteral("kitchen/package.xml:")))) << error.toStdString();
+    }
+    write(QStringLiteral("kitchen/package.xml"), example);
+    ASSERT_TRUE(Package::load(path(QStringLiteral("kitchen")), error)) << error.toStdString();
+    EXPECT_TRUE(capture.isEmpty());
+    EXPECT_EQ(defaultOf(*classOf("kitchen/kettle"), "size"), Value(zk::Point{0.02, 0.03}));
+    EXPECT_EQ(defaultOf(*classOf("kitchen/*"), "mains"), Value(230.0));
 }
