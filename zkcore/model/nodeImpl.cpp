@@ -139,10 +139,27 @@ PropertyImpl* NodeImpl::propertyIn(PropertyStore& store, ClassId domain, int ind
 
 Value NodeImpl::resolved(const Value& stored) const
 {
-    if (stored.type() != Value::NODE || stored.toNode().valid())
+    // Nodes and the document's own resources are stored by name; what the name stands for may come and go.
+    switch (stored.type()) {
+    case Value::NODE: {
+        NodeImpl* node = stored.toNode().valid() ? nullptr : m_document->nodeById(stored.toInstanceId());
+        return node ? Value(Node(node)) : stored;
+    }
+    case Value::RESOURCE: {
+        const Resource resource = stored.toResource();
+        return resource.isValid() || resource.isNull() ? stored : Value(m_document->resource(resource.toString()));
+    }
+    case Value::RESOURCEVECTOR: {
+        std::vector<Resource> resources = stored.toResourceVector();
+        for (Resource& resource : resources) {
+            if (!resource.isValid() && !resource.isNull())
+                resource = m_document->resource(resource.toString());
+        }
+        return Value(resources);
+    }
+    default:
         return stored;
-    NodeImpl* node = m_document->nodeById(stored.toInstanceId());
-    return node ? Value(Node(node)) : stored;
+    }
 }
 
 const Value& NodeImpl::PropertyStore::value(int index) const

@@ -3,11 +3,11 @@
 #include "zkcore/base/assert.h"
 #include "zkcore/model/propertyImpl.h"
 #include "zkcore/values/expressionParser.h"
-#include "zkcore/values/formatter.h"
 #include "zkcore/values/validator.h"
 #include "zkcore/values/validatorFactory.h"
 #include "zkeditor/widgets/doubleSpinboxValidator.h"
 #include "zkeditor/widgets/lineEdit.h"
+#include "zkeditor/widgets/numberDisplay.h"
 #include "zkeditor/widgets/poReceiver.h"
 #include "zkeditor/widgets/spinControls.h"
 
@@ -246,35 +246,13 @@ bool ObserverSpinBox::isTyping() const
 
 QString ObserverSpinBox::mapValueToText(double value)
 {
-    const auto* formatter =
-        m_props.empty() ? nullptr : dynamic_cast<const NumericalFormatter*>(m_props.front()->getFormatter());
-    int decimals = formatter ? formatter->decimals() : -1;
-    if (decimals < 0) {
-        const double size = std::abs(value);
-        decimals = 2;
-        if (size > 0.0 && size < 1.0) {
-            decimals = static_cast<int>(std::ceil(-std::log10(size))) + 1;
-            if (decimals > 4)
-                return QStringLiteral("0");
-        }
-    }
-    QString text = QString::number(value, 'f', decimals);
-    if (text.contains(QLatin1Char('.'))) {
-        while (text.endsWith(QLatin1Char('0')))
-            text.chop(1);
-        if (text.endsWith(QLatin1Char('.')))
-            text.chop(1);
-    }
-    return text.replace(QLatin1Char('.'), decimalPointCharacter());
+    return numberDisplay::text(value, m_props.empty() ? nullptr : m_props.front()->getFormatter());
 }
 
 double ObserverSpinBox::mapTextToValue(bool* ok)
 {
     *ok = true;
-    const QString typed = cleanText();
-    bool isNumber = false;
-    const double number = typed.toDouble(&isNumber);
-    return isNumber ? number : ExpressionParser::eval(typed, shownUnit()).toDouble();
+    return numberDisplay::number(cleanText(), shownUnit());
 }
 
 void ObserverSpinBox::updateDisplay()

@@ -3,10 +3,12 @@
 #include "zkcore/commands/addNodesCommand.h"
 #include "zkcore/commands/deleteNodeCommand.h"
 #include "zkcore/commands/reflectCommand.h"
+#include "zkcore/commands/resourceCommand.h"
 #include "zkcore/commands/setNodeIndexCommand.h"
 #include "zkcore/commands/setUILockedCommand.h"
 #include "zkcore/commands/setValueCommand.h"
 #include "zkcore/commands/viewCommands.h"
+#include "zkcore/media/resourceEntry.h"
 #include "zkcore/model/idProvider.h"
 #include "zkcore/model/propertyImpl.h"
 #include "zkcore/model/view.h"
@@ -253,6 +255,20 @@ TEST_F(DocumentTest, connectionsGoWithWhatTheyEndAt)
     NodeImpl* again = firstScene(*m_document)->getChildAt(2);
     EXPECT_EQ(again->valueOfProperty(key("from")).toNode().impl(), box->getChildAt(0));
     EXPECT_TRUE(again->valueOfProperty(key("to")).toNode().valid()) << "names the lamp that was made again";
+}
+
+TEST_F(DocumentTest, valuesNameTheDocumentsOwnResources)
+{
+    PartImpl* picture = addPart(*m_document, "core/picture");
+    const Value added = run<AddResourceCommand>(
+        *m_document, Resource(std::make_shared<LocalREntry>(QStringLiteral("photo"), Resource::IMAGE, "bytes",
+                                                            QStringLiteral("png"))));
+    EXPECT_EQ(added.toResource().toString(), QStringLiteral("local/photo"));
+    ASSERT_TRUE(set(property(picture, "picture"), Value(Resource(QStringLiteral("local/photo")))));
+    EXPECT_EQ(property(picture, "picture")->getValue().toResource().data(), QByteArray("bytes"));
+    m_document->undo();
+    m_document->undo();
+    EXPECT_FALSE(m_document->resource(QStringLiteral("local/photo")).isValid());
 }
 
 TEST_F(DocumentTest, aReflectionShowsAndEditsItsOriginal)
