@@ -22,12 +22,15 @@ constexpr double smallestDrawn = 4.0;
 // How strongly parts are drawn that are not seen while the model runs.
 constexpr double hiddenOpacity = 0.3;
 
+QPointF placeOf(const ElementImpl& element)
+{
+    const zk::Point position = element.position();
+    return QPointF(position.x, position.y) * mmPerMetre;
+}
+
 } // namespace
 
-ElementItem::ElementItem(ElementImpl* element) : m_element(element), m_connection(::isConnection(*element))
-{
-    updateGeometry();
-}
+ElementItem::ElementItem(ElementImpl* element) : m_element(element), m_connection(::isConnection(*element)) {}
 
 void ElementItem::updateGeometry()
 {
@@ -50,6 +53,22 @@ void ElementItem::updateGeometry()
         prepareGeometryChange();
     m_bounds = bounds;
     m_area = area;
+    m_place = placeOf(*element);
+    update();
+}
+
+void ElementItem::followPosition()
+{
+    const ElementImpl* element = this->element();
+    if (!element || m_connection || m_bounds.isNull()) {
+        updateGeometry();
+        return;
+    }
+    const QPointF way = placeOf(*element) - m_place;
+    prepareGeometryChange();
+    m_bounds.translate(way);
+    m_area.translate(way);
+    m_place += way;
     update();
 }
 

@@ -12,6 +12,7 @@ class ElementItem : public QGraphicsItem
 public:
     enum { Type = UserType + 1 };
 
+    /// Without geometry until updateGeometry() is called.
     explicit ElementItem(ElementImpl* element);
 
     int type() const override { return Type; }
@@ -28,12 +29,15 @@ public:
     const QPainterPath& area() const { return m_area; }
     /// Reads the element's geometry again.
     void updateGeometry();
+    /// The same when nothing but the element's position changed, which is much quicker: the labels keep their room.
+    void followPosition();
     bool isMarked() const { return m_marked; }
     /// Draws it as selected, or not.
     void setMarked(bool marked);
 
 private:
     Element m_element;
+    QPointF m_place; // of the centre, where the geometry was last read
     QRectF m_bounds;
     QPainterPath m_area;
     bool m_connection;

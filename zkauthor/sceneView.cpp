@@ -66,7 +66,6 @@ SceneView::SceneView(DocumentImpl* document, SpaceImpl* space, PartEditor* edito
     setAccessibleName(tr("Scene %1").arg(space->displayName()));
     setAccessibleDescription(tr("Arrow keys move the selected parts by one millimetre, with Shift by ten."));
     connect(document, &DocumentImpl::undoRedoStarted, this, [this] { endGesture(true); });
-    connect(document, &DocumentImpl::Loaded, viewport(), qOverload<>(&QWidget::update));
     setZoom(1);
     m_followFit = true;
 }
@@ -107,6 +106,7 @@ void SceneView::zoomOut()
 void SceneView::zoomToFit()
 {
     // As large as it goes without scroll bars, whether there are any now or not.
+    m_scene->tightenExtent();
     const QRectF extent = sceneRect();
     const QSizeF room = maximumViewportSize() - QSize(2, 2);
     if (extent.isEmpty() || room.width() <= 0 || room.height() <= 0)

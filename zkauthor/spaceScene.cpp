@@ -10,6 +10,7 @@
 #include <QPainter>
 #include <QPalette>
 #include <algorithm>
+#include <utility>
 
 namespace {
 
@@ -26,9 +27,9 @@ bool isElement(const NodeImpl* node)
 SpaceScene::SpaceScene(DocumentImpl* document, SpaceImpl* space, QObject* parent)
     : QGraphicsScene(parent), m_document(document), m_space(space)
 {
-    m_extentTimer.setSingleShot(true);
-    m_extentTimer.setInterval(0);
-    connect(&m_extentTimer, &QTimer::timeout, this, &SpaceScene::updateExtent);
+    m_flushTimer.setSingleShot(true);
+    m_flushTimer.setInterval(0);
+    connect(&m_flushTimer, &QTimer::timeout, this, &SpaceScene::flush);
     connect(document, &DocumentImpl::ElementAdded, this, &SpaceScene::onElementAdded);
     connect(document, &DocumentImpl::ElementRemoved, this, &SpaceScene::onElementRemoved);
     connect(document, &DocumentImpl::nodeValueChanged, this, &SpaceScene::onNodeValueChanged);
@@ -36,11 +37,11 @@ SpaceScene::SpaceScene(DocumentImpl* document, SpaceImpl* space, QObject* parent
     connect(document, &DocumentImpl::undoRedoStarted, this, [this] { m_inUndoRedo = true; });
     connect(document, &DocumentImpl::Loaded, this, &SpaceScene::onLoaded);
     connect(document, &DocumentImpl::nodeMoved, this, [this](NodeImpl* node) {
-        if (ElementItem* item = itemFor(node))
+        if (ElementItem* item = find(node))
             placeInStack(item, item->element());
     });
     connect(document, &DocumentImpl::nodeLocksChanged, this, [this](NodeImpl* node) {
-        if (ElementItem* item = itemFor(node))
+        if (ElementItem* item = find(node))
             item->update();
     });
     rebuild();
@@ -53,6 +54,7 @@ void SpaceScene::rebuild()
     clear();
     m_items.clear();
     m_marked.clear();
+    m_changed.clear();
     m_connectionsAtPin.clear();
     m_pinsOfConnection.clear();
     const SpaceImpl* here = space();
@@ -65,19 +67,27 @@ void SpaceScene::rebuild()
         if (child->kind() != NodeKind::Part)
             continue;
         auto* item = new ElementItem(static_cast<ElementImpl*>(child));
+        item->updateGeometry();
         item->setZValue(++z);
         m_items.emplace(child->instanceId(), item);
         registerEnds(item);
         addItem(item);
     }
-    updateExtent();
+    tightenExtent();
     onSelectionChanged();
 }
 
-ElementItem* SpaceScene::itemFor(const NodeImpl* node) const
+ElementItem* SpaceScene::find(const NodeImpl* node) const
 {
     const auto found = node ? m_items.find(node->instanceId()) : m_items.end();
     return found == m_items.end() ? nullptr : found->second;
+}
+
+ElementItem* SpaceScene::itemFor(const NodeImpl* node)
+{
+    if (!m_changed.isEmpty())
+        flush();
+    return find(node);
 }
 
 void SpaceScene::addItemFor(ElementImpl* element)
@@ -88,7 +98,7 @@ void SpaceScene::addItemFor(ElementImpl* element)
     placeInStack(item, element);
     registerEnds(item);
     addItem(item);
-    m_extentTimer.start();
+    refresh(item);
 }
 
 void SpaceScene::removeItem(InstanceId id)
@@ -99,6 +109,7 @@ void SpaceScene::removeItem(InstanceId id)
     ElementItem* item = found->second;
     m_items.erase(found);
     m_marked.remove(id);
+    m_changed.remove(id);
     unregisterEnds(id);
     delete item;
 }
@@ -110,8 +121,8 @@ void SpaceScene::placeInStack(ElementItem* item, ElementImpl* element)
     const int index = here ? here->getIndexForChild(element) : -1;
     if (index < 0)
         return;
-    const ElementItem* below = index > 0 ? itemFor(here->getChildAt(static_cast<unsigned>(index) - 1)) : nullptr;
-    const ElementItem* above = itemFor(here->getChildAt(static_cast<unsigned>(index) + 1));
+    const ElementItem* below = index > 0 ? find(here->getChildAt(static_cast<unsigned>(index) - 1)) : nullptr;
+    const ElementItem* above = find(here->getChildAt(static_cast<unsigned>(index) + 1));
     double z = 0;
     if (below && above) {
         z = (below->zValue() + above->zValue()) / 2;
@@ -120,7 +131,7 @@ void SpaceScene::placeInStack(ElementItem* item, ElementImpl* element)
             double next = 0;
             for (const NodeImpl* child : here->children()) {
                 ++next;
-                if (ElementItem* each = itemFor(child))
+                if (ElementItem* each = find(child))
                     each->setZValue(next);
             }
             return;
@@ -166,18 +177,37 @@ void SpaceScene::refreshConnectionsAt(const NodeImpl* node)
     for (const InstanceId connection : m_connectionsAtPin.value(node->instanceId())) {
         const auto found = m_items.find(connection);
         if (found != m_items.end())
-            found->second->updateGeometry();
+            refresh(found->second);
     }
     for (const NodeImpl* child : node->children())
         refreshConnectionsAt(child);
 }
 
-void SpaceScene::refresh(ElementItem* item)
+void SpaceScene::refresh(const ElementItem* item, bool onlyMoved)
 {
-    item->updateGeometry();
-    if (const ElementImpl* element = item->element())
-        refreshConnectionsAt(element);
-    m_extentTimer.start();
+    const auto noted = m_changed.find(item->instanceId());
+    if (noted == m_changed.end())
+        m_changed.insert(item->instanceId(), onlyMoved);
+    else
+        *noted = *noted && onlyMoved;
+    if (!m_flushTimer.isActive())
+        m_flushTimer.start();
+}
+
+void SpaceScene::flush()
+{
+    const QHash<InstanceId, bool> changed = std::exchange(m_changed, {});
+    for (auto it = changed.begin(); it != changed.end(); ++it) {
+        const auto found = m_items.find(it.key());
+        if (found == m_items.end())
+            continue;
+        if (it.value())
+            found->second->followPosition();
+        else
+            found->second->updateGeometry();
+        m_content |= found->second->boundingRect();
+    }
+    updateExtent();
 }
 
 void SpaceScene::updatePage()
@@ -189,21 +219,24 @@ void SpaceScene::updatePage()
     const QRectF page(0, 0, std::max(size.x, 0.0) * 1000, std::max(size.y, 0.0) * 1000);
     if (page != m_page) {
         m_page = page;
-        m_extentTimer.start();
+        m_content |= page;
+        m_flushTimer.start();
     }
     update();
 }
 
-QRectF SpaceScene::contentRect() const
+void SpaceScene::tightenExtent()
 {
-    return m_items.empty() ? m_page : m_page.united(itemsBoundingRect());
+    flush();
+    m_content = m_items.empty() ? m_page : m_page.united(itemsBoundingRect());
+    updateExtent();
 }
 
 void SpaceScene::updateExtent()
 {
     if (m_extentHeld)
         return;
-    const QRectF extent = contentRect().adjusted(-extentMargin, -extentMargin, extentMargin, extentMargin);
+    const QRectF extent = m_content.adjusted(-extentMargin, -extentMargin, extentMargin, extentMargin);
     if (extent != sceneRect())
         setSceneRect(extent);
 }
@@ -212,11 +245,12 @@ void SpaceScene::holdExtent(bool hold)
 {
     m_extentHeld = hold;
     if (!hold)
-        m_extentTimer.start();
+        m_flushTimer.start();
 }
 
-ElementImpl* SpaceScene::partAt(const QPointF& place, double tolerance) const
+ElementImpl* SpaceScene::partAt(const QPointF& place, double tolerance)
 {
+    flush();
     const QRectF near(place.x() - tolerance, place.y() - tolerance, 2 * tolerance, 2 * tolerance);
     ElementImpl* close = nullptr;
     for (QGraphicsItem* candidate : items(near, Qt::IntersectsItemBoundingRect, Qt::DescendingOrder)) {
@@ -231,8 +265,9 @@ ElementImpl* SpaceScene::partAt(const QPointF& place, double tolerance) const
     return close;
 }
 
-std::vector<ElementImpl*> SpaceScene::partsIn(const QRectF& rect) const
+std::vector<ElementImpl*> SpaceScene::partsIn(const QRectF& rect)
 {
+    flush();
     std::vector<ElementImpl*> found;
     for (QGraphicsItem* candidate : items(rect, Qt::IntersectsItemBoundingRect, Qt::AscendingOrder)) {
         const auto* item = qgraphicsitem_cast<ElementItem*>(candidate);
@@ -271,7 +306,7 @@ void SpaceScene::onElementAdded(Element element)
         addItemFor(added);
         refreshConnectionsAt(added);
     } else if (added->kind() == NodeKind::Subpart) {
-        if (ElementItem* item = itemFor(partInSpace(added, here)))
+        if (ElementItem* item = find(partInSpace(added, here)))
             refresh(item);
     }
 }
@@ -281,7 +316,6 @@ void SpaceScene::onElementRemoved(Element element)
     const auto found = m_items.find(element.instanceId());
     if (found != m_items.end()) {
         removeItem(element.instanceId());
-        m_extentTimer.start();
         return;
     }
     const SpaceImpl* here = space();
@@ -291,7 +325,7 @@ void SpaceScene::onElementRemoved(Element element)
     // A subpart that goes by itself changes its part; one that goes with its part does not.
     const ElementImpl* part = partInSpace(gone->parentNode(), here);
     if (part && m_document->nodeById(part->instanceId()) == part) {
-        if (ElementItem* item = itemFor(part))
+        if (ElementItem* item = find(part))
             refresh(item);
     }
 }
@@ -305,12 +339,13 @@ void SpaceScene::onNodeValueChanged(NodeImpl* node, PropertyKey key)
     }
     if (!here || !isElement(node))
         return;
-    ElementItem* item = itemFor(partInSpace(node, here));
+    ElementItem* item = find(partInSpace(node, here));
     if (!item)
         return;
     if (item->isConnection() && (key == coreKeys::from() || key == coreKeys::to()))
         registerEnds(item);
-    refresh(item);
+    refresh(item, key == coreKeys::position() && node->parentNode() == here);
+    refreshConnectionsAt(node);
 }
 
 void SpaceScene::onSelectionChanged()
@@ -318,7 +353,7 @@ void SpaceScene::onSelectionChanged()
     QSet<InstanceId> marked;
     const SpaceImpl* here = space();
     for (ElementImpl* element : m_document->getSelection()) {
-        ElementItem* item = here ? itemFor(partInSpace(element, here)) : nullptr;
+        ElementItem* item = here ? find(partInSpace(element, here)) : nullptr;
         if (!item)
             continue;
         marked.insert(item->instanceId());

@@ -15,7 +15,9 @@ class DocumentImpl;
 class ElementItem;
 
 /// The graphics of one space: an item for each part, kept in step with the document. Coordinates are millimetres from
-/// the space's top left corner. A change of one part costs the same however many there are.
+/// the space's top left corner. A change of one part costs the same however many there are. What changes
+/// is noted at once, and read and drawn once for all its changes: when control is back in the event loop, or when
+/// somebody asks for an item.
 class SpaceScene : public QGraphicsScene
 {
     Q_OBJECT
@@ -31,14 +33,15 @@ public:
 
     /// The page in millimetres.
     QRectF pageRect() const { return m_page; }
-    /// What the user may want to see: the page and every part.
-    QRectF contentRect() const;
+    /// Makes the scene's rectangle just hold the page and every part; otherwise it only grows. Linear in their number.
+    void tightenExtent();
 
-    ElementItem* itemFor(const NodeImpl* node) const;
+    /// Null when the node has none.
+    ElementItem* itemFor(const NodeImpl* node);
     /// The topmost part there (millimetres), one within `tolerance` when none is hit; null when there is none.
-    ElementImpl* partAt(const QPointF& place, double tolerance) const;
+    ElementImpl* partAt(const QPointF& place, double tolerance);
     /// The parts that the rectangle touches, and the connections that it holds.
-    std::vector<ElementImpl*> partsIn(const QRectF& rect) const;
+    std::vector<ElementImpl*> partsIn(const QRectF& rect);
 
     /// While held, the scrollable area keeps its size; a drag must not scroll the view under the pointer.
     void holdExtent(bool hold);
@@ -52,8 +55,10 @@ private:
     void removeItem(InstanceId id);
     void placeInStack(ElementItem* item, ElementImpl* element);
     void updatePage();
+    ElementItem* find(const NodeImpl* node) const;
+    void refresh(const ElementItem* item, bool onlyMoved = false);
+    void flush();
     void updateExtent();
-    void refresh(ElementItem* item);
     void registerEnds(ElementItem* item);
     void unregisterEnds(InstanceId connection);
     void refreshConnectionsAt(const NodeImpl* node);
@@ -71,7 +76,9 @@ private:
     QSet<InstanceId> m_marked;
     QHash<InstanceId, QSet<InstanceId>> m_connectionsAtPin;
     QHash<InstanceId, std::pair<InstanceId, InstanceId>> m_pinsOfConnection;
-    QTimer m_extentTimer;
+    QHash<InstanceId, bool> m_changed; // items whose geometry is to be read again; whether they only moved
+    QRectF m_content;                  // holds the page and the parts
+    QTimer m_flushTimer;
     bool m_extentHeld = false;
     bool m_inUndoRedo = false;
 };
