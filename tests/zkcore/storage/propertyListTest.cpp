@@ -9,7 +9,7 @@
 
 namespace {
 
-QByteArray contentOf(const QString& fileName)
+QByteArray plistBytes(const QString& fileName)
 {
     QFile file(fileName);
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
@@ -48,7 +48,7 @@ TEST_F(PropertyListTest, ThereAndBack)
     EXPECT_TRUE(rc::check([this] {
         const Value value = randomPlistValue(3);
         RC_ASSERT(writePlst(fileName(), value));
-        RC_ASSERT(parsePlstData(contentOf(fileName())) == value);
+        RC_ASSERT(parsePlstData(plistBytes(fileName())) == value);
     }));
 }
 
@@ -58,7 +58,7 @@ TEST_F(PropertyListTest, WhatAListHoldsInItsOwnTerms)
         writePlst(fileName(), Value(ValueMap{{QStringLiteral("colour"), Value(QColor(Qt::red))},
                                              {QStringLiteral("numbers"), Value(std::vector<int>{1, -2})},
                                              {QStringLiteral("texts"), Value(std::vector<QString>{QString()})}})));
-    EXPECT_EQ(parsePlstData(contentOf(fileName())),
+    EXPECT_EQ(parsePlstData(plistBytes(fileName())),
               Value(ValueMap{{QStringLiteral("colour"), Value(QStringLiteral("#ff0000"))},
                              {QStringLiteral("numbers"), Value(std::vector<Value>{Value(1), Value(-2)})},
                              {QStringLiteral("texts"), Value(std::vector<Value>{Value(QStringLiteral(""))})}}));
@@ -67,13 +67,13 @@ TEST_F(PropertyListTest, WhatAListHoldsInItsOwnTerms)
 TEST_F(PropertyListTest, WhatItCannotHoldLeavesTheOldFile)
 {
     ASSERT_TRUE(writePlst(fileName(), Value(1)));
-    const QByteArray before = contentOf(fileName());
+    const QByteArray before = plistBytes(fileName());
     for (const Value& value :
          {Value(), Value(zk::Point()), Value::fromInstanceId(3), Value(std::numeric_limits<double>::infinity()),
           Value(QString(QChar(u'\0'))), Value(std::vector<Value>{Value(1), Value()}),
           Value(ValueMap{{QStringLiteral("twice"), Value(1)}, {QStringLiteral("twice"), Value(2)}})})
         EXPECT_FALSE(writePlst(fileName(), value)) << Value::typeAsString(value.type()).toStdString();
-    EXPECT_EQ(contentOf(fileName()), before);
+    EXPECT_EQ(plistBytes(fileName()), before);
     EXPECT_FALSE(writePlst(m_folder.filePath(QStringLiteral("no/such/folder")), Value(1)));
 }
 
@@ -110,7 +110,7 @@ TEST_F(PropertyListTest, DamagedDataNeverCrash)
     ASSERT_TRUE(
         writePlst(fileName(), Value(ValueMap{{QStringLiteral("a"), Value(std::vector<Value>{Value(true), Value(5)})},
                                              {QStringLiteral("b"), Value(QStringLiteral("text"))}})));
-    for (const QByteArray& whole : {contentOf(fileName()), binaryPlist()}) {
+    for (const QByteArray& whole : {plistBytes(fileName()), binaryPlist()}) {
         for (qsizetype length = 0; length < whole.size() - 3; ++length)
             EXPECT_FALSE(parsePlstData(whole.left(length)).isValid());
         for (qsizetype at = 0; at < whole.size(); ++at) {

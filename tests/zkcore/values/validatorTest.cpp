@@ -16,7 +16,7 @@ namespace {
 constexpr double quietNaN = std::numeric_limits<double>::quiet_NaN();
 constexpr double infinity = std::numeric_limits<double>::infinity();
 
-Value text(const char* characters)
+Value textValue(const char* characters)
 {
     return Value(QString::fromUtf8(characters));
 }
@@ -87,15 +87,15 @@ TEST(ValidatorTest, Integers)
 TEST(ValidatorTest, SetsAndResources)
 {
     const SetValidator set(Value(std::vector<QString>{QStringLiteral("Fast"), QStringLiteral("Slow")}));
-    EXPECT_TRUE(set.isValid(text("Slow")));
-    EXPECT_FALSE(set.isValid(text("slow")));
-    EXPECT_FALSE(set.fixup(text("slow")).isValid());
-    EXPECT_EQ(set.reason(text("slow")), QStringLiteral("Only these values are allowed: Fast, Slow."));
+    EXPECT_TRUE(set.isValid(textValue("Slow")));
+    EXPECT_FALSE(set.isValid(textValue("slow")));
+    EXPECT_FALSE(set.fixup(textValue("slow")).isValid());
+    EXPECT_EQ(set.reason(textValue("slow")), QStringLiteral("Only these values are allowed: Fast, Slow."));
 
     const ResourceValidator bells({Resource("a/bell"), Resource("a/horn")}, {QStringLiteral("Bell")});
     EXPECT_EQ(bells.indexForResource(Value(Resource("a/horn"))), 1);
     EXPECT_EQ(bells.indexForResource(Value(Resource("a/drum"))), -1);
-    EXPECT_EQ(bells.indexForResource(text("a/horn")), -1);
+    EXPECT_EQ(bells.indexForResource(textValue("a/horn")), -1);
     EXPECT_EQ(bells.labelForResource(Value(Resource("a/bell"))), QStringLiteral("Bell"));
     EXPECT_TRUE(bells.labelForResource(Value(Resource("a/drum"))).isNull());
     EXPECT_EQ(bells.labels().size(), 2u); // a label for every resource
@@ -106,15 +106,15 @@ TEST(ValidatorTest, SetsAndResources)
 TEST(ValidatorTest, PatternsMatchTheWholeText)
 {
     StringValidator pattern;
-    EXPECT_TRUE(pattern.isValid(text("anything at all")));
+    EXPECT_TRUE(pattern.isValid(textValue("anything at all")));
     pattern.setRegularExpression(QStringLiteral("[a-z]+|x y"));
-    EXPECT_TRUE(pattern.isValid(text("abc")));
-    EXPECT_TRUE(pattern.isValid(text("x y")));
-    EXPECT_FALSE(pattern.isValid(text("abc1")));
-    EXPECT_FALSE(pattern.isValid(text("abc\n")));
+    EXPECT_TRUE(pattern.isValid(textValue("abc")));
+    EXPECT_TRUE(pattern.isValid(textValue("x y")));
+    EXPECT_FALSE(pattern.isValid(textValue("abc1")));
+    EXPECT_FALSE(pattern.isValid(textValue("abc\n")));
     EXPECT_FALSE(pattern.isValid(Value(1)));
-    EXPECT_EQ(pattern.fixup(text("  abc\n")), text("abc"));
-    EXPECT_FALSE(pattern.fixup(text("a b")).isValid());
+    EXPECT_EQ(pattern.fixup(textValue("  abc\n")), textValue("abc"));
+    EXPECT_FALSE(pattern.fixup(textValue("a b")).isValid());
 
     const MessageCapture capture;
     pattern.setRegularExpression(QStringLiteral("a(b"));
@@ -123,7 +123,7 @@ TEST(ValidatorTest, PatternsMatchTheWholeText)
         QStringList(QStringLiteral(
             "StringValidator: malformed regular expression \"a(b\": missing closing parenthesis (at character 4)")));
     EXPECT_EQ(pattern.regularExpression(), QStringLiteral("[a-z]+|x y"));
-    EXPECT_TRUE(pattern.isValid(text("abc")));
+    EXPECT_TRUE(pattern.isValid(textValue("abc")));
 }
 
 TEST(ValidatorTest, Comparison)

@@ -9,8 +9,8 @@
 
 namespace {
 
-constexpr double infinity = std::numeric_limits<double>::infinity();
-constexpr double quietNaN = std::numeric_limits<double>::quiet_NaN();
+constexpr double infiniteNumber = std::numeric_limits<double>::infinity();
+constexpr double notANumber = std::numeric_limits<double>::quiet_NaN();
 
 std::vector<Value> oneOfEachType()
 {
@@ -70,8 +70,8 @@ TEST(ValueTest, NumbersConvertWithoutFailure)
     EXPECT_EQ(Value(2.5).toInt(), 3);
     EXPECT_EQ(Value(-2.5).toInt(), -2);
     EXPECT_EQ(Value(1e300).toInt(), std::numeric_limits<int>::max());
-    EXPECT_EQ(Value(-infinity).toInt(), std::numeric_limits<int>::min());
-    EXPECT_EQ(Value(quietNaN).toInt(), 0);
+    EXPECT_EQ(Value(-infiniteNumber).toInt(), std::numeric_limits<int>::min());
+    EXPECT_EQ(Value(notANumber).toInt(), 0);
     EXPECT_EQ(Value(QStringLiteral(" 12.4 ")).toInt(), 12);
     EXPECT_EQ(Value(QStringLiteral("12 apples")).toDouble(), 0.0);
     EXPECT_EQ(Value(true).toDouble(), 1.0);
