@@ -27,7 +27,7 @@ constexpr PartKind partKinds[] = {
     {"electronics/switch", "switch", "closed", {"false", "true", "false", "true"}},
     {"flowcharts/step", "step", "title", {"", "Light on", "Wait & see", "<stop>"}},
     {"electronics/battery", "battery", "voltage", {"9", "4.5", "1.5", "12"}},
-    {"electronics/led", "led", "color", {"#ff0000", "#35b54a", "#3478f6", "#ffffff"}},
+    {"electronics/led", "led", "color", {"#ffae1a", "#35b54a", "#3478f6", "#ffffff"}},
     {"mechanics/motor", "motor", "title", {"", "Drive", "", "Gate"}},
     {"core/info", "info", "title", {"", "Read this", "", ""}},
     {"electronics/buzzer", "buzzer", "melody", {"60 64 67", "72 74", "60", "60 62 64 65"}},

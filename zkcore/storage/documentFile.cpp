@@ -169,6 +169,29 @@ void writeResources(QXmlStreamWriter& xml, const std::vector<Resource>& resource
     xml.writeEndElement();
 }
 
+/// The parser meets a wrong byte when it decodes the block around it, long before the text that it stands in: this
+/// finds the line and column of the first byte of the file that is not UTF-8. False when there is none.
+bool findWrongByte(QIODevice& device, qint64& line, qint64& column)
+{
+    if (device.isSequential() || !device.seek(0))
+        return false;
+    for (line = 1; !device.atEnd(); ++line) {
+        const QByteArray text = device.readLine();
+        if (QUtf8StringView(text).isValidUtf8())
+            continue;
+        column = QString::fromUtf8(text).indexOf(QChar(QChar::ReplacementCharacter)) + 1;
+        return true;
+    }
+    return false;
+}
+
+bool isEncodingFault(const QXmlStreamReader& xml)
+{
+    const QStringView encoding = xml.documentEncoding();
+    return xml.errorString() == QCoreApplication::translate("QXmlStream", "Encountered incorrectly encoded content.") &&
+           (encoding.isEmpty() || encoding.compare(u"UTF-8", Qt::CaseInsensitive) == 0);
+}
+
 } // namespace
 
 bool DocumentFile::read(QIODevice& device, const QString& name, NodeDb& db, DocumentContent& content, QString& error)
@@ -185,6 +208,10 @@ bool DocumentFile::read(QIODevice& device, const QString& name, NodeDb& db, Docu
     NodeXml::Reader nodes(xml, db, warnings, name + u':');
     nodes.requireIds();
     if (!DocumentReader(xml, nodes, content).read()) {
+        qint64 line = 0;
+        qint64 column = 0;
+        if (isEncodingFault(xml) && findWrongByte(device, line, column))
+            nodes.setFaultPlace(line, column);
         error = name + u':' + nodes.faultText();
         content = DocumentContent();
         return false;
@@ -214,6 +241,8 @@ bool DocumentFile::write(QIODevice& device, const DocumentImpl& document, QStrin
     xml.writeEndDocument();
     auto* file = qobject_cast<QFileDevice*>(&device);
     if (xml.hasError() || (file && !file->flush())) {
+        if (file)
+            file->flush(); // what was written in part does not say why; the next try does
         error = device.errorString();
         return false;
     }

@@ -50,6 +50,8 @@ public:
 
     bool fault(const QString& reason);
     void warn(const QString& sentence);
+    /// Says where the fault is when that is not where reading stands.
+    void setFaultPlace(qint64 line, qint64 column) { m_faultPosition = {line, column}; }
     /// "LINE:COLUMN: reason" of the fault.
     QString faultText() const;
 
