@@ -95,10 +95,11 @@ void PrintCommand::paintPage(QPainter& painter, int page, const QRectF& paper) c
     const SpaceImpl* space = sheet ? sheet->space.impl() : nullptr;
     if (!space)
         return;
-    const int index = page - sheet->firstPage;
+    const int column = (page - sheet->firstPage) % sheet->columns;
+    const int row = (page - sheet->firstPage) / sheet->columns;
     const QRectF printable = m_printer.printableRectMM();
     const QSizeF step = printable.size() * metrePerMillimetre / sheet->scale;
-    const QPointF origin(step.width() * (index % sheet->columns), step.height() * (index / sheet->columns));
+    const QPointF origin(step.width() * column, step.height() * row);
     const QRectF area = QRectF(origin, step).intersected(sheet->area);
 
     const QSizeF paperSize = m_printer.getStandardPaperSizeMM();

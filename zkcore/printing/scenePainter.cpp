@@ -128,6 +128,8 @@ void ScenePainter::paintElement(const ElementImpl& element)
     m_painter.save();
     m_painter.scale(1.0 / millimetresPerMetre, 1.0 / millimetresPerMetre);
     m_painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform | QPainter::TextAntialiasing);
+    // The texts of the document, not the language of the program, decide from which side they are read.
+    m_painter.setLayoutDirection(Qt::LayoutDirectionAuto);
     if (beginElement(element)) {
         if (element.instanceOf(paintKeys().connectionClass)) {
             paintConnection(element);

@@ -85,10 +85,12 @@ TEST_F(ImageCacheTest, TheSamePictureIsMadeOnce)
 TEST_F(ImageCacheTest, WhatWasNotUsedForLongestGoesFirst)
 {
     std::vector<Resource> pictures; // of 16 MB each: four are as many as are kept
+    pictures.reserve(5);
     for (int i = 0; i < 5; ++i)
         pictures.push_back(
             resourceOf(QStringLiteral("local/%1").arg(i), pngOf(QSize(2048, 2048), Qt::red), QStringLiteral("png")));
     std::vector<qint64> keys;
+    keys.reserve(4);
     for (int i = 0; i < 4; ++i)
         keys.push_back(ImageCache::getPixmap(pictures[static_cast<size_t>(i)]).cacheKey());
     EXPECT_EQ(ImageCache::getPixmap(pictures[0]).cacheKey(), keys[0]);
