@@ -5,8 +5,16 @@
 #include "zkeditor/widgets/groupRadioButton.h"
 #include "zkeditor/widgets/observerButton.h"
 #include "zkeditor/widgets/observerCheckbox.h"
+#include "zkeditor/widgets/observerCombobox.h"
+#include "zkeditor/widgets/observerGroupBox.h"
+#include "zkeditor/widgets/observerLabel.h"
+#include "zkeditor/widgets/observerLineEdit.h"
+#include "zkeditor/widgets/observerRadiogroup.h"
+#include "zkeditor/widgets/observerSlider.h"
 #include "zkeditor/widgets/observerStringCheckbox.h"
 #include "zkeditor/widgets/paletteBoxSection.h"
+#include "zkeditor/widgets/propertyLabel.h"
+#include "zkeditor/widgets/unitChooser.h"
 
 #include <algorithm>
 #include <iterator>
@@ -26,12 +34,21 @@ struct FormWidgetRow
 
 constexpr FormWidgetRow s_formWidgets[] = {
     {"GroupBox", makeFormWidget<GroupBox>},
+    {"GroupRadioButton", makeFormWidget<GroupRadioButton>},
+    {"ObserverGroupBox", makeFormWidget<ObserverGroupBox>},
     {"PaletteBoxSection", makeFormWidget<PaletteBoxSection>},
     {"ObserverButton", makeFormWidget<ObserverButton>},
     {"ObserverCheckBox", makeFormWidget<ObserverCheckBox>},
     {"ConfirmingObserverCheckBox", makeFormWidget<ConfirmingObserverCheckBox>},
     {"ObserverStringCheckBox", makeFormWidget<ObserverStringCheckBox>},
+    {"ObserverComboBox", makeFormWidget<ObserverComboBox>},
+    {"ObserverLabel", makeFormWidget<ObserverLabel>},
+    {"ObserverLineEdit", makeFormWidget<ObserverLineEdit>},
+    {"ObserverRadioGroup", makeFormWidget<ObserverRadioGroup>},
+    {"ObserverSlider", makeFormWidget<ObserverSlider>},
+    {"UnitChooser", makeFormWidget<UnitChooser>},
     {"RadioButton", makeFormWidget<RadioButton>},
+    {"PropertyLabel", makeFormWidget<PropertyLabel>},
 };
 
 } // namespace
