@@ -30,7 +30,7 @@ std::shared_ptr<const BindPass::Nodes> BindPass::subparts(const QString& selecto
     return m_subparts->value(selector);
 }
 
-void BindPass::keepSubparts(const QString& selector, std::shared_ptr<const Nodes> nodes) const
+void BindPass::keepSubparts(const QString& selector, const std::shared_ptr<const Nodes>& nodes) const
 {
-    m_subparts->insert(selector, std::move(nodes));
+    m_subparts->insert(selector, nodes);
 }

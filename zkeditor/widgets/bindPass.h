@@ -29,7 +29,7 @@ public:
 
     /// The subparts that a selector chooses; null when nobody worked them out yet.
     std::shared_ptr<const Nodes> subparts(const QString& selector) const;
-    void keepSubparts(const QString& selector, std::shared_ptr<const Nodes> nodes) const;
+    void keepSubparts(const QString& selector, const std::shared_ptr<const Nodes>& nodes) const;
 
 private:
     using Cache = QHash<QString, std::shared_ptr<const Nodes>>;

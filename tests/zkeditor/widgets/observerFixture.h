@@ -33,6 +33,7 @@ protected:
     std::vector<PartImpl*> add(const char* cid, int count)
     {
         std::vector<PartImpl*> parts;
+        parts.reserve(static_cast<size_t>(count));
         for (int i = 0; i < count; ++i)
             parts.push_back(add(cid));
         return parts;
