@@ -99,6 +99,7 @@ void ElementItem::paint(QPainter* painter, const QStyleOptionGraphicsItem*, QWid
     }
     painter->save();
     painter->scale(mmPerMetre, mmPerMetre);
+    painter->setLayoutDirection(Qt::LayoutDirectionAuto); // the document's texts, not the program's language, decide
     ScenePainter scenePainter(*painter);
     scenePainter.setHiddenOpacity(hiddenOpacity);
     scenePainter.paintElement(*element);
