@@ -10,7 +10,8 @@
 class ResourceEntry;
 
 /// A reference to an item of media or data, named by a path such as "electronics/led". Copied by value.
-class ZKCORE_EXPORT Resource {
+class ZKCORE_EXPORT Resource
+{
 public:
     enum Type { INVALID = 0, IMAGE = 1, MOVIE = 2, SOUND = 3, TEXT = 4, DATA = 5, SCRIPT = 6, FONT = 7, FORM = 8 };
 

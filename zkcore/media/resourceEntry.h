@@ -6,7 +6,8 @@
 #include <QString>
 
 /// What stands behind a Resource: a name, a type and the bytes. Owned through shared pointers by the resource tables.
-class ZKCORE_EXPORT ResourceEntry {
+class ZKCORE_EXPORT ResourceEntry
+{
 public:
     ResourceEntry(QString name, Resource::Type type) : m_name(std::move(name)), m_type(type) {}
     virtual ~ResourceEntry();
@@ -26,7 +27,8 @@ private:
 };
 
 /// A resource that is a file: of a package, or of the built-in data (":/zk/packages/...").
-class ZKCORE_EXPORT FileREntry : public ResourceEntry {
+class ZKCORE_EXPORT FileREntry : public ResourceEntry
+{
 public:
     FileREntry(const QString& name, Resource::Type type, const QString& fileName);
 
@@ -39,7 +41,8 @@ private:
 };
 
 /// A resource kept inside a document; its bytes are saved with it. Its name begins with "local/".
-class ZKCORE_EXPORT LocalREntry : public ResourceEntry {
+class ZKCORE_EXPORT LocalREntry : public ResourceEntry
+{
 public:
     LocalREntry(const QString& name, Resource::Type type, QByteArray bytes, QString extension);
 

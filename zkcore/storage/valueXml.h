@@ -7,11 +7,12 @@ class QXmlStreamReader;
 class QXmlStreamWriter;
 
 /// Values of every type as XML: scalars as text, the other kinds as nested <item> elements.
-class ZKCORE_EXPORT ValueXml {
+class ZKCORE_EXPORT ValueXml
+{
 public:
     /// Writes the content of the element that the writer has open.
     static void writeContent(QXmlStreamWriter& writer, const Value& value);
-    /// Reads the content of the element on whose start the reader stands, up to its end. Invalid value, with an error raised
-    /// on the reader, when the content is not a value of the type.
+    /// Reads the content of the element on whose start the reader stands, up to its end. Invalid value, with an error
+    /// raised on the reader, when the content is not a value of the type.
     static Value readContent(QXmlStreamReader& reader, Value::Type type);
 };

@@ -5,7 +5,8 @@
 #include <QDomNode>
 #include <QString>
 
-class ZKCORE_EXPORT XMLUtils {
+class ZKCORE_EXPORT XMLUtils
+{
 public:
     /// The first direct child element of that tag name; a null node when there is none.
     static QDomNode findChildWithName(const QDomNode& node, const QString& name);
