@@ -5,6 +5,7 @@
 #include "zkeditor/widgets/groupRadioButton.h"
 #include "zkeditor/widgets/observerButton.h"
 #include "zkeditor/widgets/observerCheckbox.h"
+#include "zkeditor/widgets/observerColorpicker.h"
 #include "zkeditor/widgets/observerCombobox.h"
 #include "zkeditor/widgets/observerGroupBox.h"
 #include "zkeditor/widgets/observerLabel.h"
@@ -41,6 +42,7 @@ constexpr FormWidgetRow s_formWidgets[] = {
     {"ObserverCheckBox", makeFormWidget<ObserverCheckBox>},
     {"ConfirmingObserverCheckBox", makeFormWidget<ConfirmingObserverCheckBox>},
     {"ObserverStringCheckBox", makeFormWidget<ObserverStringCheckBox>},
+    {"ObserverColorPicker", makeFormWidget<ObserverColorPicker>},
     {"ObserverComboBox", makeFormWidget<ObserverComboBox>},
     {"ObserverLabel", makeFormWidget<ObserverLabel>},
     {"ObserverLineEdit", makeFormWidget<ObserverLineEdit>},

@@ -15,6 +15,8 @@ void UndoStep::undo()
     m_changes.undo(mutator);
     m_document.m_selectionToRestore = m_before;
     m_done = false;
+    if (m_forgotten)
+        setObsolete(true);
 }
 
 void UndoStep::redo()

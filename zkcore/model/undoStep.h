@@ -21,6 +21,8 @@ public:
     void undo() override;
     /// Does nothing when the step enters the history: its changes are done already.
     void redo() override;
+    /// Makes undo() take the step out of the history. Const, as a history shows its steps to everybody.
+    void forgetWhenUndone() const { m_forgotten = true; }
     int id() const override { return 1; }
     /// Takes in a step that joins this one.
     bool mergeWith(const QUndoCommand* other) override;
@@ -32,4 +34,5 @@ private:
     Selection m_after;
     bool m_joins;
     bool m_done = true;
+    mutable bool m_forgotten = false;
 };

@@ -5,6 +5,7 @@
 #include "zkcore/model/documentImpl.h"
 #include "zkcore/model/propertyImpl.h"
 #include "zkcore/model/spaceImpl.h"
+#include "zkcore/model/takeBack.h"
 #include "zkcore/services/productPackage.h"
 #include "zkcore/values/validator.h"
 #include "zkeditor/widgets/poReceiver.h"
@@ -12,8 +13,19 @@
 
 #include <QAbstractButton>
 #include <QColor>
+#include <QUndoStack>
 #include <QWidget>
 #include <algorithm>
+
+namespace {
+
+const QUndoCommand* lastStep(const DocumentImpl* document)
+{
+    const QUndoStack* history = document->undoStack();
+    return history->command(history->index() - 1);
+}
+
+} // namespace
 
 PropertyObserver::PropertyObserver(QWidget* widget) : PropertyObserver(widget, Value::INVALID) {}
 
@@ -186,12 +198,17 @@ void PropertyObserver::addProperty(PropertyImpl* property)
     // The receiver is the context of every connection: all end with it, and with unbind().
     QObject::connect(property, &PropertyImpl::ValueChanged, m_receiver, &POReceiver::onPropertyValueChanged);
     QObject::connect(property, &PropertyImpl::ProxyTargetChanged, m_receiver, &POReceiver::onProxyTargetChanged);
+    watchProperty(property, property->definition().validator);
+}
+
+void PropertyObserver::watchProperty(PropertyImpl* property, const std::shared_ptr<interface::Validator>& validator)
+{
     QObject::connect(property, &PropertyImpl::userCanEditChanged, m_receiver,
                      [this, property] { followState(property); });
     QObject::connect(property, &PropertyImpl::userVisibilityChanged, m_receiver,
                      [this, property] { followState(property); });
     QObject::connect(property, &QObject::destroyed, m_receiver, &POReceiver::onPropertyDeleted);
-    m_props.append(property, m_validators->add(property->definition().validator));
+    m_props.append(property, m_validators->add(validator));
     m_agreedValue.reset();
     m_allWriteable = false;
     m_noneHidden = false;
@@ -413,25 +430,43 @@ void PropertyObserver::setPropertyValue(Value value)
     if (!command)
         return;
     const QPointer<POReceiver> alive(m_receiver);
-    const Value result = m_document->executeCommand(command.release());
+    const QPointer<DocumentImpl> document(m_document);
+    const bool opensStep = m_inGesture && !m_gestureWrote;
+    const QUndoCommand* const before = opensStep ? lastStep(document) : nullptr;
+    const Value result = document->executeCommand(command.release());
     if (!alive)
         return;
-    if (result.isValid())
-        m_gestureWrote = m_inGesture;
-    else
+    if (!result.isValid()) {
         showFirstValue();
+        return;
+    }
+    m_gestureWrote = m_inGesture;
+    if (opensStep && m_inGesture && document && lastStep(document) != before)
+        m_gestureStep = lastStep(document);
 }
 
 void PropertyObserver::beginGesture()
 {
     m_inGesture = true;
     m_gestureWrote = false;
+    m_gestureStep = nullptr;
 }
 
 void PropertyObserver::endGesture()
 {
     m_inGesture = false;
     m_gestureWrote = false;
+    m_gestureStep = nullptr;
+}
+
+bool PropertyObserver::cancelGesture()
+{
+    const QUndoCommand* const step = m_gestureStep;
+    endGesture();
+    if (!step || m_props.empty() || lastStep(m_document) != step)
+        return false;
+    takeBackLastStep(*m_document);
+    return true;
 }
 
 void PropertyObserver::onPropertyDeleted(QObject* object)

@@ -20,8 +20,13 @@ class NodeImpl;
 class POReceiver;
 class PropertyImpl;
 class QColor;
+class QUndoCommand;
 class QWidget;
 class ValidatorSet;
+
+namespace interface {
+class Validator;
+}
 
 /// Binds a widget to one property of every selected node. bind() collects the properties, listens to them and shows
 /// their common value; what the user enters is written to all of them in one command.
@@ -106,6 +111,9 @@ protected:
     virtual void onPropertyDeleted(QObject* object);
     /// What is compared of a value when mixed values are looked for: what the widget shows of it.
     virtual Value comparableValue(const Value& value) const { return value; }
+    /// Takes a property into the list and follows what may be done with it, and its end, but not its value. The
+    /// validator may be null for an observer that never writes.
+    void watchProperty(PropertyImpl* property, const std::shared_ptr<interface::Validator>& validator);
     /// To be called when comparableValue() changed its mind (another unit, say).
     void forgetAgreement() { m_agreedValue.reset(); }
     /// The distinct validators of the bound properties.
@@ -114,6 +122,10 @@ protected:
     /// holds: a button, a key, the mouse.
     void beginGesture();
     void endGesture();
+    /// Ends the gesture and takes back what it wrote, leaving nothing to redo. False when it wrote nothing that is the
+    /// last step of the history; nothing is taken back then. The notifications may delete anything, this observer
+    /// included.
+    bool cancelGesture();
 
     /// Called after the last bound property was destroyed: ends connections to what outlives it.
     virtual void dropSharedConnections();
@@ -189,6 +201,7 @@ private:
     int m_showingValue = 0;
     bool m_inGesture = false;
     bool m_gestureWrote = false;
+    const QUndoCommand* m_gestureStep = nullptr; // only compared, it may be gone
     unsigned int m_bindingNumber = 0;
 
     // Each property tells of its own changes one after the other; looking at all of them each time would take forever

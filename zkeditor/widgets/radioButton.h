@@ -8,7 +8,15 @@
 class ZKEDITOR_EXPORT RadioButton : public QRadioButton
 {
     Q_OBJECT
+    Q_PROPERTY(QString value READ value WRITE setValue)
 
 public:
     explicit RadioButton(QWidget* parent = nullptr, const QString& name = {});
+
+    /// The text of the value that the button stands for in a group; null for the button's own text.
+    QString value() const { return m_value; }
+    void setValue(const QString& text) { m_value = text; }
+
+private:
+    QString m_value;
 };

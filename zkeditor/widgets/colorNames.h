@@ -1,0 +1,27 @@
+#pragma once
+
+#include <QColor>
+#include <QString>
+#include <vector>
+
+class QPixmap;
+class QSize;
+class QWidget;
+
+/// How colours are named, read and drawn wherever one is chosen.
+namespace colorNames {
+
+/// The standard colours, by row of eight.
+const std::vector<QColor>& standardColors();
+
+/// The translated name of a standard colour, else "#rrggbb", with "#aarrggbb" for one that is not opaque.
+QString nameOf(const QColor& color);
+
+/// The colour that a text names: a standard colour in the user's language, any colour name of the web, or hexadecimal
+/// digits with or without '#'. The invalid colour for other texts.
+QColor colorNamed(const QString& text);
+
+/// A swatch to stand on the widget; the invalid colour gives a hatched one, for different values.
+QPixmap swatch(const QColor& color, const QSize& size, const QWidget& widget);
+
+} // namespace colorNames
