@@ -1,5 +1,7 @@
 #pragma once
 
+#include "zkeditor/export.h"
+
 #include <QColor>
 #include <QString>
 #include <vector>
@@ -12,16 +14,16 @@ class QWidget;
 namespace colorNames {
 
 /// The standard colours, by row of eight.
-const std::vector<QColor>& standardColors();
+ZKEDITOR_EXPORT const std::vector<QColor>& standardColors();
 
 /// The translated name of a standard colour, else "#rrggbb", with "#aarrggbb" for one that is not opaque.
-QString nameOf(const QColor& color);
+ZKEDITOR_EXPORT QString nameOf(const QColor& color);
 
 /// The colour that a text names: a standard colour in the user's language, any colour name of the web, or hexadecimal
 /// digits with or without '#'. The invalid colour for other texts.
-QColor colorNamed(const QString& text);
+ZKEDITOR_EXPORT QColor colorNamed(const QString& text);
 
 /// A swatch to stand on the widget; the invalid colour gives a hatched one, for different values.
-QPixmap swatch(const QColor& color, const QSize& size, const QWidget& widget);
+ZKEDITOR_EXPORT QPixmap swatch(const QColor& color, const QSize& size, const QWidget& widget);
 
 } // namespace colorNames

@@ -35,11 +35,27 @@ UnitChooser::UnitChooser(QWidget* parent, const QString& name)
     setTextFormat(Qt::RichText);
     setCursor(Qt::ArrowCursor);
     m_popup->setFont(Fonts::getWidgetFont(m_popup, Fonts::Normal));
-    connect(m_popup, &QMenu::triggered, this, [this](QAction* item) { onPopupUnitChanged(item->data().toInt()); });
+    connect(m_popup, &QMenu::triggered, this, [this](QAction* item) {
+        const QPointer<UnitChooser> alive(this);
+        m_menuAtWork = true;
+        onPopupUnitChanged(item->data().toInt());
+        if (alive)
+            m_menuAtWork = false;
+    });
     connect(m_popup, &QMenu::aboutToHide, this, [this] {
         m_closedByPress =
             QGuiApplication::mouseButtons() != Qt::NoButton && rect().contains(mapFromGlobal(QCursor::pos()));
     });
+}
+
+UnitChooser::~UnitChooser()
+{
+    if (!m_menuAtWork)
+        return;
+    // The choice led to this end; the menu still has to return from it.
+    m_popup->disconnect(this);
+    m_popup->setParent(nullptr, m_popup->windowFlags());
+    m_popup->deleteLater();
 }
 
 // Binding

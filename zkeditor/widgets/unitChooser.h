@@ -22,6 +22,7 @@ class ZKEDITOR_EXPORT UnitChooser : public QLabel, public PropertyObserver
 
 public:
     explicit UnitChooser(QWidget* parent = nullptr, const QString& name = {});
+    ~UnitChooser() override;
 
     /// Nodes without the property, and properties that offer other units than the first, are warnings; none that has a
     /// unit is one as well.
@@ -72,5 +73,6 @@ private:
     Unit m_currentUnit;
     QMenu* m_popup;
     bool m_settingUnit = false;
+    bool m_menuAtWork = false;    // a choice in the menu is being followed
     bool m_closedByPress = false; // the press that ended the menu was on the label
 };
