@@ -22,7 +22,15 @@ public:
 
 protected:
     void wheelEvent(QWheelEvent* event) override;
+    void changeEvent(QEvent* event) override;
 
 private:
     int widthForCharacters(int characters) const;
+    int widthForContent(int width) const;
+    void forgetWidths();
+
+    // Of the widest item without and with an icon; negative when it has to be found. The toolkit could follow the items
+    // as well, but makes the whole list for it.
+    mutable int m_textWidth = -1;
+    mutable int m_iconTextWidth = -1;
 };

@@ -182,7 +182,8 @@ void ObserverLineEdit::onWidgetValueChanged()
 void ObserverLineEdit::setReadOnly(bool readOnly)
 {
     LineEdit::setReadOnly(readOnly);
-    updateLink(mapFromGlobal(QCursor::pos()));
+    if (m_linkStyle)
+        updateLink(mapFromGlobal(QCursor::pos()));
 }
 
 void ObserverLineEdit::setEnabled(bool enabled)
@@ -226,7 +227,8 @@ void ObserverLineEdit::keyPressEvent(QKeyEvent* event)
 void ObserverLineEdit::focusInEvent(QFocusEvent* event)
 {
     LineEdit::focusInEvent(event);
-    updateLink(mapFromGlobal(QCursor::pos()));
+    if (m_linkStyle)
+        updateLink(mapFromGlobal(QCursor::pos()));
 }
 
 void ObserverLineEdit::focusOutEvent(QFocusEvent* event)
@@ -239,7 +241,7 @@ void ObserverLineEdit::focusOutEvent(QFocusEvent* event)
     }
     const QPointer<ObserverLineEdit> alive(this);
     LineEdit::focusOutEvent(event);
-    if (alive)
+    if (alive && m_linkStyle)
         updateLink(mapFromGlobal(QCursor::pos()));
 }
 
@@ -268,13 +270,20 @@ QRect ObserverLineEdit::contentRect() const
         .adjusted(lineEditTextMargin, 0, -lineEditTextMargin, 0);
 }
 
+// Where the text will stand when it is edited: by its own direction, where it has any.
+int ObserverLineEdit::linkAlignment() const
+{
+    Qt::LayoutDirection direction = layoutDirection();
+    if (!text().isEmpty())
+        direction = text().isRightToLeft() ? Qt::RightToLeft : Qt::LeftToRight;
+    return static_cast<int>(QStyle::visualAlignment(direction, alignment())) | Qt::AlignVCenter;
+}
+
 QRect ObserverLineEdit::linkRect() const
 {
     const QRect content = contentRect();
     const QString shown = fontMetrics().elidedText(text(), Qt::ElideRight, content.width());
-    return style()->itemTextRect(
-        fontMetrics(), content,
-        static_cast<int>(QStyle::visualAlignment(layoutDirection(), alignment())) | Qt::AlignVCenter, true, shown);
+    return style()->itemTextRect(fontMetrics(), content, linkAlignment(), true, shown);
 }
 
 // An arrow, a hand or a text cursor; underlined or not.
@@ -335,8 +344,5 @@ void ObserverLineEdit::paintEvent(QPaintEvent* event)
     const QRect content = contentRect();
     const QString shown =
         fontMetrics().elidedText(isBlank ? placeholderText() : text(), Qt::ElideRight, content.width());
-    painter.drawText(content,
-                     static_cast<int>(QStyle::visualAlignment(layoutDirection(), alignment())) | Qt::AlignVCenter |
-                         Qt::TextSingleLine,
-                     shown);
+    painter.drawText(content, linkAlignment() | Qt::TextSingleLine, shown);
 }

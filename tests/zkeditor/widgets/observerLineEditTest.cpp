@@ -379,9 +379,11 @@ TEST_F(ObserverLineEditTest, LooksLikeALinkUntilItIsEdited)
     QTest::mouseMove(&edit, QPoint(300, 15));
     EXPECT_EQ(edit.cursor().shape(), Qt::ArrowCursor);
     EXPECT_EQ(inkIn(look(), left, 200), plain);
+    set(property(part, "note"), Value(QString::fromUtf8("קישור")));
     window.setLayoutDirection(Qt::RightToLeft);
     EXPECT_EQ(inkIn(look(), left, 200), 0);
     EXPECT_GT(inkIn(look(), right, 200), 30);
+    set(property(part, "note"), string("a link to follow"));
     window.setLayoutDirection(Qt::LeftToRight);
 
     QTest::mouseClick(&edit, Qt::LeftButton, {}, QPoint(12, 15));
