@@ -52,6 +52,7 @@ public:
     /// What a property of the file follows that is not there; kept so that saving writes it back. Invalid when there is
     /// none.
     PropertyAddress danglingProxy(const PropertyAddress& address) const { return m_danglingProxies.value(address); }
+    bool hasDanglingProxies() const { return !m_danglingProxies.isEmpty(); }
     /// The live reflections of an element, in the order in which they were made.
     std::vector<ElementImpl*> reflectionsOf(const ElementImpl* original) const;
     /// The connections (elements with "from" and "to") that end at one of the nodes or at something in one. Linear in

@@ -231,7 +231,9 @@ void ModelMutator::linkProxies(const NodeSnapshot& snapshot)
         const PropertyAddress address{snapshot.id, entry.domain, entry.key};
         PropertyImpl* property = m_document.propertyAt(address);
         PropertyImpl* target = m_document.propertyAt(entry.proxy);
-        if (property && target && target != property && !target->isProxyDependantOn(property)) {
+        // What is read, or made again by undo, is known to hold no circle; walking long chains each time would be slow.
+        const bool circular = m_changes && target && property && target->isProxyDependantOn(property);
+        if (property && target && target != property && !circular) {
             link(*property, *target);
             continue;
         }
@@ -324,8 +326,12 @@ void ModelMutator::removeNode(InstanceId id)
         if (doomed->kind() == NodeKind::Popup)
             m_document.m_model->m_popups.erase(each);
         if (!m_document.m_danglingProxies.isEmpty()) {
-            for (const PropertyDefinition& definition : doomed->prototype().properties())
-                m_document.m_danglingProxies.remove({each, INVALID_CID, definition.key});
+            std::vector<std::pair<ClassId, NodeImpl::PropertyStore*>> stores;
+            doomed->collectStores(stores);
+            for (const auto& [domain, store] : stores) {
+                for (const PropertyDefinition& definition : store->prototype->properties())
+                    m_document.m_danglingProxies.remove({each, domain, definition.key});
+            }
         }
     }
     for (NodeImpl* doomed : nodes)

@@ -112,6 +112,19 @@ NodeSnapshot NodeSnapshot::of(const NodeImpl& node)
             if (!property || !property->isProxy())
                 result.values.push_back({domain, definition.key, value, {}});
         }
+        if (node.document()->hasDanglingProxies()) {
+            for (const PropertyDefinition& definition : definitions) {
+                const PropertyAddress target =
+                    node.document()->danglingProxy({node.instanceId(), domain, definition.key});
+                if (!target.isValid())
+                    continue;
+                std::erase_if(result.values, [&, own = domain](const ValueEntry& entry) {
+                    return entry.domain == own && entry.key == definition.key;
+                });
+                result.values.push_back(
+                    {domain, definition.key, store->value(store->prototype->indexOf(definition.key)), target});
+            }
+        }
         for (const auto& [index, property] : store->objects) {
             if (property->isProxy())
                 result.values.push_back(

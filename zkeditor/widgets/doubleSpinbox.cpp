@@ -30,8 +30,9 @@ DoubleSpinBox::DoubleSpinBox(double minValue, double maxValue, double step, int 
 
 DoubleSpinBox::~DoubleSpinBox()
 {
-    // A focused editor tells of the loss of its focus while it is destroyed.
+    // A focused editor tells of the loss of its focus, and asks its validator, while it is destroyed.
     m_editor->removeEventFilter(this);
+    m_editor->setValidator(nullptr);
     m_editor->disconnect(this);
 }
 
@@ -213,6 +214,7 @@ void DoubleSpinBox::updateDisplay()
 {
     m_editor->setUpdatesEnabled(false);
     m_editor->setText(currentValueText());
+    m_edited = false; // the text comes from the value; read back it would round it
     if (m_selectionRequested && isVisible() && (hasFocus() || m_editor->hasFocus()))
         selectAll();
     else if (!m_suffix.isEmpty() && m_editor->text().endsWith(m_suffix))

@@ -15,6 +15,8 @@ class ZKEDITOR_EXPORT TypedDoubleValidator : public QDoubleValidator
 public:
     using QDoubleValidator::QDoubleValidator;
     State validate(QString& text, int& position) const override;
+    /// Leaves the text as it was typed: rounding it to the decimals shown would lose some.
+    void fixup(QString&) const override {}
 };
 
 /// The same for integers.
@@ -25,4 +27,6 @@ class ZKEDITOR_EXPORT TypedIntValidator : public QIntValidator
 public:
     using QIntValidator::QIntValidator;
     State validate(QString& text, int& position) const override;
+    /// Leaves the text as it was typed: rounding it to the decimals shown would lose some.
+    void fixup(QString&) const override {}
 };
