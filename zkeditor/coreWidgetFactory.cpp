@@ -10,8 +10,10 @@
 #include "zkeditor/widgets/observerGroupBox.h"
 #include "zkeditor/widgets/observerLabel.h"
 #include "zkeditor/widgets/observerLineEdit.h"
+#include "zkeditor/widgets/observerPoint.h"
 #include "zkeditor/widgets/observerRadiogroup.h"
 #include "zkeditor/widgets/observerSlider.h"
+#include "zkeditor/widgets/observerSpinbox.h"
 #include "zkeditor/widgets/observerStringCheckbox.h"
 #include "zkeditor/widgets/paletteBoxSection.h"
 #include "zkeditor/widgets/propertyLabel.h"
@@ -46,8 +48,10 @@ constexpr FormWidgetRow s_formWidgets[] = {
     {"ObserverComboBox", makeFormWidget<ObserverComboBox>},
     {"ObserverLabel", makeFormWidget<ObserverLabel>},
     {"ObserverLineEdit", makeFormWidget<ObserverLineEdit>},
+    {"ObserverPoint", makeFormWidget<ObserverPoint>},
     {"ObserverRadioGroup", makeFormWidget<ObserverRadioGroup>},
     {"ObserverSlider", makeFormWidget<ObserverSlider>},
+    {"ObserverSpinBox", makeFormWidget<ObserverSpinBox>},
     {"UnitChooser", makeFormWidget<UnitChooser>},
     {"RadioButton", makeFormWidget<RadioButton>},
     {"PropertyLabel", makeFormWidget<PropertyLabel>},
