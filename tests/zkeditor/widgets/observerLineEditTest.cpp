@@ -27,11 +27,7 @@ protected:
         edit.selectAll();
         QTest::keyClicks(&edit, text);
     }
-    static void enter(ObserverLineEdit& edit, const QString& text)
-    {
-        type(edit, text);
-        QTest::keyClick(&edit, Qt::Key_Return);
-    }
+    static void enter(ObserverLineEdit& edit, const QString& text) { type(edit, text + QLatin1Char('\r')); }
     static bool isRed(const QWidget& widget) { return widget.palette().color(QPalette::Text) == QColor(Qt::red); }
 };
 
