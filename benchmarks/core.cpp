@@ -1,5 +1,6 @@
 // What opening, saving, editing and binding cost, for documents of three sizes. Each figure stands beside another one
 // of the same run: a bare XML reader or writer over the same bytes, or the same work on fewer nodes.
+#include "benchmarks/support/bareObjects.h"
 #include "benchmarks/support/measuring.h"
 #include "tests/support/documentGenerator.h"
 #include "zkcore/commands/setValueCommand.h"
@@ -262,6 +263,43 @@ void measureBinding(size_t nodes, Spread spread, BindingFigures& figures)
     figures.unbind.push_back(unbind.nanoseconds() / properties);
 }
 
+struct BareFigures
+{
+    Figures write, connect, notify, disconnect;
+};
+
+/// The growth that the memory of the machine alone causes: the same kind of work on bare objects of the toolkit.
+void measureBareObjects(size_t count, BareFigures& figures)
+{
+    std::vector<std::unique_ptr<BareObject>> objects;
+    for (size_t i = 0; i < count; ++i) {
+        objects.push_back(std::make_unique<BareObject>());
+        objects.back()->setText(QStringLiteral("text %1").arg(i));
+    }
+    BareReceiver receiver;
+    Best write, connect, notify, disconnect;
+    for (int round = 0; round < roundsFor(count); ++round) {
+        std::vector<QString> before;
+        const QString text = QStringLiteral("round %1").arg(round);
+        const auto writeAll = [&] {
+            for (const auto& object : objects) {
+                before.push_back(object->text());
+                object->setText(text);
+            }
+        };
+        write.add(writeAll);
+        connect.add([&] { receiver.connectTo(objects); });
+        before.clear();
+        notify.add(writeAll);
+        disconnect.add([&] { receiver.disconnectFrom(objects); });
+    }
+    const auto all = static_cast<double>(count);
+    figures.write.push_back(write.nanoseconds() / all);
+    figures.connect.push_back(connect.nanoseconds() / all);
+    figures.notify.push_back(notify.nanoseconds() / all);
+    figures.disconnect.push_back(disconnect.nanoseconds() / all);
+}
+
 Figures ratios(const Figures& a, const Figures& b)
 {
     Figures result;
@@ -305,6 +343,15 @@ void reportAll()
     table.growthRow("execute", commands.execute, 1.3);
     table.growthRow("undo", commands.undo, 1.3);
     table.growthRow("redo", commands.redo, 1.3);
+
+    BareFigures bare;
+    for (const size_t count : sizes)
+        measureBareObjects(count, bare);
+    table.section("For comparison: bare objects of the toolkit, nanoseconds per object");
+    table.row("write a text, keep the old one", bare.write);
+    table.row("connect five signals", bare.connect);
+    table.row("write and notify", bare.notify);
+    table.row("disconnect", bare.disconnect);
 
     reportBinding(table, "One observer on all nodes, values equal, nanoseconds per property", Spread::Equal);
     reportBinding(table, "One observer on all nodes, values all different", Spread::Different);
