@@ -72,10 +72,16 @@ private:
                 stem.chop(1);
             if (stem.isEmpty())
                 stem = idPrefix(node.cid);
-            unsigned int& number = m_numbers[stem];
-            do {
-                text = stem + QString::number(++number);
-            } while (m_document.nodeWithId(text) || m_taken.contains(text));
+            // The document remembers where the free numbers begin, so that adding one by one stays cheap.
+            text = m_document.freeId(stem);
+            if (m_taken.contains(text)) {
+                unsigned int& number = m_numbers[stem];
+                if (number == 0)
+                    number = text.mid(stem.size()).toUInt();
+                do {
+                    text = stem + QString::number(++number);
+                } while (m_document.nodeWithId(text) || m_taken.contains(text));
+            }
         }
         m_taken.insert(text);
         if (entry)

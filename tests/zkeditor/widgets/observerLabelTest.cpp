@@ -19,7 +19,7 @@ TEST_F(ObserverLabelTest, ShowsValuesAsTheirFormatterWritesThem)
     {
         const char* key;
         const char* text;
-    } cases[] = {{"length", "20"}, {"angle", "90.00"},    {"count", "3"},   {"note", "plain"},
+    } cases[] = {{"length", "20"}, {"angle", "90.00"}, {"count", "3"},   {"note", "plain"},
                  {"on", "false"},  {"corner", "0, 0"}, {"pair", "1, 2"}, {"sealed", "1.5"}};
     for (const auto& expected : cases) {
         ObserverLabel label;
