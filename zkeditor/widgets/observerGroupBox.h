@@ -49,7 +49,7 @@ protected:
 private:
     void updateGate();
 
+    bool m_mixed = false; // first: making the others asks for the style
     ContainerPaneWidget m_contents;
     ChildrenGate* m_gate;
-    bool m_mixed = false;
 };

@@ -133,7 +133,7 @@ TEST(ResourceReference, KeepsTheNameOfWhatIsNotThere)
         std::make_shared<const LocalREntry>(QStringLiteral("nowhere/nothing"), Resource::TEXT, "x", QString()));
     EXPECT_EQ(missing, named);
     // The library's own pictures are there without anybody having loaded packages.
-    EXPECT_TRUE(Resource("editor/paletteBox/buttonRight_n").isValid());
+    EXPECT_TRUE(Resource("editor/actions/undo").isValid());
 }
 
 TEST(ResourceReference, TypesHaveTextsAndFileFilters)

@@ -162,13 +162,16 @@ TEST_F(UndoTest, undoSendsItsSignalsInOrderAndRestoresTheSelection)
     EXPECT_TRUE(m_document->getSelection().empty());
 
     QStringList order;
-    QObject::connect(m_document.get(), &DocumentImpl::undoRedoStarted, [&] { order << QStringLiteral("started"); });
-    QObject::connect(m_document.get(), &DocumentImpl::ElementAdded, [&](const Element& element) {
+    const QObject listener; // the document outlives it, and sends more when it ends
+    QObject::connect(m_document.get(), &DocumentImpl::undoRedoStarted, &listener,
+                     [&] { order << QStringLiteral("started"); });
+    QObject::connect(m_document.get(), &DocumentImpl::ElementAdded, &listener, [&](const Element& element) {
         if (element.impl()->kind() == NodeKind::Part)
             order << QStringLiteral("added");
     });
-    QObject::connect(m_document.get(), &DocumentImpl::SelectionChanged, [&] { order << QStringLiteral("selection"); });
-    QObject::connect(m_document.get(), &DocumentImpl::Loaded, [&] { order << QStringLiteral("loaded"); });
+    QObject::connect(m_document.get(), &DocumentImpl::SelectionChanged, &listener,
+                     [&] { order << QStringLiteral("selection"); });
+    QObject::connect(m_document.get(), &DocumentImpl::Loaded, &listener, [&] { order << QStringLiteral("loaded"); });
     m_document->undo();
     EXPECT_EQ(order, QStringList({QStringLiteral("started"), QStringLiteral("added"), QStringLiteral("added"),
                                   QStringLiteral("selection"), QStringLiteral("loaded")}));

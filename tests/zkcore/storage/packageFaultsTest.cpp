@@ -250,7 +250,7 @@ TEST_F(PackageFileFaults, FoldersWithoutAPackageOrWithTwoOfAName)
     // The program's own pictures stand under that name.
     EXPECT_FALSE(Package::load(writePackage(QStringLiteral("editor"), {}), error));
     EXPECT_TRUE(error.endsWith(QLatin1String("no package can have the name \"editor\""))) << error.toStdString();
-    EXPECT_TRUE(Resource("editor/paletteBox/buttonRight_n").isValid());
+    EXPECT_TRUE(Resource("editor/actions/undo").isValid());
 
     QFile::remove(second);
     ASSERT_TRUE(Package::load(folder, error)) << error.toStdString();

@@ -63,7 +63,7 @@ TEST_F(PackageTest, BuiltInPackagesLoadInOrderWithoutAWarning)
     EXPECT_EQ(capture.texts(), QStringList());
     EXPECT_EQ(names.mid(0, 4), QStringList({QStringLiteral("core"), QStringLiteral("electronics"),
                                             QStringLiteral("flowcharts"), QStringLiteral("mechanics")}));
-    EXPECT_TRUE(Resource("editor/paletteBox/buttonRight_n").isValid());
+    EXPECT_TRUE(Resource("editor/actions/undo").isValid());
 
     NodeDb db;
     for (const std::unique_ptr<Package>& package : Package::all()) {
