@@ -13,6 +13,5 @@ void NOReceiver::onFormatChanged()
     // The connections outlast the binding; with nothing bound there is nothing to show.
     if (m_no->m_props.empty())
         return;
-    m_no->forgetAgreement();
     m_no->onFormatChanged();
 }

@@ -43,8 +43,14 @@ void NumericalObserver::bind(DocumentImpl* document, const std::set<NodeImpl*>& 
     PropertyObserver::bind(document, nodes);
     if (!alive)
         return;
-    for (PropertyImpl* property : m_props)
-        QObject::connect(property, &PropertyImpl::formatterChanged, m_no, &NOReceiver::onFormatChanged);
+    for (PropertyImpl* property : m_props) {
+        QObject::connect(property, &PropertyImpl::formatterChanged, m_no, [this, property] {
+            // All values are compared in the first one's unit: another's does not matter to whether they agree.
+            if (!m_props.empty() && property == m_props.front())
+                forgetAgreement();
+            m_no->onFormatChanged();
+        });
+    }
 }
 
 void NumericalObserver::unbind()
