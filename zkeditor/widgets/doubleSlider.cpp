@@ -240,6 +240,8 @@ void DoubleSlider::paintEvent(QPaintEvent*)
 {
     QStyleOptionSlider option;
     fillOption(option);
+    if (!m_showsValue)
+        option.sliderPosition = option.minimum; // some styles fill the groove up to there
     if (m_pressed != QStyle::SC_None) {
         option.activeSubControls = m_pressed;
         option.state |= QStyle::State_Sunken;

@@ -72,7 +72,7 @@ void ObserverSlider::followRange()
     const double range = maxValue() - minValue();
     if (!(range > 0.0))
         return;
-    const double magnitude = std::pow(10.0, std::ceil(std::log10(range) - 1e-9) - 2.0);
+    const double magnitude = std::pow(10.0, std::round(std::log10(range)) - 2.0);
     const double line = m_ownLineStep ? lineStep() : whole ? std::max(std::round(magnitude), 1.0) : magnitude;
     const double page = whole ? std::max(std::round(magnitude * 10.0), line) : magnitude * 10.0;
     setSteps(line, m_ownPageStep ? pageStep() : page);
