@@ -195,7 +195,7 @@ QByteArray generatedDocument(size_t nodes)
     DocumentImpl::addPackagedClasses(db);
     const size_t total = std::max<size_t>(nodes, 2);
     QByteArray bytes;
-    bytes.reserve(static_cast<qsizetype>(total * 250));
+    bytes.reserve(static_cast<qsizetype>(total) * 250);
     QXmlStreamWriter xml(&bytes);
     xml.setAutoFormatting(true);
     xml.setAutoFormattingIndent(1);

@@ -4,7 +4,6 @@
 
 #include <QHashFunctions>
 #include <QString>
-#include <compare>
 
 /// The name of a property as an interned number; Property::Key is this class.
 class ZKCORE_EXPORT PropertyKey
@@ -22,7 +21,7 @@ public:
     unsigned int number() const { return m_number; }
 
     friend bool operator==(PropertyKey, PropertyKey) = default;
-    friend auto operator<=>(PropertyKey, PropertyKey) = default;
+    friend bool operator<(PropertyKey a, PropertyKey b) { return a.m_number < b.m_number; }
 
 private:
     explicit PropertyKey(unsigned int number) : m_number(number) {}

@@ -139,5 +139,5 @@ void NodeDb::insert(std::shared_ptr<NodePrototype> prototype)
     m_order.push_back(prototype->cid);
     if (definesSpaceProperties(*prototype))
         m_domains.push_back(prototype->cid);
-    m_prototypes.insert(prototype->cid, std::move(prototype));
+    m_prototypes.insert(prototype->cid, prototype);
 }

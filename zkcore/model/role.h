@@ -17,7 +17,7 @@ public:
     bool isValid() const { return m_number != 0; }
     unsigned int number() const { return m_number; }
     friend bool operator==(Role, Role) = default;
-    friend auto operator<=>(Role, Role) = default;
+    friend bool operator<(Role a, Role b) { return a.m_number < b.m_number; }
 
 private:
     unsigned int m_number = 0;

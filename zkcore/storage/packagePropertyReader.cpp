@@ -110,6 +110,7 @@ Value listOfValues(Value::Type type, const std::vector<Value>& values)
 {
     const auto collect = [&values](auto read) {
         std::vector<decltype(read(values.front()))> list;
+        list.reserve(values.size());
         for (const Value& value : values)
             list.push_back(read(value));
         return Value(list);

@@ -260,7 +260,8 @@ void DoubleSlider::mousePressEvent(QMouseEvent* event)
     if (event->buttons() != event->button() || m_pressed != QStyle::SC_None)
         return;
     const Qt::MouseButtons jump(style()->styleHint(QStyle::SH_Slider_AbsoluteSetButtons));
-    const Qt::MouseButtons page(style()->styleHint(QStyle::SH_Slider_PageSetButtons) | Qt::LeftButton);
+    const Qt::MouseButtons page(Qt::MouseButtons(style()->styleHint(QStyle::SH_Slider_PageSetButtons)) |
+                                Qt::LeftButton);
     QStyleOptionSlider option;
     fillOption(option);
     const QPoint point = event->position().toPoint();

@@ -351,7 +351,8 @@ void DoubleSpinBox::wheelEvent(QWheelEvent* event)
         owner = this;
         accumulator = 0.0;
     }
-    accumulator -= event->angleDelta().y() / 120;
+    const int notches = event->angleDelta().y() / 120; // whole ones only
+    accumulator -= notches;
     if (std::abs(accumulator) < 1.0)
         return;
     const int steps = static_cast<int>(accumulator);

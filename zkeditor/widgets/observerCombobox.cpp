@@ -20,6 +20,7 @@
 #include <QStyleOptionComboBox>
 #include <QStylePainter>
 #include <algorithm>
+#include <type_traits>
 
 namespace {
 
@@ -224,8 +225,10 @@ void ObserverComboBox::buildStringContent(const std::vector<QString>& strings)
 template <typename Element> void ObserverComboBox::addElements(const std::vector<Element>& values)
 {
     for (const Element& element : values) {
-        const Value value(element);
-        addValue(value, formatValueAsString(value));
+        if constexpr (std::is_same_v<Element, Value>)
+            addValue(element, formatValueAsString(element));
+        else
+            addValue(Value(element), formatValueAsString(Value(element)));
     }
 }
 

@@ -106,7 +106,7 @@ QString ObserverLineEdit::textOf(const Value& value) const
 
 Value ObserverLineEdit::getValueFromString(const QString& text) const
 {
-    ZK_ASSERT(m_props.size());
+    ZK_ASSERT_TEXT(!m_props.empty(), "m_props.size()");
     QString word = text;
     if (m_valueType != Value::STRING)
         word = word.simplified().remove(QLatin1Char(' '));

@@ -406,6 +406,7 @@ TEST_F(DocumentTest, aSceneOfManyPartsKeepsItsOrder)
 {
     // Past the size of one chunk of the list of children, with removals and moves in the middle.
     std::vector<NodeSnapshot> nodes;
+    nodes.reserve(3000);
     for (int i = 0; i < 3000; ++i)
         nodes.push_back(NodeSnapshot::ofPrototype(*m_document->getNodeDb(), getCidForString("testkit/wire")));
     SceneImpl* scene = firstScene(*m_document);

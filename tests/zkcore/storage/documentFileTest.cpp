@@ -58,7 +58,7 @@ protected:
 
 TEST_F(DocumentFileTest, savesWhatItLoadedByteForByte)
 {
-    for (const size_t nodes : {2, 40, 3000}) {
+    for (const size_t nodes : {2u, 40u, 3000u}) {
         const QByteArray bytes = generatedDocument(nodes);
         EXPECT_TRUE(savedAgain(bytes) == bytes) << nodes;
         EXPECT_EQ(m_document.nodeCount(), nodes);

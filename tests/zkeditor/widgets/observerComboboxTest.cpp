@@ -474,7 +474,7 @@ TEST_F(ObserverComboBoxTest, ClosedFieldRendersMarkup)
     EXPECT_EQ(right, 0);
     window.setLayoutDirection(Qt::RightToLeft);
     EXPECT_EQ(combo.halves().first, 0);
-    EXPECT_NEAR(combo.halves().second, left, left / 5);
+    EXPECT_NEAR(combo.halves().second, left, left / 5.0);
     QPalette dark(QColor("#202020"), QColor("#202020"));
     dark.setColor(QPalette::ButtonText, Qt::white);
     window.setPalette(dark);
@@ -494,6 +494,7 @@ TEST_F(ObserverComboBoxTest, ThousandsOfNodesCostNoMoreThanTheirNumber)
 {
     const auto seconds = [this](int count) {
         std::vector<NodeSnapshot> snapshots;
+        snapshots.reserve(static_cast<size_t>(count));
         for (int i = 0; i < count; ++i)
             snapshots.push_back(NodeSnapshot::ofPrototype(*document.getNodeDb(), getCidForString("choices/chooser")));
         const Value added = run<AddNodesCommand>(document, Node(firstScene(document)), std::move(snapshots));
