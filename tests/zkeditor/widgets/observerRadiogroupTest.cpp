@@ -17,6 +17,14 @@ protected:
         ControlsTest::SetUp();
         group = new ObserverRadioGroup;
         new QVBoxLayout(group);
+        m_alive = group;
+    }
+
+    void TearDown() override
+    {
+        if (m_alive && !m_alive->parent())
+            delete m_alive; // it was never placed in the window
+        ControlsTest::TearDown();
     }
 
     template <typename Button = RadioButton> Button* choice(const char* text, QWidget* in = nullptr)
@@ -45,6 +53,9 @@ protected:
 
     ObserverRadioGroup* group;
     std::vector<QRadioButton*> buttons;
+
+private:
+    QPointer<ObserverRadioGroup> m_alive;
 };
 
 } // namespace
