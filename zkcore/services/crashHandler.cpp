@@ -433,8 +433,13 @@ QString CrashHandler::reportFolder()
 QStringList CrashHandler::reports()
 {
     QStringList paths;
-    const QFileInfoList files =
-        QDir(reportFolder()).entryInfoList({QStringLiteral("crash-*.txt")}, QDir::Files, QDir::Time);
+    QFileInfoList files = QDir(reportFolder()).entryInfoList({QStringLiteral("crash-*.txt")}, QDir::Files);
+    // File systems tell times in steps of some milliseconds; within one, the later process has the higher number.
+    std::sort(files.begin(), files.end(), [](const QFileInfo& a, const QFileInfo& b) {
+        const QDateTime timeOfA = a.lastModified();
+        const QDateTime timeOfB = b.lastModified();
+        return timeOfA != timeOfB ? timeOfA > timeOfB : a.fileName() > b.fileName();
+    });
     for (const QFileInfo& file : files)
         paths.append(file.absoluteFilePath());
     return paths;
