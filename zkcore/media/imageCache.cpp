@@ -23,13 +23,14 @@ struct PictureKey
     QString name; // where there is no entry
     QSize size;   // empty for the picture's own
     int percent;  // device pixel ratio in hundredths
+    QByteArray colors;
 
     friend bool operator==(const PictureKey&, const PictureKey&) = default;
 };
 
 size_t qHash(const PictureKey& key, size_t seed = 0)
 {
-    return qHashMulti(seed, key.entry, key.name, key.size.width(), key.size.height(), key.percent);
+    return qHashMulti(seed, key.entry, key.name, key.size.width(), key.size.height(), key.percent, key.colors);
 }
 
 struct RendererKey
@@ -119,10 +120,13 @@ QPixmap oversizedPicture(const Resource& resource, const QSize& size)
     return failedPicture(resource, QStringLiteral("its size is %1 by %2").arg(size.width()).arg(size.height()));
 }
 
-QPixmap renderedSvg(const Resource& resource, const QSize& wanted, double devicePixelRatio, bool useCache)
+using ColorChanges = std::vector<ImageCache::ColorChange>;
+
+QPixmap renderedSvg(const Resource& resource, const QSize& wanted, double devicePixelRatio, bool useCache,
+                    const ColorChanges& changes)
 {
     const std::shared_ptr<QSvgRenderer> renderer =
-        useCache ? ImageCache::svgRenderer(resource) : makeRenderer(resource, resource.data());
+        useCache ? ImageCache::svgRenderer(resource, changes) : makeRenderer(resource, resource.data());
     if (!renderer)
         return QPixmap(); // it has been warned about
     const QSize natural = renderer->defaultSize();
@@ -160,34 +164,19 @@ QPixmap decodedImage(const Resource& resource, const QSize& wanted, double devic
     return QPixmap::fromImage(std::move(image));
 }
 
-QPixmap makePicture(const Resource& resource, const QSize& wanted, double devicePixelRatio, bool useCache)
+QPixmap makePicture(const Resource& resource, const QSize& wanted, double devicePixelRatio, bool useCache,
+                    const ColorChanges& changes)
 {
     if (!resource.isValid())
         return failedPicture(resource, QStringLiteral("there is no such resource"));
-    QPixmap pixmap = isSvg(resource) ? renderedSvg(resource, wanted, devicePixelRatio, useCache)
+    QPixmap pixmap = isSvg(resource) ? renderedSvg(resource, wanted, devicePixelRatio, useCache, changes)
                                      : decodedImage(resource, wanted, devicePixelRatio);
     if (!pixmap.isNull() && !wanted.isEmpty())
         pixmap.setDevicePixelRatio(devicePixelRatio);
     return pixmap;
 }
 
-QPixmap findPicture(const Resource& resource, const QSize& wanted, double devicePixelRatio, bool useCache)
-{
-    if (resource.isNull())
-        return QPixmap();
-    if (!useCache)
-        return makePicture(resource, wanted, devicePixelRatio, false);
-    const PictureKey key{resource.entry(), resource.isValid() ? QString() : resource.toString(), wanted,
-                         static_cast<int>(std::lround(devicePixelRatio * 100.0))};
-    auto& pictures = pictureStore().pictures;
-    if (const CachedPicture* cached = pictures.object(key))
-        return cached->pixmap;
-    const QPixmap pixmap = makePicture(resource, wanted, devicePixelRatio, true);
-    pictures.insert(key, new CachedPicture{resource, pixmap}, pixmap.isNull() ? costOfFailure : pixelBytes(pixmap));
-    return pixmap;
-}
-
-QByteArray colorSignature(const std::vector<ImageCache::ColorChange>& changes)
+QByteArray colorSignature(const ColorChanges& changes)
 {
     QByteArray signature;
     for (const auto& [from, to] : changes)
@@ -195,9 +184,26 @@ QByteArray colorSignature(const std::vector<ImageCache::ColorChange>& changes)
     return signature;
 }
 
+QPixmap findPicture(const Resource& resource, const QSize& wanted, double devicePixelRatio, bool useCache,
+                    const ColorChanges& changes)
+{
+    if (resource.isNull())
+        return QPixmap();
+    if (!useCache)
+        return makePicture(resource, wanted, devicePixelRatio, false, changes);
+    const PictureKey key{resource.entry(), resource.isValid() ? QString() : resource.toString(), wanted,
+                         static_cast<int>(std::lround(devicePixelRatio * 100.0)), colorSignature(changes)};
+    auto& pictures = pictureStore().pictures;
+    if (const CachedPicture* cached = pictures.object(key))
+        return cached->pixmap;
+    const QPixmap pixmap = makePicture(resource, wanted, devicePixelRatio, true, changes);
+    pictures.insert(key, new CachedPicture{resource, pixmap}, pixmap.isNull() ? costOfFailure : pixelBytes(pixmap));
+    return pixmap;
+}
+
 /// Puts the new colours into the text of the picture. All places are found before any is changed, so that two colours
 /// can change places.
-QByteArray recolored(const QByteArray& svg, const std::vector<ImageCache::ColorChange>& changes)
+QByteArray recolored(const QByteArray& svg, const ColorChanges& changes)
 {
     QByteArray result;
     result.reserve(svg.size());
@@ -227,14 +233,22 @@ QByteArray recolored(const QByteArray& svg, const std::vector<ImageCache::ColorC
 
 QPixmap ImageCache::getPixmap(const Resource& resource, bool useCache)
 {
-    return findPicture(resource, QSize(), 1.0, useCache);
+    return findPicture(resource, QSize(), 1.0, useCache, {});
 }
 
 QPixmap ImageCache::getPixmap(const Resource& resource, const QSize& size, double devicePixelRatio, bool useCache)
 {
     if (size.isEmpty() || !(devicePixelRatio > 0.0))
         return QPixmap();
-    return findPicture(resource, size, devicePixelRatio, useCache);
+    return findPicture(resource, size, devicePixelRatio, useCache, {});
+}
+
+QPixmap ImageCache::getPixmap(const Resource& resource, const QSize& size, double devicePixelRatio,
+                              const std::vector<ColorChange>& changes)
+{
+    if (size.isEmpty() || !(devicePixelRatio > 0.0))
+        return QPixmap();
+    return findPicture(resource, size, devicePixelRatio, true, changes);
 }
 
 std::shared_ptr<QSvgRenderer> ImageCache::svgRenderer(const Resource& resource)

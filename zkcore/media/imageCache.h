@@ -30,11 +30,14 @@ public:
     /// device pixel ratio, which the pixmap carries. An empty size gives a null pixmap.
     static QPixmap getPixmap(const Resource& resource, const QSize& size, double devicePixelRatio,
                              bool useCache = true);
+    /// A colour that stands in an SVG picture as "#rrggbb", and the one to paint in its place.
+    using ColorChange = std::pair<QColor, QColor>;
+    /// The same of an SVG picture with colours changed; other pictures keep theirs.
+    static QPixmap getPixmap(const Resource& resource, const QSize& size, double devicePixelRatio,
+                             const std::vector<ColorChange>& changes);
     /// For painting an SVG resource at any size; shared by all who ask for the same one. Null when the resource is not
     /// SVG; null, with a warning, when its bytes cannot be read as SVG.
     static std::shared_ptr<QSvgRenderer> svgRenderer(const Resource& resource);
-    /// A colour that stands in an SVG picture as "#rrggbb", and the one to paint in its place.
-    using ColorChange = std::pair<QColor, QColor>;
     /// The same with colours changed.
     static std::shared_ptr<QSvgRenderer> svgRenderer(const Resource& resource, const std::vector<ColorChange>& changes);
     /// Forgets everything; for tests and for a host that is short of memory.

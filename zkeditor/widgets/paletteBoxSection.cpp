@@ -1,26 +1,46 @@
+// Marks a section in a form, and lifts its contents out.
 #include "zkeditor/widgets/paletteBoxSection.h"
 
+#include "zkeditor/widgets/paletteBox.h"
+#include "zkeditor/widgets/paletteButtonBar.h"
 #include "zkeditor/widgets/paneWidget.h"
 #include "zkeditor/widgets/propertyObserver.h"
+#include "zkeditor/widgets/sectionXpm.h"
 
+#include <QGuiApplication>
 #include <QLayout>
-#include <QPushButton>
+#include <QPalette>
 #include <QResizeEvent>
 #include <QVBoxLayout>
 #include <algorithm>
+#include <iterator>
 #include <vector>
+
+namespace {
+
+template <size_t Rows> QPixmap sectionImage(const char* const (&rows)[Rows])
+{
+    const QPalette colors = QGuiApplication::palette();
+    const bool dark = colors.color(QPalette::Window).lightness() < colors.color(QPalette::WindowText).lightness();
+    const auto& table = dark ? sectionXpm::darkColors : sectionXpm::lightColors;
+    const QByteArray header = QByteArray::number(qstrlen(rows[0])) + ' ' + QByteArray::number(Rows) + ' ' +
+                              QByteArray::number(std::size(table)) + " 1";
+    std::vector<const char*> text{header.constData()};
+    text.insert(text.end(), std::begin(table), std::end(table));
+    text.insert(text.end(), std::begin(rows), std::end(rows));
+    return QPixmap(text.data());
+}
+
+} // namespace
 
 const QString PaletteBoxSection::s_open = QStringLiteral("    [open]");
 const QString PaletteBoxSection::s_closed = QStringLiteral("    [closed]");
 
 PaletteBoxSection::PaletteBoxSection(QWidget* parent, const QString& name)
-    : QWidget(parent), m_header(new QPushButton(this)), m_label(tr("Section"))
+    : QWidget(parent), m_header(new PaletteButtonBar(PaletteBox::SectionStyle, this)), m_label(tr("Section"))
 {
     setObjectName(name);
     setMinimumWidth(200);
-    m_header->setFlat(true);
-    m_header->setCheckable(true);
-    m_header->setChecked(true);
     updateHeaderText();
     connect(m_header, &QAbstractButton::clicked, this, &PaletteBoxSection::onButtonClicked);
 }
@@ -100,4 +120,19 @@ void PaletteBoxSection::setSpacePropertyCid(unsigned int cid)
         if (auto* observer = dynamic_cast<PropertyObserver*>(widget))
             observer->setSpacePropertyCid(cid);
     }
+}
+
+QPixmap PaletteBoxSection::getLeftIcon(QIcon::Mode, QIcon::State state)
+{
+    return state == QIcon::On ? sectionImage(sectionXpm::leftOpen) : sectionImage(sectionXpm::leftClosed);
+}
+
+QPixmap PaletteBoxSection::getCenterIcon(QIcon::Mode, QIcon::State)
+{
+    return sectionImage(sectionXpm::center);
+}
+
+QPixmap PaletteBoxSection::getRightIcon(QIcon::Mode, QIcon::State)
+{
+    return sectionImage(sectionXpm::right);
 }

@@ -2,12 +2,14 @@
 
 #include "zkeditor/export.h"
 
+#include <QIcon>
+#include <QPixmap>
 #include <QWidget>
 #include <set>
 
 class DocumentImpl;
 class NodeImpl;
-class QPushButton;
+class PaletteButtonBar;
 
 /// Marks out one collapsible section in a form. The form only shows where the section is and whether it will start
 /// open; who shows the form lifts the contents out with getSectionWidget().
@@ -35,6 +37,12 @@ public:
     /// Makes all observers below edit properties of spaces; see PropertyObserver::setSpacePropertyCid().
     void setSpacePropertyCid(unsigned int cid);
 
+    /// The pictures of a section's header, in the colours of the application's palette: the left end (21 by 17 pixels),
+    /// which differs by state, what is tiled behind the text (135 by 17), and the right end (18 by 17).
+    static QPixmap getLeftIcon(QIcon::Mode mode, QIcon::State state);
+    static QPixmap getCenterIcon(QIcon::Mode mode, QIcon::State state);
+    static QPixmap getRightIcon(QIcon::Mode mode, QIcon::State state);
+
 protected Q_SLOTS:
     void onButtonClicked();
 
@@ -47,6 +55,6 @@ private:
     static const QString s_open;
     static const QString s_closed;
 
-    QPushButton* m_header;
+    PaletteButtonBar* m_header;
     QString m_label;
 };
