@@ -4,7 +4,9 @@
 #include "zkcore/model/coreKeys.h"
 #include "zkcore/model/documentImpl.h"
 #include "zkeditor/loadUIFromResource.h"
+#include "zkeditor/widgets/labelMirror.h"
 #include "zkeditor/widgets/paletteBoxSection.h"
+#include "zkeditor/widgets/paneScrollFilter.h"
 #include "zkeditor/widgets/paneWidget.h"
 
 #include <QApplication>
@@ -36,11 +38,13 @@ FormsDock::FormsDock(QWidget* parent) : QDockWidget(parent), m_area(new QScrollA
     m_heading->setTextFormat(Qt::PlainText);
     m_heading->setMargin(6);
     m_heading->setObjectName(QStringLiteral("formsHeading"));
+    new LabelMirror(m_heading);
     layout->addWidget(m_heading);
     m_area->setWidgetResizable(true);
     m_area->setFrameShape(QFrame::NoFrame);
     m_area->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
     m_area->setFocusPolicy(Qt::NoFocus);
+    new PaneScrollFilter(m_area);
     layout->addWidget(m_area, 1);
     setWidget(body);
     setMinimumWidth(240);

@@ -1,14 +1,55 @@
 #include "zkauthor/screenshot.h"
 
+#include "zkauthor/formsDock.h"
 #include "zkauthor/mainWindow.h"
 #include "zkauthor/startOptions.h"
 
-#include <QCoreApplication>
+#include <QApplication>
 #include <QImageWriter>
+#include <QPalette>
 #include <QPixmap>
+#include <QScrollArea>
+#include <QScrollBar>
+#include <algorithm>
+
+namespace {
+
+QPalette darkPalette()
+{
+    const QColor ground(0x2b, 0x2d, 0x30);
+    const QColor ink(0xe6, 0xe6, 0xe6);
+    QPalette palette(ground);
+    palette.setColor(QPalette::Base, QColor(0x1e, 0x1f, 0x22));
+    palette.setColor(QPalette::AlternateBase, QColor(0x26, 0x28, 0x2b));
+    palette.setColor(QPalette::Highlight, QColor(0x2f, 0x65, 0xca));
+    palette.setColor(QPalette::Link, QColor(0x6f, 0xae, 0xff));
+    for (const QPalette::ColorRole role :
+         {QPalette::WindowText, QPalette::Text, QPalette::ButtonText, QPalette::HighlightedText, QPalette::ToolTipText})
+        palette.setColor(role, ink);
+    for (const QPalette::ColorRole role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
+        palette.setColor(QPalette::Disabled, role, QColor(0x80, 0x82, 0x86));
+    palette.setColor(QPalette::PlaceholderText, QColor(0x9a, 0x9c, 0xa0));
+    palette.setColor(QPalette::ToolTipBase, QColor(0x3c, 0x3f, 0x41));
+    return palette;
+}
+
+/// Makes the window so high that nothing in the widget needs to be scrolled.
+void showWhole(QWidget& window, const QWidget& widget)
+{
+    int hidden = 0;
+    const auto areas = widget.findChildren<QScrollArea*>();
+    for (const QScrollArea* area : areas)
+        hidden = std::max(hidden, area->verticalScrollBar()->maximum());
+    window.resize(window.width(), window.height() + hidden);
+    QCoreApplication::processEvents();
+}
+
+} // namespace
 
 bool takeScreenshot(const StartOptions& options, QString& error)
 {
+    if (options.dark)
+        QApplication::setPalette(darkPalette());
     MainWindow window;
     if (!options.document.isEmpty() && !window.openFile(options.document, error))
         return false;
@@ -21,7 +62,12 @@ bool takeScreenshot(const StartOptions& options, QString& error)
     QCoreApplication::processEvents();
 
     QImageWriter writer(options.screenshot, "png");
-    if (writer.write(window.grab().toImage()))
+    QWidget* shown = &window;
+    if (options.forms) {
+        shown = window.formsDock()->widget();
+        showWhole(window, *shown);
+    }
+    if (writer.write(shown->grab().toImage()))
         return true;
     error = QCoreApplication::translate("screenshot", "The picture %1 cannot be written: %2")
                 .arg(options.screenshot, writer.errorString());

@@ -43,6 +43,11 @@ bool StartOptions::parse(const QCoreApplication& application, StartOptions& opti
     parser.addOption(logOption);
     parser.addOption(screenshotOption);
     parser.addOption(selectOption);
+    const QCommandLineOption formsOption(
+        QStringLiteral("forms"), tr("Let the picture show the forms of what is selected from top to bottom, alone."));
+    const QCommandLineOption darkOption(QStringLiteral("dark"), tr("Take the picture in dark colours."));
+    parser.addOption(formsOption);
+    parser.addOption(darkOption);
     parser.addPositionalArgument(QStringLiteral("document"), tr("The document to open."), QStringLiteral("[document]"));
     parser.process(application);
 
@@ -77,9 +82,13 @@ bool StartOptions::parse(const QCoreApplication& application, StartOptions& opti
     }
     options.screenshot = parser.value(screenshotOption);
     options.select = parser.values(selectOption);
-    if (!options.select.isEmpty() && options.screenshot.isEmpty()) {
-        error = tr("--select only works together with --screenshot.");
-        return false;
+    options.forms = parser.isSet(formsOption);
+    options.dark = parser.isSet(darkOption);
+    for (const QCommandLineOption& option : {selectOption, formsOption, darkOption}) {
+        if (parser.isSet(option) && options.screenshot.isEmpty()) {
+            error = tr("--%1 only works together with --screenshot.").arg(option.names().constFirst());
+            return false;
+        }
     }
     return true;
 }

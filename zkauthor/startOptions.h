@@ -17,6 +17,10 @@ struct StartOptions
     QString screenshot;
     /// What to select for the picture: "id" texts or instance ids.
     QStringList select;
+    /// Whether the picture shows the forms of what is selected, all of them, instead of the window.
+    bool forms = false;
+    /// Whether the picture is taken in dark colours.
+    bool dark = false;
 
     /// Whether the arguments ask for something that needs no display. Looked at before the application object exists.
     static bool needsNoDisplay(int argc, char** argv);

@@ -10,7 +10,7 @@ constexpr int nameWidth = 42;
 
 } // namespace
 
-Table::Table(std::vector<size_t> sizes) : m_sizes(std::move(sizes))
+Table::Table(std::vector<size_t> sizes, size_t growthFrom) : m_sizes(std::move(sizes)), m_growthFrom(growthFrom)
 {
     std::printf("%-*s", nameWidth, "nodes");
     for (const size_t size : m_sizes)
@@ -31,7 +31,7 @@ void Table::row(const char* name, const std::vector<double>& figures) const
 
 void Table::growthRow(const char* name, const std::vector<double>& figures, double aim) const
 {
-    print(name, figures, 0, "growth under", aim, figures.back() < aim * figures.front());
+    print(name, figures, 0, "growth under", aim, growth(figures) < aim);
 }
 
 void Table::ratioRow(const char* name, const std::vector<double>& figures, double aim) const
@@ -50,7 +50,7 @@ void Table::print(const char* name, const std::vector<double>& figures, int deci
     std::printf("%-*s", nameWidth, name);
     for (const double figure : figures)
         std::printf("%10.*f", decimals, figure);
-    std::printf("%10.2f", figures.back() / figures.front());
+    std::printf("%10.2f", growth(figures));
     if (aim)
         std::printf("  %s %g: %s", aim, aimValue, met ? "met" : "MISSED");
     std::printf("\n");

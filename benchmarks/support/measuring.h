@@ -40,12 +40,12 @@ inline int roundsFor(size_t nodes)
     return nodes <= 1'000 ? 100 : nodes <= 10'000 ? 20 : 5;
 }
 
-/// Prints figures for several sizes side by side, with the growth from the smallest to the largest, and marks each
-/// figure with an aim by whether it is met.
+/// Prints figures for several sizes side by side, with the growth from the smallest (or a given one) to the largest,
+/// and marks each figure with an aim by whether it is met.
 class Table
 {
 public:
-    explicit Table(std::vector<size_t> sizes);
+    explicit Table(std::vector<size_t> sizes, size_t growthFrom = 0);
 
     void section(const char* title) const;
     /// Figures without an aim.
@@ -61,5 +61,8 @@ private:
     void print(const char* name, const std::vector<double>& figures, int decimals, const char* aim, double aimValue,
                bool met) const;
 
+    double growth(const std::vector<double>& figures) const { return figures.back() / figures[m_growthFrom]; }
+
     std::vector<size_t> m_sizes;
+    size_t m_growthFrom; // the index of the size from which growth counts
 };

@@ -291,6 +291,8 @@ bool DoubleSpinBox::filterKey(QObject*, QKeyEvent* event)
         return true;
     case Qt::Key_Escape:
         m_editor->undo();
+        m_edited = false; // else the comparison would take the text over
+        m_edited = m_editor->text() != currentValueText();
         return true;
     case Qt::Key_Up:
         stepUp();

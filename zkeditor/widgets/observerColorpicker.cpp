@@ -107,7 +107,6 @@ void ObserverColorPicker::showText()
     m_editor->setModified(false);
     setDisplayValid(true);
     setDisplayReason({});
-    m_editor->setAccessibleDescription({});
 }
 
 bool ObserverColorPicker::isTyping() const
@@ -181,7 +180,6 @@ void ObserverColorPicker::onTextEdited()
         reason = tr("This names no colour.");
     setDisplayValid(reason.isEmpty());
     setDisplayReason(reason);
-    m_editor->setAccessibleDescription(reason);
 }
 
 void ObserverColorPicker::commitText()

@@ -7,6 +7,7 @@
 #include "zkcore/services/translate.h"
 #include "zkcore/values/validator.h"
 #include "zkcore/widgetSupport/fonts.h"
+#include "zkeditor/widgets/isolatedText.h"
 #include "zkeditor/widgets/poReceiver.h"
 #include "zkeditor/widgets/richItemDelegate.h"
 #include "zkeditor/widgets/validatorSet.h"
@@ -306,9 +307,10 @@ QSize ObserverComboBox::swatchSize() const
 {
     QStyleOptionComboBox option;
     initStyleOption(&option);
-    // Before its first layout a widget has a size that means nothing.
-    if (!testAttribute(Qt::WA_Resized))
-        option.rect.setHeight(sizeHint().height());
+    // Before its first layout a widget has a size that means nothing, and in a folded section none.
+    const int height = sizeHint().height();
+    if (!testAttribute(Qt::WA_Resized) || option.rect.height() < height)
+        option.rect.setHeight(height);
     return {swatchWidth,
             style()->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, this).height()};
 }
@@ -406,7 +408,8 @@ void ObserverComboBox::showPopup()
 {
     endGesture();
     // Not before: the list is made only when it is wanted.
-    if (m_hasRichItems && !qobject_cast<RichItemDelegate*>(itemDelegate()))
+    const bool drawn = m_hasRichItems || (isRightToLeft() && m_imageSize.isEmpty());
+    if (drawn && !qobject_cast<RichItemDelegate*>(itemDelegate()))
         setItemDelegate(new RichItemDelegate(this));
     ComboBox::showPopup();
 }
@@ -440,6 +443,13 @@ void ObserverComboBox::focusOutEvent(QFocusEvent* event)
 }
 
 // Painting
+
+void ObserverComboBox::initStyleOption(QStyleOptionComboBox* option) const
+{
+    ComboBox::initStyleOption(option);
+    if (isRightToLeft())
+        option->currentText = isolatedText(option->currentText);
+}
 
 QRect ObserverComboBox::editFieldRect() const
 {

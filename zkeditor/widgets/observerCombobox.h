@@ -78,6 +78,7 @@ protected:
     void buildContent(const std::vector<Resource>& values);
     void buildContent(const std::vector<Value>& values);
 
+    void initStyleOption(QStyleOptionComboBox* option) const override;
     void paintEvent(QPaintEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void keyReleaseEvent(QKeyEvent* event) override;

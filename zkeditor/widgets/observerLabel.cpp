@@ -2,6 +2,7 @@
 
 #include "zkcore/model/propertyImpl.h"
 #include "zkcore/values/formatter.h"
+#include "zkeditor/widgets/labelMirror.h"
 #include "zkeditor/widgets/poReceiver.h"
 
 ObserverLabel::ObserverLabel(QWidget* parent, const QString& name)
@@ -9,6 +10,7 @@ ObserverLabel::ObserverLabel(QWidget* parent, const QString& name)
 {
     setObjectName(name);
     setTextFormat(Qt::PlainText); // documents come from anybody
+    new LabelMirror(this);
 }
 
 void ObserverLabel::unbind()

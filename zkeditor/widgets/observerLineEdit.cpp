@@ -270,6 +270,12 @@ QRect ObserverLineEdit::contentRect() const
         .adjusted(lineEditTextMargin, 0, -lineEditTextMargin, 0);
 }
 
+// Without a frame an empty field could not be seen: different values need a sign as well.
+QString ObserverLineEdit::linkText() const
+{
+    return m_noValue && text().isEmpty() ? QString(QChar(0x2014)) : text();
+}
+
 // Where the text will stand when it is edited: by its own direction, where it has any.
 int ObserverLineEdit::linkAlignment() const
 {
@@ -282,7 +288,7 @@ int ObserverLineEdit::linkAlignment() const
 QRect ObserverLineEdit::linkRect() const
 {
     const QRect content = contentRect();
-    const QString shown = fontMetrics().elidedText(text(), Qt::ElideRight, content.width());
+    const QString shown = fontMetrics().elidedText(linkText(), Qt::ElideRight, content.width());
     return style()->itemTextRect(fontMetrics(), content, linkAlignment(), true, shown);
 }
 
@@ -336,13 +342,13 @@ void ObserverLineEdit::paintEvent(QPaintEvent* event)
         return;
     }
     QPainter painter(this);
-    const bool isBlank = text().isEmpty();
+    const QString link = linkText();
+    const bool isBlank = link.isEmpty();
     QFont linkFont = font();
     linkFont.setUnderline(m_linkHovered && !isBlank);
     painter.setFont(linkFont);
     painter.setPen(palette().color(isBlank ? QPalette::PlaceholderText : QPalette::Link));
     const QRect content = contentRect();
-    const QString shown =
-        fontMetrics().elidedText(isBlank ? placeholderText() : text(), Qt::ElideRight, content.width());
+    const QString shown = fontMetrics().elidedText(isBlank ? placeholderText() : link, Qt::ElideRight, content.width());
     painter.drawText(content, linkAlignment() | Qt::TextSingleLine, shown);
 }

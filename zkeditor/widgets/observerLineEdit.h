@@ -68,6 +68,7 @@ private:
     void showModel();
     void refuse(const Value& value, const QString& text);
     QRect contentRect() const;
+    QString linkText() const;
     int linkAlignment() const;
     QRect linkRect() const;
     void updateLink(const QPoint& pointer);

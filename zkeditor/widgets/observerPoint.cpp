@@ -15,6 +15,7 @@
 #include <QStyleOptionSpinBox>
 #include <cmath>
 #include <limits>
+#include <utility>
 
 namespace {
 
@@ -36,14 +37,17 @@ void PrivatePointSpinBox::setNoValue(bool noValue)
     m_noValue = noValue;
     if (!noValue)
         return;
-    editor()->clear();
+    editor()->setText(QString()); // not clear(), which Escape would undo
     setEdited(false);
 }
 
 void PrivatePointSpinBox::showNumber(double number)
 {
     directSetValue(number);
-    updateDisplay();
+    // Neither the text nor the cursor is taken from somebody who types.
+    m_refreshPending = isTyping();
+    if (!m_refreshPending)
+        updateDisplay();
 }
 
 bool PrivatePointSpinBox::isTyping() const
@@ -122,8 +126,8 @@ double PrivatePointSpinBox::mapTextToValue(bool* ok)
 
 void PrivatePointSpinBox::interpretText()
 {
-    // A blank box over different values, left as it is, changes nothing.
-    if (m_noValue && (!isEdited() || editor()->text().trimmed().isEmpty())) {
+    // A box that is left as it is changes nothing: what it shows may be rounded, or blank over different values.
+    if (!isEdited() || (m_noValue && editor()->text().trimmed().isEmpty())) {
         setEdited(false);
         return;
     }
@@ -173,6 +177,17 @@ bool PrivatePointSpinBox::eventFilter(QObject* object, QEvent* event)
         const auto* key = static_cast<QKeyEvent*>(event);
         if (!key->isAutoRepeat() && (key->key() == Qt::Key_Up || key->key() == Qt::Key_Down))
             m_owner->beginGesture();
+        if (key->key() == Qt::Key_Escape && object == editor() && std::exchange(m_refreshPending, false)) {
+            setEdited(false);
+            const QPointer<PrivatePointSpinBox> alive(this);
+            m_owner->showFirstValue();
+            if (alive) {
+                updateDisplay();
+                m_owner->setDisplayValid(true);
+                m_owner->setDisplayReason({});
+            }
+            return true;
+        }
         break;
     }
     case QEvent::KeyRelease:
@@ -199,8 +214,6 @@ ObserverPoint::ObserverPoint(QWidget* parent, const QString& name)
     m_y->setPeer(m_x);
     for (PrivatePointSpinBox* box : {m_x, m_y})
         box->setValidator(QValidatorFactory::createByType(Value::DOUBLE, box));
-    m_x->editor()->setAccessibleName(tr("x"));
-    m_y->editor()->setAccessibleName(tr("y"));
     setSizePolicy(m_x->sizePolicy());
     setFocusPolicy(Qt::StrongFocus);
     setFocusProxy(m_x);
@@ -213,6 +226,8 @@ ObserverPoint::~ObserverPoint() = default;
 
 void ObserverPoint::setupWidget()
 {
+    m_x->editor()->setAccessibleName(tr("%1, x").arg(accessibleName()));
+    m_y->editor()->setAccessibleName(tr("%1, y").arg(accessibleName()));
     const QPointer<ObserverPoint> alive(this);
     NumericalObserver::setupWidget();
     if (!alive)
@@ -263,9 +278,8 @@ void ObserverPoint::onPropertyValueChanged(Property, Value value)
         m_y->heldValue() == point.y)
         return;
     for (PrivatePointSpinBox* box : {m_x, m_y}) {
-        if (box->isTyping())
-            continue; // neither the text nor the cursor is taken from somebody who types
-        box->setNoValue(!agree);
+        if (!box->isTyping())
+            box->setNoValue(!agree);
         if (shown)
             box->showNumber(box == m_x ? point.x : point.y);
     }

@@ -47,6 +47,7 @@ private:
     ObserverPoint* m_owner;
     bool m_noValue = false;
     bool m_refreshing = false;
+    bool m_refreshPending = false; // the model changed while the user typed
 };
 
 /// Edits a POINT property in two spin boxes, x above y, in the unit shown. Blank while the nodes have different points.

@@ -10,6 +10,7 @@
 #include "zkeditor/widgets/poReceiver.h"
 #include "zkeditor/widgets/validatorSet.h"
 
+#include <QApplication>
 #include <QButtonGroup>
 #include <QKeyEvent>
 #include <algorithm>
@@ -235,6 +236,7 @@ bool ObserverRadioGroup::moveBy(QObject* from, int step)
 
 bool ObserverRadioGroup::eventFilter(QObject* object, QEvent* event)
 {
+    followGesture(event);
     // Keys that a widget inside a button left alone come by as well.
     if (event->type() == QEvent::KeyPress && static_cast<QWidget*>(object)->hasFocus()) {
         const auto* key = static_cast<QKeyEvent*>(event);
@@ -253,6 +255,30 @@ bool ObserverRadioGroup::eventFilter(QObject* object, QEvent* event)
         }
     }
     return QGroupBox::eventFilter(object, event);
+}
+
+// What a held arrow key runs through is one undo step; the focus moves from button to button meanwhile.
+void ObserverRadioGroup::followGesture(const QEvent* event)
+{
+    switch (event->type()) {
+    case QEvent::KeyPress:
+        if (!static_cast<const QKeyEvent*>(event)->isAutoRepeat())
+            beginGesture();
+        break;
+    case QEvent::KeyRelease:
+        if (!static_cast<const QKeyEvent*>(event)->isAutoRepeat())
+            endGesture();
+        break;
+    case QEvent::MouseButtonPress:
+        endGesture();
+        break;
+    case QEvent::FocusOut:
+        if (const QWidget* focus = QApplication::focusWidget(); !focus || !isAncestorOf(focus))
+            endGesture();
+        break;
+    default:
+        break;
+    }
 }
 
 void ObserverRadioGroup::setEnabled(bool enabled)

@@ -56,6 +56,7 @@ protected:
     bool eventFilter(QObject* object, QEvent* event) override;
 
 private:
+    void followGesture(const QEvent* event);
     struct Choice
     {
         QPointer<QRadioButton> button;

@@ -60,6 +60,7 @@ void ObserverSpinBox::setupWidget()
         setRange(std::numeric_limits<int>::min(), std::numeric_limits<int>::max());
     else
         setRange(lowestDouble, highestDouble);
+    editor()->setAccessibleName(accessibleName());
     const QPointer<ObserverSpinBox> alive(this);
     NumericalObserver::setupWidget();
     if (!alive || m_props.empty())
@@ -131,7 +132,7 @@ void ObserverSpinBox::setNoValue(bool noValue)
     m_noValue = noValue;
     if (!noValue)
         return;
-    editor()->clear();
+    editor()->setText(QString()); // not clear(), which Escape would undo
     setEdited(false);
     setDisplayValid(true);
     setDisplayReason({});
@@ -229,8 +230,8 @@ void ObserverSpinBox::textChanged()
 
 void ObserverSpinBox::interpretText()
 {
-    // A blank box over different values, left as it is, changes nothing.
-    if (m_noValue && (!isEdited() || editor()->text().trimmed().isEmpty())) {
+    // A box that is left as it is changes nothing: what it shows may be rounded, or blank over different values.
+    if (!isEdited() || (m_noValue && editor()->text().trimmed().isEmpty())) {
         setEdited(false);
         return;
     }
@@ -374,8 +375,11 @@ bool ObserverSpinBox::eventFilter(QObject* object, QEvent* event)
             m_refreshPending = false;
             setEdited(false);
             showFirstValue();
-            if (alive)
+            if (alive) {
                 updateDisplay();
+                setDisplayValid(true);
+                setDisplayReason({});
+            }
             return true;
         }
         break;

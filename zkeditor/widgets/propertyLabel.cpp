@@ -3,6 +3,7 @@
 #include "zkcore/model/nodeImpl.h"
 #include "zkcore/model/propertyImpl.h"
 #include "zkcore/services/translate.h"
+#include "zkeditor/widgets/labelMirror.h"
 #include "zkeditor/widgets/poReceiver.h"
 
 #include <QMouseEvent>
@@ -11,6 +12,7 @@ PropertyLabel::PropertyLabel(QWidget* parent, const QString& name)
     : QLabel(QStringLiteral("property"), parent), PropertyObserver(this)
 {
     setObjectName(name);
+    new LabelMirror(this);
 }
 
 void PropertyLabel::addProperty(PropertyImpl* property)

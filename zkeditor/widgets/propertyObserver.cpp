@@ -13,6 +13,7 @@
 
 #include <QAbstractButton>
 #include <QColor>
+#include <QLineEdit>
 #include <QUndoStack>
 #include <QWidget>
 #include <algorithm>
@@ -341,7 +342,13 @@ void PropertyObserver::setDisplayReason(const QString& reason)
         m_widget->setToolTip(m_ownTexts->toolTip);
         m_widget->setAccessibleDescription(m_ownTexts->description);
         m_ownTexts.reset();
+    } else {
+        return;
     }
+    // A screen reader tells what it knows of the widget that has the focus, which may be an inner one.
+    const auto editors = m_widget->findChildren<QLineEdit*>();
+    for (QLineEdit* editor : editors)
+        editor->setAccessibleDescription(reason);
 }
 
 QString PropertyObserver::refusalReason(const Value& value) const

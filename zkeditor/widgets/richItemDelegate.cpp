@@ -1,5 +1,7 @@
 #include "zkeditor/widgets/richItemDelegate.h"
 
+#include "zkeditor/widgets/isolatedText.h"
+
 #include <QAbstractTextDocumentLayout>
 #include <QApplication>
 #include <QPainter>
@@ -63,6 +65,13 @@ void RichItemDelegate::draw(QPainter& painter, const QString& markup, const QRec
     painter.translate(left, rect.top() + (rect.height() - size.height()) / 2.0);
     document.documentLayout()->draw(&painter, context);
     painter.restore();
+}
+
+void RichItemDelegate::initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const
+{
+    QStyledItemDelegate::initStyleOption(option, index);
+    if (option->direction == Qt::RightToLeft)
+        option->text = isolatedText(option->text);
 }
 
 void RichItemDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const

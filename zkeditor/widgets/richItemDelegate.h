@@ -6,8 +6,9 @@
 
 class QRect;
 
-/// Paints list items whose text has markup ("m<sup>2</sup>"). The item's display text is the plain one, for searching,
-/// sizes and screen readers; the text with markup stands in a role of its own.
+/// Paints list items whose text has markup ("m<sup>2</sup>"), and others that run in their own direction. The item's
+/// display text is the plain one, for searching, sizes and screen readers; the text with markup stands in a role of its
+/// own.
 class RichItemDelegate : public QStyledItemDelegate
 {
     Q_OBJECT
@@ -26,4 +27,7 @@ public:
     /// the markup breaks it. Text that has no colour of its own gets the given one.
     static void draw(QPainter& painter, const QString& markup, const QRect& rect, const QFont& font,
                      const QColor& color, Qt::LayoutDirection direction);
+
+protected:
+    void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override;
 };

@@ -217,6 +217,54 @@ TEST_F(ObserverComboBoxTest, ColoursAreSwatches)
     EXPECT_EQ(combo.middle(), QColor(Qt::red));
 }
 
+TEST_F(ObserverComboBoxTest, ColoursInAFoldedSectionAreSwatchesWhenItIsOpened)
+{
+    PartImpl* part = add("choices/chooser");
+    const MessageCapture quiet;
+    SeenCombo& combo = place(new SeenCombo, "tint");
+    combo.hide();
+    combo.resize(combo.width(), 0);
+    combo.bind(&document, {part});
+    combo.show();
+    QApplication::processEvents();
+    EXPECT_EQ(combo.middle(), property(part, "tint")->getValue().toQColor());
+    EXPECT_EQ(quiet.texts().filter(QStringLiteral("QPainter")), QStringList());
+}
+
+TEST_F(ObserverComboBoxTest, NumbersKeepTheirOrderInMirroredForms)
+{
+    PartImpl* part = add("choices/chooser");
+    SeenCombo& combo = bound("spot", {part});
+    combo.setFixedWidth(200);
+    // "0, 1", not "1 ,0": the comma stands closer to the digit at its left.
+    const auto commaFollowsAtLeft = [](const QImage& image, const QRect& area) {
+        std::vector<int> gaps;
+        int last = -1;
+        for (int x = area.left(); x <= area.right(); ++x) {
+            int darkest = 255;
+            for (int y = area.top(); y <= area.bottom(); ++y)
+                darkest = std::min(darkest, qGray(image.pixel(x, y)));
+            if (darkest > 140)
+                continue;
+            if (last >= 0 && x > last + 1)
+                gaps.push_back(x - last);
+            last = x;
+        }
+        return gaps.size() == 2 && gaps[0] < gaps[1];
+    };
+    const auto fieldIsRight = [&] { return commaFollowsAtLeft(combo.look(), combo.field().adjusted(2, 4, -2, -4)); };
+    EXPECT_TRUE(fieldIsRight());
+    window.setLayoutDirection(Qt::RightToLeft);
+    EXPECT_TRUE(fieldIsRight());
+    EXPECT_EQ(combo.currentText(), QString("0, 1")); // for listeners, without any marks
+    combo.setFocus();
+    QTest::keyClick(&combo, Qt::Key_Down, Qt::AltModifier);
+    QTest::keyClick(combo.view(), Qt::Key_Home);
+    const QRect last = combo.view()->visualRect(combo.model()->index(1, 0));
+    EXPECT_TRUE(commaFollowsAtLeft(combo.view()->viewport()->grab().toImage(), last.adjusted(2, 2, -2, -2)));
+    combo.hidePopup();
+}
+
 TEST_F(ObserverComboBoxTest, DifferentValuesAreBlankWhateverTheFirstIs)
 {
     const auto parts = add("choices/chooser", 3);

@@ -58,6 +58,38 @@ TEST_F(ObserverLabelTest, MixedValuesAreADash)
     EXPECT_EQ(label.text(), QString("5"));
 }
 
+TEST_F(ObserverLabelTest, LabelsBeginWhereTheLinesOfTheFormDo)
+{
+    PartImpl* part = gauge();
+    auto& value = place(new ObserverLabel, "length");
+    auto& name = place(new PropertyLabel, "length");
+    auto& right = place(new ObserverLabel, "length");
+    right.setAlignment(Qt::AlignRight);
+    for (PaneWidget* label :
+         {static_cast<PaneWidget*>(&value), static_cast<PaneWidget*>(&name), static_cast<PaneWidget*>(&right)})
+        label->bind(&document, {part});
+    const auto hasInk = [](QLabel& label, bool atLeft) {
+        const QImage image = label.grab().toImage();
+        const QRect half(atLeft ? 0 : image.width() / 2, 0, image.width() / 2, image.height());
+        const QRgb ground = image.pixel(image.width() / 2, 0);
+        for (int y = half.top(); y <= half.bottom(); ++y)
+            for (int x = half.left(); x <= half.right(); ++x)
+                if (image.pixel(x, y) != ground)
+                    return true;
+        return false;
+    };
+    for (const auto direction : {Qt::LeftToRight, Qt::RightToLeft, Qt::LeftToRight}) {
+        window.setLayoutDirection(direction);
+        const bool leftToRight = direction == Qt::LeftToRight;
+        for (QLabel* label : {static_cast<QLabel*>(&value), static_cast<QLabel*>(&name)}) {
+            EXPECT_EQ(hasInk(*label, true), leftToRight);
+            EXPECT_EQ(hasInk(*label, false), !leftToRight);
+        }
+        EXPECT_EQ(hasInk(right, true), !leftToRight);
+        EXPECT_EQ(hasInk(right, false), leftToRight);
+    }
+}
+
 TEST_F(ObserverLabelTest, PropertyLabelFollowsTheLabelAndExplains)
 {
     PartImpl* part = gauge();

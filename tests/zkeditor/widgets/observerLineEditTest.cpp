@@ -382,6 +382,17 @@ TEST_F(ObserverLineEditTest, LooksLikeALinkUntilItIsEdited)
     set(property(part, "note"), string("a link to follow"));
     window.setLayoutDirection(Qt::LeftToRight);
 
+    // Different values have a sign, with and without a placeholder: there is no frame that shows where to click.
+    PartImpl* second = add("choices/chooser");
+    for (const char* placeholder : {"", "nothing yet"}) {
+        edit.setPlaceholderText(QString::fromLatin1(placeholder));
+        edit.bind(&document, {part, second});
+        ASSERT_TRUE(edit.showsNoValue());
+        EXPECT_GT(inkIn(look(), left, 200), 5) << placeholder;
+        EXPECT_EQ(inkIn(look(), QRect(30, 2, 160, 26), 200), 0) << placeholder;
+    }
+    edit.bind(&document, {part});
+
     QTest::mouseClick(&edit, Qt::LeftButton, {}, QPoint(12, 15));
     EXPECT_TRUE(edit.hasFocus());
     EXPECT_EQ(edit.cursor().shape(), Qt::IBeamCursor);

@@ -249,3 +249,40 @@ TEST_F(RadioGroupTest, ReadOnlyGroupsStayDisabledAndClicksMayDelete)
     EXPECT_FALSE(alive);
     EXPECT_EQ(text(part, "mode"), "Slow");
 }
+
+TEST_F(RadioGroupTest, HeldArrowIsOneStepAndTwoPressesAreTwo)
+{
+    PartImpl* part = gauge();
+    for (const char* name : {"Fast", "Normal", "Slow"})
+        choice(name);
+    bind("mode", {part});
+    const int steps = undoSteps();
+    const auto send = [](QEvent::Type type, bool repeated) {
+        QKeyEvent event(type, Qt::Key_Down, Qt::NoModifier, QString(), repeated);
+        QApplication::sendEvent(QApplication::focusWidget(), &event);
+    };
+    const auto hold = [&](int repeats) {
+        send(QEvent::KeyPress, false);
+        for (int i = 0; i < repeats; ++i) {
+            send(QEvent::KeyRelease, true);
+            send(QEvent::KeyPress, true);
+        }
+        send(QEvent::KeyRelease, false);
+    };
+    buttons[1]->setFocus();
+    hold(4);
+    EXPECT_EQ(checked(), "0");
+    EXPECT_EQ(undoSteps(), steps + 1);
+    hold(0);
+    EXPECT_EQ(checked(), "1");
+    EXPECT_EQ(undoSteps(), steps + 2);
+    document.undo();
+    EXPECT_EQ(checked(), "0");
+    document.undo();
+    EXPECT_EQ(checked(), "1");
+    // A click ends what a lost release left open.
+    buttons[1]->setFocus();
+    send(QEvent::KeyPress, false);
+    click(0);
+    EXPECT_EQ(undoSteps(), steps + 2);
+}
