@@ -101,18 +101,11 @@ void DocumentImpl::replaceContent(NodeSnapshot&& root, InstanceId nextId)
     ModelMutator mutator(*this, ModelMutator::Raw());
     mutator.giveMissingIds(root);
     // The root enters first, so that pop-ups can be listed with it while their parts are made.
-    NodeSnapshot rootOnly;
-    rootOnly.cid = root.cid;
-    rootOnly.kind = NodeKind::Model;
-    rootOnly.id = root.id;
-    rootOnly.unknownContent = root.unknownContent;
-    rootOnly.values = root.values;
-    std::vector<InstanceId> built;
-    built.reserve(root.children.size());
-    m_model = static_cast<ModelImpl*>(mutator.build(nullptr, rootOnly, built));
-    for (const NodeSnapshot& child : root.children)
+    ModelMutator::Built built;
+    m_model = static_cast<ModelImpl*>(mutator.buildAlone(nullptr, root, built));
+    for (NodeSnapshot& child : root.children)
         mutator.build(m_model, child, built);
-    mutator.linkProxies(root);
+    mutator.linkProxies(built);
 }
 
 void DocumentImpl::clearHistory()

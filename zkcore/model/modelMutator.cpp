@@ -116,10 +116,9 @@ bool ModelMutator::setValue(const PropertyAddress& address, const Value& value)
     PropertyImpl* property = store->object(index);
     if (property && property->isProxy())
         return changed; // what it shows is its target's value
-    const Node handle(owner);
     if (property)
         property->notifyValueChanged();
-    if (handle.valid())
+    if (!property || node(address.node) == owner)
         Q_EMIT m_document.nodeValueChanged(owner, address.key);
     return changed;
 }
@@ -130,10 +129,10 @@ NodeImpl* ModelMutator::addNode(InstanceId parentId, unsigned int index, NodeSna
     if (!parent || !idsAreFree(snapshot))
         return nullptr;
     giveMissingIds(snapshot);
-    std::vector<InstanceId> built;
-    NodeImpl* made = build(nullptr, snapshot, built);
+    Built built;
+    NodeImpl* made = build(nullptr, std::as_const(snapshot), built);
     attach(*parent, index, made);
-    linkProxies(snapshot);
+    linkProxies(built);
     if (m_changes) {
         const int at = parent->getIndexForChild(made);
         m_changes->add(std::make_unique<NodeChange>(NodeChange::Added, parentId,
@@ -141,7 +140,7 @@ NodeImpl* ModelMutator::addNode(InstanceId parentId, unsigned int index, NodeSna
                                                     NodeSnapshot()));
     }
     Q_EMIT parent->ChildAdded(Node(parent), Node(made));
-    announceAdded(built);
+    announceAdded(built.ids);
     return node(snapshot.id);
 }
 
@@ -172,13 +171,13 @@ InstanceId ModelMutator::takeIds(size_t count)
     return first;
 }
 
-NodeImpl* ModelMutator::build(NodeImpl* parent, const NodeSnapshot& snapshot, std::vector<InstanceId>& built)
+NodeImpl* ModelMutator::buildAlone(NodeImpl* parent, const NodeSnapshot& snapshot, Built& built)
 {
     const NodePrototype* prototype = m_document.m_nodeDb->prototypeOrPlaceholder(snapshot.cid, snapshot.kind);
     NodeImpl* made = NodeFactory::make(&m_document, prototype, snapshot.id);
     if (!snapshot.unknownContent.isEmpty())
         made->m_unknown = std::make_unique<QString>(snapshot.unknownContent);
-    fillValues(*made, snapshot);
+    fillValues(*made, snapshot, built);
     if (isElement(made)) {
         auto* element = static_cast<ElementImpl*>(made);
         element->m_locks = static_cast<unsigned char>(snapshot.locks);
@@ -189,15 +188,25 @@ NodeImpl* ModelMutator::build(NodeImpl* parent, const NodeSnapshot& snapshot, st
             m_document.m_registry->enterReflection(snapshot.reflects, snapshot.id);
     }
     m_document.m_registry->enter(made);
-    built.push_back(snapshot.id);
+    built.ids.push_back(snapshot.id);
     if (parent)
         attach(*parent, ~0u, made);
-    for (const NodeSnapshot& child : snapshot.children)
-        build(made, child, built);
-    if (snapshot.popup && made->kind() == NodeKind::Part)
-        build(made, *snapshot.popup, built);
     return made;
 }
+
+template <typename Snapshot> NodeImpl* ModelMutator::build(NodeImpl* parent, Snapshot& snapshot, Built& built)
+{
+    NodeImpl* made = buildAlone(parent, snapshot, built);
+    for (Snapshot& child : snapshot.children)
+        build(made, child, built);
+    if (snapshot.popup && made->kind() == NodeKind::Part)
+        build(made, static_cast<Snapshot&>(*snapshot.popup), built);
+    if constexpr (!std::is_const_v<Snapshot>)
+        snapshot = NodeSnapshot();
+    return made;
+}
+
+template NodeImpl* ModelMutator::build(NodeImpl* parent, NodeSnapshot& snapshot, Built& built);
 
 void ModelMutator::attach(NodeImpl& parent, unsigned int index, NodeImpl* node)
 {
@@ -210,12 +219,14 @@ void ModelMutator::attach(NodeImpl& parent, unsigned int index, NodeImpl* node)
     }
 }
 
-void ModelMutator::fillValues(NodeImpl& node, const NodeSnapshot& snapshot)
+void ModelMutator::fillValues(NodeImpl& node, const NodeSnapshot& snapshot, Built& built)
 {
     node.m_store.values.reserve(snapshot.values.size());
     for (const NodeSnapshot::ValueEntry& entry : snapshot.values) {
-        if (entry.proxy.isValid())
-            continue; // linked, or kept as dangling, when all nodes are there
+        if (entry.proxy.isValid()) {
+            built.links.push_back({snapshot.id, entry}); // linked, or kept as dangling, when all nodes are there
+            continue;
+        }
         NodeImpl::PropertyStore* store = node.store(entry.domain);
         const int index = store ? store->prototype->indexOf(entry.key) : -1;
         if (index >= 0 && store->prototype->properties()[static_cast<size_t>(index)].type == entry.value.type())
@@ -223,12 +234,10 @@ void ModelMutator::fillValues(NodeImpl& node, const NodeSnapshot& snapshot)
     }
 }
 
-void ModelMutator::linkProxies(const NodeSnapshot& snapshot)
+void ModelMutator::linkProxies(const Built& built)
 {
-    for (const NodeSnapshot::ValueEntry& entry : snapshot.values) {
-        if (!entry.proxy.isValid())
-            continue;
-        const PropertyAddress address{snapshot.id, entry.domain, entry.key};
+    for (const auto& [node, entry] : built.links) {
+        const PropertyAddress address{node, entry.domain, entry.key};
         PropertyImpl* property = m_document.propertyAt(address);
         PropertyImpl* target = m_document.propertyAt(entry.proxy);
         // What is read, or made again by undo, is known to hold no circle; walking long chains each time would be slow.
@@ -244,10 +253,6 @@ void ModelMutator::linkProxies(const NodeSnapshot& snapshot)
         if (entry.value.type() == property->type())
             store->setValue(store->prototype->indexOf(entry.key), entry.value);
     }
-    for (const NodeSnapshot& child : snapshot.children)
-        linkProxies(child);
-    if (snapshot.popup)
-        linkProxies(*snapshot.popup);
 }
 
 void ModelMutator::announceAdded(const std::vector<InstanceId>& ids)

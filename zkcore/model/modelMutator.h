@@ -66,9 +66,23 @@ private:
     /// For undo, redo and loading: notes nothing.
     ModelMutator(DocumentImpl& document, Raw);
 
-    NodeImpl* build(NodeImpl* parent, const NodeSnapshot& snapshot, std::vector<InstanceId>& built);
-    void fillValues(NodeImpl& node, const NodeSnapshot& snapshot);
-    void linkProxies(const NodeSnapshot& snapshot);
+    /// What is left to do when all nodes of a snapshot are there.
+    struct Built
+    {
+        struct Link
+        {
+            InstanceId node;
+            NodeSnapshot::ValueEntry entry;
+        };
+        std::vector<InstanceId> ids;
+        std::vector<Link> links; // what follows another property
+    };
+
+    /// A snapshot that is not const is emptied on the way: then a large document stands in memory once only.
+    template <typename Snapshot> NodeImpl* build(NodeImpl* parent, Snapshot& snapshot, Built& built);
+    NodeImpl* buildAlone(NodeImpl* parent, const NodeSnapshot& snapshot, Built& built);
+    void fillValues(NodeImpl& node, const NodeSnapshot& snapshot, Built& built);
+    void linkProxies(const Built& built);
     void attach(NodeImpl& parent, unsigned int index, NodeImpl* node);
     void giveMissingIds(NodeSnapshot& snapshot);
     bool idsAreFree(const NodeSnapshot& snapshot) const;

@@ -2,17 +2,17 @@
 
 #include "zkcore/model/coreKeys.h"
 #include "zkcore/model/documentImpl.h"
-#include "zkcore/model/liveSet.h"
+#include "zkcore/model/objectSlab.h"
 #include "zkcore/model/propertyImpl.h"
 
 #include <algorithm>
 
 namespace {
 
-LiveSet<NodeImpl>& liveNodes()
+ObjectSlab& nodeSlab()
 {
-    static LiveSet<NodeImpl> set;
-    return set;
+    static ObjectSlab slab;
+    return slab;
 }
 
 unsigned long long nextNodeSerial = 0;
@@ -26,22 +26,32 @@ template <typename T> auto findByIndex(T& entries, int index)
 } // namespace
 
 NodeImpl::NodeImpl(DocumentImpl* document, const NodePrototype* prototype, InstanceId id)
-    : m_prototype(prototype), m_document(document), m_serial(++nextNodeSerial), m_instanceId(id)
+    : m_document(document), m_serial(++nextNodeSerial), m_instanceId(id)
 {
     m_store.prototype = prototype;
-    liveNodes().insert(this);
+    nodeSlab().setAlive(this, true);
 }
 
 NodeImpl::~NodeImpl()
 {
-    liveNodes().remove(this);
+    nodeSlab().setAlive(this, false);
     for (const auto& [index, property] : m_store.objects)
         delete property;
 }
 
 bool NodeImpl::valid(const NodeImpl* node)
 {
-    return liveNodes().contains(node);
+    return nodeSlab().isAlive(node);
+}
+
+void* NodeImpl::operator new(size_t size)
+{
+    return nodeSlab().allocate(size);
+}
+
+void NodeImpl::operator delete(void* memory)
+{
+    nodeSlab().release(memory);
 }
 
 SpaceImpl* NodeImpl::space()
@@ -60,19 +70,19 @@ ModelImpl* NodeImpl::model() const
 
 PropertyImpl* NodeImpl::getProperty(Property::Key key)
 {
-    const int index = m_prototype->indexOf(key);
+    const int index = m_store.prototype->indexOf(key);
     return index < 0 ? nullptr : propertyIn(m_store, INVALID_CID, index);
 }
 
 PropertyImpl* NodeImpl::existingProperty(Property::Key key) const
 {
-    const int index = m_prototype->indexOf(key);
+    const int index = m_store.prototype->indexOf(key);
     return index < 0 ? nullptr : m_store.object(index);
 }
 
 Value NodeImpl::valueOfProperty(Property::Key key) const
 {
-    const int index = m_prototype->indexOf(key);
+    const int index = m_store.prototype->indexOf(key);
     if (index < 0)
         return {};
     if (const PropertyImpl* property = m_store.object(index); property && property->isProxy())
@@ -83,15 +93,15 @@ Value NodeImpl::valueOfProperty(Property::Key key) const
 std::vector<Property::Key> NodeImpl::propertyKeys() const
 {
     std::vector<Property::Key> keys;
-    keys.reserve(m_prototype->properties().size());
-    for (const PropertyDefinition& definition : m_prototype->properties())
+    keys.reserve(m_store.prototype->properties().size());
+    for (const PropertyDefinition& definition : m_store.prototype->properties())
         keys.push_back(definition.key);
     return keys;
 }
 
 bool NodeImpl::hasOwnValue(Property::Key key) const
 {
-    const int index = m_prototype->indexOf(key);
+    const int index = m_store.prototype->indexOf(key);
     const auto it = findByIndex(m_store.values, index);
     return index >= 0 && it != m_store.values.end() && it->first == index;
 }

@@ -26,13 +26,16 @@ public:
 
     /// Whether the pointer names a live node. Constant time.
     static bool valid(const NodeImpl* node);
+    /// Nodes stand side by side in blocks, in the order in which they were made.
+    static void* operator new(size_t size);
+    static void operator delete(void* memory);
 
-    ClassId classId() const { return m_prototype->cid; }
+    ClassId classId() const { return m_store.prototype->cid; }
     InstanceId instanceId() const { return m_instanceId; }
-    const NodePrototype& prototype() const { return *m_prototype; }
-    NodeKind kind() const { return m_prototype->kind; }
+    const NodePrototype& prototype() const { return *m_store.prototype; }
+    NodeKind kind() const { return m_store.prototype->kind; }
     /// Whether its class is `cid`, has it among its bases, or belongs to that domain.
-    bool instanceOf(ClassId cid) const { return m_prototype->instanceOf(cid); }
+    bool instanceOf(ClassId cid) const { return m_store.prototype->instanceOf(cid); }
     DocumentImpl* document() const { return m_document; }
 
     /// Null for the root. The parent of a pop-up is the part that owns it.
@@ -41,7 +44,7 @@ public:
     SpaceImpl* space();
     ModelImpl* model() const;
 
-    bool hasProperty(Property::Key key) const { return m_prototype->find(key) != nullptr; }
+    bool hasProperty(Property::Key key) const { return m_store.prototype->find(key) != nullptr; }
     /// Null when the class has no such property. Makes the property object at the first call; owned by the node.
     PropertyImpl* getProperty(Property::Key key);
     /// Null when nobody has asked for the property yet, or there is none.
@@ -111,7 +114,6 @@ private:
     friend class NodeXml;
     friend struct NodeSnapshot;
 
-    const NodePrototype* m_prototype;
     DocumentImpl* m_document;
     NodeImpl* m_parent = nullptr;
     ChildList m_children;

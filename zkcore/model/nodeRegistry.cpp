@@ -72,7 +72,11 @@ NodeImpl* NodeRegistry::bySparseId(InstanceId id) const
 
 void NodeRegistry::enterTextId(const QString& text, InstanceId id)
 {
-    m_textIds[text].push_back(id);
+    InstanceId& first = m_textIds[text];
+    if (first == 0)
+        first = id;
+    else
+        m_laterTextIds[text].push_back(id);
 }
 
 void NodeRegistry::leaveTextId(const QString& text, InstanceId id)
@@ -80,15 +84,26 @@ void NodeRegistry::leaveTextId(const QString& text, InstanceId id)
     const auto it = m_textIds.find(text);
     if (it == m_textIds.end())
         return;
-    std::erase(*it, id);
-    if (it->empty())
-        m_textIds.erase(it);
+    const auto later = m_laterTextIds.find(text);
+    if (later == m_laterTextIds.end()) {
+        if (*it == id)
+            m_textIds.erase(it);
+        return;
+    }
+    if (*it == id) {
+        *it = later->front();
+        later->erase(later->begin());
+    } else {
+        std::erase(*later, id);
+    }
+    if (later->empty())
+        m_laterTextIds.erase(later);
 }
 
 InstanceId NodeRegistry::byTextId(const QString& text) const
 {
     const auto it = m_textIds.find(text);
-    return it == m_textIds.end() ? 0 : it->front();
+    return it == m_textIds.end() ? 0 : *it;
 }
 
 QString NodeRegistry::freeTextId(const QString& prefix)

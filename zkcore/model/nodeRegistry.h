@@ -46,7 +46,9 @@ private:
     // Ids are given out in order, so most files are dense; ids far beyond the number of nodes go into the hash.
     std::vector<NodeImpl*> m_dense{nullptr};
     std::unordered_map<InstanceId, NodeImpl*> m_sparse;
-    QHash<QString, std::vector<InstanceId>> m_textIds;
+    QHash<QString, InstanceId> m_textIds; // who entered the text first
+    QHash<QString, std::vector<InstanceId>>
+        m_laterTextIds; // and who entered it later, for the few texts that are shared
     QHash<QString, unsigned int> m_nextNumber;
     QHash<InstanceId, std::vector<InstanceId>> m_reflections;
     std::set<InstanceId> m_connections;

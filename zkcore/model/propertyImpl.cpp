@@ -2,8 +2,8 @@
 
 #include "zkcore/model/documentImpl.h"
 #include "zkcore/model/elementImpl.h"
-#include "zkcore/model/liveSet.h"
 #include "zkcore/model/nodeImpl.h"
+#include "zkcore/model/objectSlab.h"
 #include "zkcore/services/translate.h"
 #include "zkcore/values/formatter.h"
 
@@ -11,10 +11,10 @@
 
 namespace {
 
-LiveSet<PropertyImpl>& liveProperties()
+ObjectSlab& propertySlab()
 {
-    static LiveSet<PropertyImpl> set;
-    return set;
+    static ObjectSlab slab;
+    return slab;
 }
 
 unsigned long long nextPropertySerial = 0;
@@ -31,12 +31,12 @@ PropertyImpl::PropertyImpl(NodeImpl* owner, ClassId domain, const PropertyDefini
       m_readOnly(definition->flags & PropertyDefinition::ReadOnly),
       m_uiHidden(definition->flags & PropertyDefinition::UIHidden)
 {
-    liveProperties().insert(this);
+    propertySlab().setAlive(this, true);
 }
 
 PropertyImpl::~PropertyImpl()
 {
-    liveProperties().remove(this);
+    propertySlab().setAlive(this, false);
     // Links across nodes are detached before a node goes; what is left here are links among nodes that go together.
     if (m_proxy && valid(m_proxy) && m_proxy->m_dependants)
         m_proxy->m_dependants->remove(this);
@@ -48,7 +48,17 @@ PropertyImpl::~PropertyImpl()
 
 bool PropertyImpl::valid(const PropertyImpl* property)
 {
-    return liveProperties().contains(property);
+    return propertySlab().isAlive(property);
+}
+
+void* PropertyImpl::operator new(size_t size)
+{
+    return propertySlab().allocate(size);
+}
+
+void PropertyImpl::operator delete(void* memory)
+{
+    propertySlab().release(memory);
 }
 
 Value PropertyImpl::getValue() const

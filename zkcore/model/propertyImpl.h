@@ -26,6 +26,9 @@ public:
 
     /// Whether the pointer names a live property. Constant time.
     static bool valid(const PropertyImpl* property);
+    /// Property objects stand side by side in blocks, in the order in which they were made.
+    static void* operator new(size_t size);
+    static void operator delete(void* memory);
 
     /// The value now: of a proxy, its target's.
     Value getValue() const;

@@ -106,6 +106,8 @@ private:
     bool isGiven(ClassId domain, PropertyKey key, size_t firstEntry) const;
     void addEntry(const NodeSnapshot& node, ClassId domain, const PropertyDefinition& definition, Value&& value,
                   const PropertyAddress& proxy, const Position& position);
+    /// Lets equal texts (the ids of subparts, say) share one buffer: a document has thousands of each.
+    void shareText(Value& value);
     PropertyKey proxyKey(QStringView text);
     Value readTyped(QXmlStreamReader& xml, const PropertyDefinition& definition);
     bool readText(QXmlStreamReader& xml);
@@ -121,6 +123,7 @@ private:
     ClassInfo* m_lastClass = nullptr;
     QHash<QString, PropertyKey> m_proxyKeys;
     QSet<QString> m_textIds;
+    QSet<QString> m_sharedTexts;
     QSet<QString> m_warnedOf;
     std::vector<NodeSnapshot::ValueEntry> m_entries; // of the nodes being read, outermost first
     std::vector<ProxyRecord> m_proxies;

@@ -202,10 +202,23 @@ void NodeXml::Reader::addEntry(const NodeSnapshot& node, ClassId domain, const P
         m_textIds.insert(value.toQString());
         if (m_textIds.size() == before)
             warnAt(position, tr("the id \"%1\" is used twice; kept").arg(value.toQString()));
+    } else if (value.type() == Value::STRING) {
+        shareText(value);
     }
     if (proxy.isValid() && node.id != 0)
         m_proxies.push_back({{node.id, domain, definition.key}, proxy, definition.type, position});
     m_entries.push_back({domain, definition.key, std::move(value), proxy});
+}
+
+void NodeXml::Reader::shareText(Value& value)
+{
+    constexpr qsizetype maximumShared = 4096;
+    const QString text = value.toQString();
+    const auto it = m_sharedTexts.constFind(text);
+    if (it != m_sharedTexts.constEnd())
+        value = Value(*it);
+    else if (m_sharedTexts.size() < maximumShared)
+        m_sharedTexts.insert(text);
 }
 
 bool NodeXml::Reader::checkCircles()
