@@ -67,12 +67,44 @@ TEST_F(CommandLineTest, ScreenshotShowsWhatIsSelected)
     EXPECT_EQ(QImage(path("a.png")), QImage(path("b.png")));
 }
 
+TEST_F(CommandLineTest, ScreenshotOfFormsShowsThemWhole)
+{
+    const QString gallery = QStringLiteral(ZK_SOURCE_DIR "/samples/gallery.zkdoc");
+    const QStringList common{"--forms", "--select", "first", gallery};
+    EXPECT_EQ(start(QStringList{"--screenshot", "light.png"} + common).code, 0);
+    EXPECT_EQ(start(QStringList{"--screenshot", "dark.png", "--dark"} + common).code, 0);
+    EXPECT_EQ(start(QStringList{"-reverse", "--screenshot", "mirrored.png"} + common).code, 0);
+    const QImage light(path("light.png"), "png");
+    const QImage dark(path("dark.png"), "png");
+    const QImage mirrored(path("mirrored.png"), "png");
+    EXPECT_GT(light.height(), 1200); // more than a window holds
+    EXPECT_EQ(dark.size(), light.size());
+    EXPECT_EQ(mirrored.size(), light.size());
+    EXPECT_NE(mirrored, light);
+    const QPoint ground(light.width() / 2, light.height() - 2);
+    EXPECT_GT(qGray(light.pixel(ground)), 180);
+    EXPECT_LT(qGray(dark.pixel(ground)), 90);
+    // The name of the selected part stands where lines begin.
+    const auto hasInk = [](const QImage& image, int from) {
+        for (int x = from; x < from + image.width() / 2 - 1; ++x)
+            for (int y = 2; y < 20; ++y)
+                if (image.pixel(x, y) != image.pixel(image.width() / 2, 2))
+                    return true;
+        return false;
+    };
+    EXPECT_TRUE(hasInk(light, 0));
+    EXPECT_FALSE(hasInk(light, light.width() / 2));
+    EXPECT_FALSE(hasInk(mirrored, 0));
+    EXPECT_TRUE(hasInk(mirrored, light.width() / 2));
+}
+
 TEST_F(CommandLineTest, FaultsAreToldOnStandardError)
 {
     const std::pair<QStringList, QString> cases[] = {
         {{"--screenshot", "x.png", "--select", "nobody", path("sample.zkdoc")},
          "zkauthor: There is no part with the id \"nobody\".\n"},
         {{"--log", "paper"}, "zkauthor: --log takes stdout, stderr, file, console or none, not \"paper\".\n"},
+        {{"--dark", path("sample.zkdoc")}, "zkauthor: --dark only works together with --screenshot.\n"},
         {{"--screenshot", "x.png", "a", "b"}, "zkauthor: Only one document can be opened, but 2 were given.\n"},
     };
     for (const auto& [arguments, message] : cases) {
