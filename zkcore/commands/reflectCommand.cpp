@@ -15,21 +15,6 @@ QString reflectText(const char* source)
     return QCoreApplication::translate("ReflectCommand", source);
 }
 
-QString roleOf(ReflectionKind kind)
-{
-    switch (kind) {
-    case ReflectionKind::Controls:
-        return QStringLiteral("controls");
-    case ReflectionKind::Pads:
-        return QStringLiteral("pads");
-    case ReflectionKind::Body:
-        return QStringLiteral("body");
-    case ReflectionKind::None:
-        break;
-    }
-    return {};
-}
-
 /// Facts about the class, the same for every node of it.
 bool isClassProperty(const PropertyDefinition& definition)
 {
@@ -114,7 +99,7 @@ Value ReflectCommand::run(ModelMutator& mutator)
     if (present)
         return Value(Node(const_cast<ElementImpl*>(present)));
 
-    const RoleSet role(roleOf(m_kind));
+    const RoleSet role(roleOfReflection(m_kind));
     const bool hasBody = m_kind == ReflectionKind::Body && original->prototype().body.isValid();
     if (!original->canReflect() || (!hasBody && original->getChildrenWithRole(role).empty()))
         return fail(reflectText("The part has nothing of the kind to reflect."));
@@ -132,7 +117,7 @@ Value ReflectCommand::run(ModelMutator& mutator)
         place = {size.x / 2, size.y / 2};
     }
     setOwnValue(node, coreKeys::position(), Value(place));
-    const QString stem = original->valueOfProperty(coreKeys::id()).toQString() + QLatin1Char('-') + roleOf(m_kind);
+    const QString stem = original->valueOfProperty(coreKeys::id()).toQString() + QLatin1Char('-') + roleOfReflection(m_kind);
     QString id = stem;
     for (int number = 2; mutator.document().nodeWithId(id); ++number)
         id = stem + QString::number(number);

@@ -15,6 +15,21 @@ const ElementImpl* parentElement(const NodeImpl* node)
 
 } // namespace
 
+QString roleOfReflection(ReflectionKind kind)
+{
+    switch (kind) {
+    case ReflectionKind::Controls:
+        return QStringLiteral("controls");
+    case ReflectionKind::Pads:
+        return QStringLiteral("pads");
+    case ReflectionKind::Body:
+        return QStringLiteral("body");
+    case ReflectionKind::None:
+        break;
+    }
+    return {};
+}
+
 ElementImpl::ElementImpl(DocumentImpl* document, const NodePrototype* prototype, InstanceId id)
     : NodeImpl(document, prototype, id)
 {

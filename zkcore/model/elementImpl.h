@@ -13,6 +13,9 @@ class PopupImpl;
 
 /// What a reflection shows of its original.
 enum class ReflectionKind { None = 0, Controls = 1, Pads = 2, Body = 3 };
+/// The role of the subparts that a reflection shows ("controls", "pads", "body"), as commands and documents name it;
+/// empty for None.
+ZKCORE_EXPORT QString roleOfReflection(ReflectionKind kind);
 
 /// An element placed in a space: a part or a subpart. Always a class of kind Part or Subpart.
 class ZKCORE_EXPORT ElementImpl : public NodeImpl

@@ -9,19 +9,6 @@
 
 namespace {
 
-bool isTextType(Value::Type type)
-{
-    switch (type) {
-    case Value::STRINGVECTOR:
-    case Value::RESOURCEVECTOR:
-    case Value::VALUEVECTOR:
-    case Value::VALUEMAP:
-        return false;
-    default:
-        return true;
-    }
-}
-
 bool isNumberType(Value::Type type)
 {
     return type == Value::INT || type == Value::DOUBLE;
@@ -105,7 +92,7 @@ bool NodeXml::Reader::readText(QXmlStreamReader& xml)
 
 Value NodeXml::Reader::readTyped(QXmlStreamReader& xml, const PropertyDefinition& definition)
 {
-    if (!isTextType(definition.type)) {
+    if (ValueXml::isWrittenAsItems(definition.type)) {
         const Value value = ValueXml::readContent(xml, definition.type);
         if (!value.isValid() && !xml.hasError())
             xml.raiseError(tr("this is no %1").arg(Value::typeAsString(definition.type)));

@@ -29,20 +29,6 @@ QString locksText(unsigned int locks)
     return words.join(u' ');
 }
 
-QString reflectionText(ReflectionKind kind)
-{
-    switch (kind) {
-    case ReflectionKind::Controls:
-        return QStringLiteral("controls");
-    case ReflectionKind::Pads:
-        return QStringLiteral("pads");
-    case ReflectionKind::Body:
-    case ReflectionKind::None:
-        break;
-    }
-    return QStringLiteral("body");
-}
-
 } // namespace
 
 NodeXml::Writer::Writer(QXmlStreamWriter& xml) : m_xml(xml) {}
@@ -81,7 +67,7 @@ void NodeXml::Writer::writeElementAttributes(unsigned int locks, bool adhoc, Ins
         m_xml.writeAttribute(QStringLiteral("locks"), locksText(locks));
     if (reflection != ReflectionKind::None) {
         m_xml.writeAttribute(QStringLiteral("reflects"), QString::number(reflects));
-        m_xml.writeAttribute(QStringLiteral("reflection"), reflectionText(reflection));
+        m_xml.writeAttribute(QStringLiteral("reflection"), roleOfReflection(reflection));
     }
 }
 

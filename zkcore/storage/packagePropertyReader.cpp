@@ -25,27 +25,7 @@ bool takesUnit(Value::Type type)
 /// Types whose values are a single line of text.
 bool isPlainTextType(Value::Type type)
 {
-    switch (type) {
-    case Value::INT:
-    case Value::DOUBLE:
-    case Value::POINT:
-    case Value::BOOL:
-    case Value::STRING:
-    case Value::COLOR:
-    case Value::INTVECTOR:
-    case Value::DOUBLEVECTOR:
-    case Value::POINTVECTOR:
-    case Value::NODE:
-    case Value::RESOURCE:
-        return true;
-    case Value::INVALID:
-    case Value::RESOURCEVECTOR:
-    case Value::STRINGVECTOR:
-    case Value::VALUEVECTOR:
-    case Value::VALUEMAP:
-        break;
-    }
-    return false;
+    return type != Value::INVALID && !ValueXml::isWrittenAsItems(type);
 }
 
 /// The default of a property that gives none.

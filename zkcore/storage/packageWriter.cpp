@@ -70,12 +70,6 @@ QString writableText(QString text)
     return text;
 }
 
-bool isNestedType(Value::Type type)
-{
-    return type == Value::RESOURCEVECTOR || type == Value::STRINGVECTOR || type == Value::VALUEVECTOR ||
-           type == Value::VALUEMAP;
-}
-
 } // namespace
 
 bool PackageWriter::write(QIODevice& device, const QString& name, int version, const QString& label,
@@ -173,7 +167,7 @@ void PackageWriter::writeProperty(const PropertyDefinition& definition)
     m_writer.writeStartElement(QStringLiteral("property"));
     writeAttribute("key", definition.key.toString());
     writeAttribute("type", Value::typeAsString(definition.type));
-    if (!isNestedType(definition.type))
+    if (!ValueXml::isWrittenAsItems(definition.type))
         writeAttribute("default", valueToText(definition.defaultValue));
     if (!definition.label.isEmpty())
         writeAttribute("label", definition.label);
@@ -190,7 +184,7 @@ void PackageWriter::writeProperty(const PropertyDefinition& definition)
     writeValidator(definition);
     if (definition.format && !sameFormat(*definition.format, NumericalFormat()))
         writeFormat(*definition.format);
-    if (isNestedType(definition.type)) {
+    if (ValueXml::isWrittenAsItems(definition.type)) {
         m_writer.writeStartElement(QStringLiteral("default"));
         writeContent(definition.defaultValue);
         m_writer.writeEndElement();
@@ -343,7 +337,7 @@ void PackageWriter::writeRules(const NodePrototype& prototype, const NodePrototy
 
 void PackageWriter::writeContent(const Value& value)
 {
-    if (isNestedType(value.type()))
+    if (ValueXml::isWrittenAsItems(value.type()))
         ValueXml::writeContent(m_writer, value);
     else
         m_writer.writeCharacters(valueToText(value));

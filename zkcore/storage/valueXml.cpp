@@ -28,12 +28,6 @@ Value::Type itemType(Value::Type list)
     return list == Value::RESOURCEVECTOR ? Value::RESOURCE : Value::INVALID;
 }
 
-bool isWrittenAsItems(Value::Type type)
-{
-    return type == Value::STRINGVECTOR || type == Value::RESOURCEVECTOR || type == Value::VALUEVECTOR ||
-           type == Value::VALUEMAP;
-}
-
 void writeTypeOf(QXmlStreamWriter& writer, const Value& value)
 {
     writer.writeAttribute(QStringLiteral("type"), Value::typeAsString(value.type()));
@@ -46,7 +40,7 @@ public:
 
     Value content(Value::Type type, int depth)
     {
-        if (!isWrittenAsItems(type))
+        if (!ValueXml::isWrittenAsItems(type))
             return scalar(type);
         if (depth > deepestValue)
             return fail(translatedValueFault(QT_TRANSLATE_NOOP("ValueXml", "The value is nested too deeply.")));
@@ -159,10 +153,16 @@ private:
 
 } // namespace
 
+bool ValueXml::isWrittenAsItems(Value::Type type)
+{
+    return type == Value::STRINGVECTOR || type == Value::RESOURCEVECTOR || type == Value::VALUEVECTOR ||
+           type == Value::VALUEMAP;
+}
+
 void ValueXml::writeContent(QXmlStreamWriter& writer, const Value& value)
 {
     const Value::Type type = value.type();
-    if (!isWrittenAsItems(type)) {
+    if (!ValueXml::isWrittenAsItems(type)) {
         writer.writeCharacters(valueToText(value));
         return;
     }

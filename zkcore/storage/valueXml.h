@@ -10,6 +10,8 @@ class QXmlStreamWriter;
 class ZKCORE_EXPORT ValueXml
 {
 public:
+    /// Whether values of the type are written as nested elements rather than as one text.
+    static bool isWrittenAsItems(Value::Type type);
     /// Writes the content of the element that the writer has open.
     static void writeContent(QXmlStreamWriter& writer, const Value& value);
     /// Reads the content of the element on whose start the reader stands, up to its end. Invalid value, with an error

@@ -33,6 +33,18 @@ template <typename Validator, typename Same> bool isSameKind(const interface::Va
     return validator && same(*validator);
 }
 
+/// Puts the ends in order and takes them over; whether that changed the range.
+template <typename Number> bool takeRange(Number minimum, Number maximum, Number& ownMinimum, Number& ownMaximum)
+{
+    if (minimum > maximum)
+        std::swap(minimum, maximum);
+    if (minimum == ownMinimum && maximum == ownMaximum)
+        return false;
+    ownMinimum = minimum;
+    ownMaximum = maximum;
+    return true;
+}
+
 } // namespace
 
 namespace interface {
@@ -104,13 +116,8 @@ void DoubleValidator::setRange(double minimum, double maximum)
     constexpr double widest = std::numeric_limits<double>::max();
     minimum = std::isnan(minimum) ? -widest : std::clamp(minimum, -widest, widest);
     maximum = std::isnan(maximum) ? widest : std::clamp(maximum, -widest, widest);
-    if (minimum > maximum)
-        std::swap(minimum, maximum);
-    if (minimum == m_minimum && maximum == m_maximum)
-        return;
-    m_minimum = minimum;
-    m_maximum = maximum;
-    notifyChanged();
+    if (takeRange(minimum, maximum, m_minimum, m_maximum))
+        notifyChanged();
 }
 
 bool DoubleValidator::isValid(const Value& value) const
@@ -180,13 +187,8 @@ IntValidator::IntValidator(int minimum, int maximum)
 
 void IntValidator::setRange(int minimum, int maximum)
 {
-    if (minimum > maximum)
-        std::swap(minimum, maximum);
-    if (minimum == m_minimum && maximum == m_maximum)
-        return;
-    m_minimum = minimum;
-    m_maximum = maximum;
-    notifyChanged();
+    if (takeRange(minimum, maximum, m_minimum, m_maximum))
+        notifyChanged();
 }
 
 bool IntValidator::isValid(const Value& value) const
