@@ -8,6 +8,7 @@
 #include <QLayout>
 #include <QScopedValueRollback>
 #include <QVBoxLayout>
+#include <utility>
 
 namespace {
 
@@ -113,6 +114,13 @@ void EditPalette::adjustToContent()
         setFixedSize(size);
 }
 
+void EditPalette::followContent()
+{
+    // The least width set by hand counts alone; wider content must not be cut off.
+    if (m_resizeNow && layout())
+        setMinimumWidth(qMax(static_cast<int>(s_minWidth), layout()->totalMinimumSize().width()));
+}
+
 void EditPalette::onChildLayoutChanged()
 {
     if (!isWindow())
@@ -134,6 +142,8 @@ void EditPalette::handlePlaceChanged(Place place)
 
 void EditPalette::undock()
 {
+    if (m_inBox)
+        return;
     applyResizeEnabled(m_resizeEnabled);
     setPlace(OutsideDock);
     adjustToContent();
@@ -157,7 +167,7 @@ void EditPalette::reparent(QWidget* parent, Qt::WindowFlags windowFlags, const Q
 void EditPalette::followParent()
 {
     const bool inBox = isInPaletteBox(this);
-    if (inBox == (titleBarWidget() != nullptr))
+    if (inBox == std::exchange(m_inBox, inBox))
         return;
     if (inBox) {
         setTitleBarWidget(new QWidget(this));
@@ -175,6 +185,8 @@ bool EditPalette::event(QEvent* event)
     const bool handled = QDockWidget::event(event);
     if (event->type() == QEvent::ParentChange)
         followParent();
+    else if (event->type() == QEvent::LayoutRequest)
+        followContent();
     return handled;
 }
 

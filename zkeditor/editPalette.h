@@ -37,7 +37,7 @@ public:
     virtual void setResizeEnabled(bool enabled);
     /// Whether the user may change the size now, in the place where the palette is.
     bool isResizeEnabled() const { return m_resizeNow; }
-    /// Makes it a floating window as large as its content.
+    /// Makes it a floating window as large as its content; inside a PaletteBox it stays where it is.
     virtual void undock();
 
     Place place() const { return isFloating() ? OutsideDock : InDock; }
@@ -73,10 +73,12 @@ private:
     void init(const char* name);
     void applyResizeEnabled(bool enabled);
     void adjustToContent();
+    void followContent();
     void followParent();
 
     QWidget* m_body = nullptr; // made by dockLayout()
     bool m_resizeEnabled = true;
     bool m_resizeNow = true;
     bool m_reparenting = false;
+    bool m_inBox = false; // inside a PaletteBox
 };

@@ -5,6 +5,7 @@
 #include "zkeditor/widgets/paletteButtonBar.h"
 #include "zkeditor/widgets/updatesSuspended.h"
 
+#include <QApplication>
 #include <QKeyEvent>
 #include <QVBoxLayout>
 #include <algorithm>
@@ -49,7 +50,8 @@ public:
         m_button->setChecked(open);
         // A closed item is as high as its header, whatever room there is.
         setSizePolicy(QSizePolicy::Preferred, open ? QSizePolicy::Preferred : QSizePolicy::Fixed);
-        if (m_content && !open && m_content->isAncestorOf(focusWidget()) && m_content->isVisible())
+        const QWidget* focus = QApplication::focusWidget();
+        if (m_content && !open && focus && (focus == m_content || m_content->isAncestorOf(focus)))
             m_button->setFocus();
         if (alive && m_content)
             m_content->setVisible(open);
@@ -335,6 +337,13 @@ void PaletteBox::buttonClicked()
                                  [header](const PaletteItem* each) { return each->button() == header; });
     if (at != m_items.end())
         showPaletteItem(*at, (*at)->isOpen());
+}
+
+bool PaletteBox::focusNextPrevChild(bool next)
+{
+    // Contents come and go inside the items; what is new stands at the end of the window's order.
+    orderTabs(0);
+    return QWidget::focusNextPrevChild(next);
 }
 
 void PaletteBox::keyPressEvent(QKeyEvent* event)

@@ -81,6 +81,7 @@ protected Q_SLOTS:
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;
+    bool focusNextPrevChild(bool next) override;
 
 private:
     class PaletteItem;

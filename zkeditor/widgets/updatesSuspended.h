@@ -3,11 +3,12 @@
 #include <QPointer>
 #include <QWidget>
 
-/// Keeps a widget from painting for the time of a scope. Scopes may be nested, and the widget may end in one.
+/// Keeps a visible widget from painting for the time of a scope. Scopes may be nested, and the widget may end in one.
 class UpdatesSuspended
 {
 public:
-    explicit UpdatesSuspended(QWidget* widget) : m_widget(widget->updatesEnabled() ? widget : nullptr)
+    explicit UpdatesSuspended(QWidget* widget)
+        : m_widget(widget->isVisible() && widget->updatesEnabled() ? widget : nullptr)
     {
         if (m_widget)
             m_widget->setUpdatesEnabled(false);
