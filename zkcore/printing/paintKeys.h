@@ -6,21 +6,25 @@
 /// The properties and classes that decide how elements look; looked up once.
 struct PaintKeys
 {
+    PropertyKey active = PropertyKey::fromString("active");
     PropertyKey align = PropertyKey::fromString("alignment");
     PropertyKey arrow = PropertyKey::fromString("arrow");
     PropertyKey background = PropertyKey::fromString("background");
     PropertyKey bends = PropertyKey::fromString("bends");
     PropertyKey bold = PropertyKey::fromString("bold");
+    PropertyKey brightness = PropertyKey::fromString("brightness");
     PropertyKey color = PropertyKey::fromString("color");
     PropertyKey dashed = PropertyKey::fromString("dashed");
     PropertyKey fontSize = PropertyKey::fromString("font-size");
     PropertyKey framed = PropertyKey::fromString("framed");
+    PropertyKey highlight = PropertyKey::fromString("highlight");
     PropertyKey italic = PropertyKey::fromString("italic");
     PropertyKey keepProportions = PropertyKey::fromString("keep-proportions");
     PropertyKey mirrored = PropertyKey::fromString("mirrored");
     PropertyKey picture = PropertyKey::fromString("picture");
     PropertyKey reference = PropertyKey::fromString("reference");
     PropertyKey route = PropertyKey::fromString("route");
+    PropertyKey runningLevel = PropertyKey::fromString("running-level");
     PropertyKey showGrid = PropertyKey::fromString("show-grid");
     PropertyKey showReference = PropertyKey::fromString("show-reference");
     PropertyKey text = PropertyKey::fromString("text");

@@ -6,6 +6,7 @@
 #include "zkcore/model/modelImpl.h"
 #include "zkcore/model/spaceImpl.h"
 #include "zkcore/model/view.h"
+#include "zkcore/printing/paintText.h"
 #include "zkcore/printing/scenePainter.h"
 #include "zkcore/services/productPackage.h"
 
@@ -22,6 +23,8 @@
 namespace {
 
 constexpr double metrePerMillimetre = 0.001;
+constexpr double footLineHeight = 3.2; // in millimetres
+constexpr QColor footLineColor(0x80, 0x80, 0x80);
 constexpr int pdfResolution = 600;
 
 /// Pages in one direction. A hair's breadth over the edge is rounding, not a reason for one more page.
@@ -113,6 +116,25 @@ void PrintCommand::paintPage(QPainter& painter, int page, const QRectF& paper) c
     painter.translate(-origin);
     ScenePainter(painter).paintSpace(*space, area);
     painter.restore();
+    paintFootLine(painter, paper);
+}
+
+/// In small grey letters at the foot of the paper, just over the strip on which devices cannot print.
+void PrintCommand::paintFootLine(QPainter& painter, const QRectF& paper) const
+{
+    if (m_printer.footLine().isEmpty())
+        return;
+    const QSizeF paperSize = m_printer.getStandardPaperSizeMM();
+    const double left = m_printer.leftHardMargin();
+    const QRectF strip(left, paperSize.height() - m_printer.bottomHardMargin() - footLineHeight,
+                       paperSize.width() - left - m_printer.rightHardMargin(), footLineHeight);
+    painter.save();
+    painter.translate(paper.topLeft());
+    painter.scale(paper.width() / paperSize.width(), paper.height() / paperSize.height());
+    painter.setPen(footLineColor);
+    drawingText::draw(painter, strip, Qt::AlignCenter | Qt::TextSingleLine, m_printer.footLine(),
+                      drawingText::fontOfHeight(footLineHeight * drawingText::unitsPerMillimetre));
+    painter.restore();
 }
 
 bool PrintCommand::exportPdf(const QString& fileName, QString* error) const
@@ -152,10 +174,10 @@ bool PrintCommand::exportPdf(const QString& fileName, QString* error) const
 }
 
 std::vector<QPixmap> PrintCommand::generatePreview(const Printer& printer, const DocumentImpl* document,
-                                                   const View* view, int width, int height)
+                                                   const View* view, int width, int height, int limit)
 {
     const PrintCommand command(printer, document, view);
-    const int count = std::clamp(command.pageCount(), 1, previewPageLimit);
+    const int count = std::clamp(command.pageCount(), 1, std::clamp(limit, 1, previewPageLimit));
     std::vector<QPixmap> pages;
     for (int page = 0; page < count; ++page) {
         QPixmap pixmap(std::max(width, 0), std::max(height, 0));

@@ -30,17 +30,18 @@ public:
     /// 0 without a document and when the margins leave no room on the paper.
     int pageCount() const;
     /// Paints a page, counted from 0, so that the whole paper, margins included, fills the rectangle `paper` of the
-    /// painter's coordinates. The margins stay untouched. Nothing is painted for a page that is not there.
+    /// painter's coordinates. In the margins there is nothing but the printer's line at the foot.
+    /// Nothing is painted for a page that is not there.
     void paintPage(QPainter& painter, int page, const QRectF& paper) const;
     /// Writes all pages as a PDF file in the paper's size. False with a translated message in `error` when there is
     /// nothing to print, there are too many pages, or the file cannot be written; a file that was there before is then
     /// left as it was.
     bool exportPdf(const QString& fileName, QString* error = nullptr) const;
 
-    /// The pages as pictures on white paper, each exactly `width` by `height` pixels. A document without pages gives
-    /// one blank page.
+    /// The first `limit` pages as pictures on white paper, each exactly `width` by `height` pixels. A document without
+    /// pages gives one blank page.
     static std::vector<QPixmap> generatePreview(const Printer& printer, const DocumentImpl* document, const View* view,
-                                                int width, int height);
+                                                int width, int height, int limit = previewPageLimit);
 
 private:
     struct Sheet
@@ -55,6 +56,7 @@ private:
 
     void addSheet(SpaceImpl* space);
     const Sheet* sheetOf(int page) const;
+    void paintFootLine(QPainter& painter, const QRectF& paper) const;
 
     Printer m_printer;
     std::vector<Sheet> m_sheets;

@@ -6,6 +6,7 @@
 #include <QPageSize>
 #include <QRectF>
 #include <QSizeF>
+#include <QString>
 
 /// How a document is to be printed: paper, margins and scale. Copied by value; knows nothing of devices.
 class ZKCORE_EXPORT Printer
@@ -46,6 +47,10 @@ public:
     bool scaleToWidth() const { return m_scaleToWidth; }
     void setScaleToWidth(bool scaleToWidth) { m_scaleToWidth = scaleToWidth; }
 
+    /// A short line of small text at the foot of every page; none when empty, as it is at first.
+    QString footLine() const { return m_footLine; }
+    void setFootLine(const QString& text) { m_footLine = text; }
+
     /// Width and height of the paper in millimetres, exchanged for landscape.
     QSizeF getStandardPaperSizeMM() const;
     /// The paper between the margins, in millimetres from its top left corner; empty when the margins leave nothing.
@@ -64,4 +69,5 @@ private:
     QPageLayout::Orientation m_orientation = QPageLayout::Portrait;
     double m_scaleFactor = 1.0;
     bool m_scaleToWidth = false;
+    QString m_footLine;
 };

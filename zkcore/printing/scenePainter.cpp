@@ -24,12 +24,17 @@ namespace {
 
 constexpr double millimetresPerMetre = 1000.0;
 constexpr double gridStep = 5.0;
+constexpr double activeFrame = 0.8;
+// How much of a lamp is its lens.
+constexpr double lensPart = 0.62;
+constexpr int unlitDarkness = 150;
 
 const QColor outlineColor(0x4a, 0x5a, 0x70);
 const QColor labelColor(0x1d, 0x27, 0x33);
 const QColor copperColor(0xc9, 0x8a, 0x3b);
 const QColor controlColor(0xd7, 0xde, 0xe8);
 const QColor gridColor(0, 0, 0, 24);
+const QColor runningColor(0x2f, 0xb3, 0x55);
 
 const Role& pinRole()
 {
@@ -46,6 +51,12 @@ const Role& controlRole()
 const Role& padRole()
 {
     static const Role role(QStringLiteral("pads"));
+    return role;
+}
+
+const Role& lightRole()
+{
+    static const Role role(QStringLiteral("light"));
     return role;
 }
 
@@ -308,6 +319,52 @@ void ScenePainter::paintBody(const ElementImpl& element)
         drawingText::draw(m_painter, inner, Qt::AlignCenter | Qt::TextWordWrap, elementLabel(element),
                           paintedLabelFont());
     }
+    paintRunningState(element, rect);
+}
+
+/// What a running flowchart does with the element: blocks that it is at are framed, lamps shine or are dark, other
+/// components that are on have a ring.
+void ScenePainter::paintRunningState(const ElementImpl& element, const QRectF& rect)
+{
+    if (element.valueOfProperty(paintKeys().active).toBool() &&
+        element.valueOfProperty(paintKeys().highlight).toBool()) {
+        m_painter.setPen(QPen(runningColor, activeFrame));
+        m_painter.setBrush(Qt::NoBrush);
+        const double inset = activeFrame / 2.0;
+        m_painter.drawRoundedRect(rect.adjusted(inset, inset, -inset, -inset), 1.0, 1.0);
+    }
+    const Value level = element.valueOfProperty(paintKeys().runningLevel);
+    if (!level.isValid() || level.toInt() < 0)
+        return;
+    const double strength = level.toInt() / 100.0;
+    const double radius = std::min(rect.width(), rect.height()) / 2.0;
+    if (!element.getRoles().contains(lightRole())) {
+        if (strength > 0.0) {
+            m_painter.setPen(QPen(runningColor, activeFrame));
+            m_painter.setBrush(Qt::NoBrush);
+            m_painter.drawEllipse(rect.center(), radius - activeFrame, radius - activeFrame);
+        }
+        return;
+    }
+    m_painter.setPen(Qt::NoPen);
+    m_painter.setBrush(QColor(0, 0, 0, static_cast<int>(unlitDarkness * (1.0 - strength))));
+    m_painter.drawEllipse(rect.center(), radius * lensPart, radius * lensPart);
+    if (strength <= 0.0)
+        return;
+    QColor color = element.valueOfProperty(paintKeys().color).toQColor();
+    const Value brightness = element.valueOfProperty(paintKeys().brightness);
+    const double glow = strength * (brightness.isValid() ? brightness.toInt() / 100.0 : 1.0);
+    QRadialGradient light(rect.center(), radius);
+    light.setColorAt(0.0, QColor(255, 255, 255, static_cast<int>(235 * glow)));
+    color = color.isValid() ? color.lighter(125) : QColor(Qt::white);
+    color.setAlpha(static_cast<int>(200 * glow));
+    light.setColorAt(0.4, color);
+    color.setAlpha(static_cast<int>(150 * glow));
+    light.setColorAt(0.7, color);
+    color.setAlpha(0);
+    light.setColorAt(1.0, color);
+    m_painter.setBrush(light);
+    m_painter.drawEllipse(rect.center(), radius, radius);
 }
 
 void ScenePainter::paintPicture(const ElementImpl& element, const Resource& picture, QRectF rect)

@@ -39,6 +39,7 @@ private:
     void paintPart(const ElementImpl& part);
     void paintSubpart(const ElementImpl& subpart, bool reflected);
     void paintBody(const ElementImpl& element);
+    void paintRunningState(const ElementImpl& element, const QRectF& rect);
     void paintPicture(const ElementImpl& element, const Resource& picture, QRectF rect);
     void paintText(const ElementImpl& element, const QRectF& rect);
     void paintLabel(const ElementImpl& element);

@@ -1,0 +1,57 @@
+// A pair of buttons for lists.
+#include "zkeditor/widgets/plusMinusButton.h"
+
+#include "zkcore/media/imageCache.h"
+#include "zkcore/media/resource.h"
+
+#include <QHBoxLayout>
+#include <QStyle>
+#include <QToolButton>
+
+PlusMinusButton::PlusMinusButton(QWidget* parent, QString plusTooltip, QString minusTooltip) : QWidget(parent)
+{
+    auto* layout = new QHBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
+    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+    m_plus = addButton("editor/plus_small");
+    m_minus = addButton("editor/minus_small");
+    connect(m_plus, &QToolButton::clicked, this, &PlusMinusButton::plusClicked);
+    connect(m_minus, &QToolButton::clicked, this, &PlusMinusButton::minusClicked);
+    setPlusTooltip(plusTooltip);
+    setMinusTooltip(minusTooltip);
+}
+
+QToolButton* PlusMinusButton::addButton(const char* picture)
+{
+    auto* button = new QToolButton(this);
+    const int side = style()->pixelMetric(QStyle::PM_SmallIconSize, nullptr, button);
+    button->setIconSize(QSize(side, side));
+    button->setIcon(QIcon(ImageCache::getPixmap(Resource(picture), QSize(side, side), devicePixelRatioF())));
+    // Reached with Tab as well; a click does not take the focus from the list.
+    button->setFocusPolicy(Qt::TabFocus);
+    layout()->addWidget(button);
+    return button;
+}
+
+void PlusMinusButton::setPlusEnabled(bool enabled)
+{
+    m_plus->setEnabled(enabled);
+}
+
+void PlusMinusButton::setMinusEnabled(bool enabled)
+{
+    m_minus->setEnabled(enabled);
+}
+
+void PlusMinusButton::setPlusTooltip(const QString& tooltip)
+{
+    m_plus->setToolTip(tooltip);
+    m_plus->setAccessibleName(tooltip.isEmpty() ? tr("Add") : tooltip);
+}
+
+void PlusMinusButton::setMinusTooltip(const QString& tooltip)
+{
+    m_minus->setToolTip(tooltip);
+    m_minus->setAccessibleName(tooltip.isEmpty() ? tr("Remove") : tooltip);
+}
