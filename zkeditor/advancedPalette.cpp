@@ -6,16 +6,15 @@
 #include "zkcore/widgetSupport/fonts.h"
 #include "zkeditor/duplication.h"
 #include "zkeditor/widgets/doubleSpinbox.h"
+#include "zkeditor/widgets/leadingLabel.h"
 #include "zkeditor/widgets/msgPane.h"
 #include "zkeditor/widgets/observerLineEdit.h"
 #include "zkeditor/widgets/paletteBox.h"
 #include "zkeditor/widgets/paneScrollArea.h"
-#include "zkeditor/widgets/propertyLabel.h"
 #include "zkeditor/widgets/spacePropertyPane.h"
 #include "zkeditor/widgets/valueChooser.h"
 
 #include <QGridLayout>
-#include <QLabel>
 #include <QPushButton>
 #include <QVBoxLayout>
 
@@ -35,22 +34,19 @@ QGridLayout* newSectionLayout(QWidget* section)
     return layout;
 }
 
-PropertyLabel* newPropertyLabel(const QString& key, QWidget* buddy, QWidget* parent)
+QLabel* newFieldLabel(const QString& text, QWidget* field, QWidget* parent)
 {
-    auto* label = new PropertyLabel(parent);
-    label->setModelProperty(key);
-    label->setBuddy(buddy);
+    auto* label = new LeadingLabel(text, parent);
+    label->setBuddy(field);
+    QString name = text;
+    field->setAccessibleName(name.remove(QLatin1Char('&')));
     return label;
 }
 
 DoubleSpinBox* addNumber(QGridLayout* layout, int row, const QString& text, DoubleSpinBox* box, double value)
 {
-    auto* label = new QLabel(text, layout->parentWidget());
-    label->setBuddy(box);
-    QString name = text;
-    box->setAccessibleName(name.remove(QLatin1Char('&')));
     box->setValue(value);
-    layout->addWidget(label, row, 0);
+    layout->addWidget(newFieldLabel(text, box, layout->parentWidget()), row, 0);
     layout->addWidget(box, row, 1);
     return box;
 }
@@ -111,9 +107,9 @@ QWidget* AdvancedPalette::makeClickSection()
     m_link->setModelProperty(QStringLiteral("click-link"));
     m_link->setLinkStyle(true);
     m_scene = new ValueChooser(QStringLiteral("click-scene"), section);
-    m_linkLabel = newPropertyLabel(QStringLiteral("click-link"), m_link, section);
-    m_sceneLabel = newPropertyLabel(QStringLiteral("click-scene"), m_scene, section);
-    layout->addWidget(newPropertyLabel(QStringLiteral("click-action"), m_action, section), 0, 0);
+    m_linkLabel = newFieldLabel(tr("&Link"), m_link, section);
+    m_sceneLabel = newFieldLabel(tr("&Scene"), m_scene, section);
+    layout->addWidget(newFieldLabel(tr("Cl&ick"), m_action, section), 0, 0);
     layout->addWidget(m_action, 0, 1);
     layout->addWidget(m_linkLabel, 1, 0);
     layout->addWidget(m_link, 1, 1);
@@ -254,7 +250,7 @@ QWidget* AdvancedPalette::makePopupSection(const std::set<SpaceImpl*>& popups)
     layout->addWidget(pane);
     connect(pane, &SpacePropertyPane::layoutChanged, this, &AdvancedPalette::onChildLayoutChanged);
     if (popups.size() == 1) {
-        auto* button = new QPushButton(tr("&Show Pop-up"), section);
+        auto* button = new QPushButton(tr("Show &Pop-up"), section);
         button->setAutoDefault(false);
         layout->addWidget(button, 0, Qt::AlignHCenter);
         connect(button, &QAbstractButton::clicked, this, &AdvancedPalette::openPopup);

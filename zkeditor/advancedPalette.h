@@ -11,7 +11,7 @@ class DoubleSpinBox;
 class NodeImpl;
 class ObserverLineEdit;
 class PaletteBox;
-class PropertyLabel;
+class QLabel;
 class SpaceImpl;
 class ValueChooser;
 
@@ -58,9 +58,9 @@ private:
     PaletteBox* m_box = nullptr;
     QWidget* m_clickSection = nullptr;
     ValueChooser* m_action = nullptr;
-    PropertyLabel* m_linkLabel = nullptr;
+    QLabel* m_linkLabel = nullptr;
     ObserverLineEdit* m_link = nullptr;
-    PropertyLabel* m_sceneLabel = nullptr;
+    QLabel* m_sceneLabel = nullptr;
     ValueChooser* m_scene = nullptr;
     QWidget* m_duplicationSection = nullptr;
     DoubleSpinBox* m_count = nullptr;

@@ -9,10 +9,10 @@
 #include "zkcore/widgetSupport/fonts.h"
 #include "zkeditor/associations.h"
 #include "zkeditor/widgets/associationList.h"
+#include "zkeditor/widgets/leadingLabel.h"
 #include "zkeditor/widgets/paletteBox.h"
 #include "zkeditor/widgets/paneScrollArea.h"
 
-#include <QLabel>
 #include <QUndoStack>
 #include <QVBoxLayout>
 
@@ -51,7 +51,10 @@ void AssocPalette::init()
 {
     m_refresh.setSingleShot(true);
     m_refresh.setInterval(0);
-    connect(&m_refresh, &QTimer::timeout, this, &AssocPalette::refresh);
+    connect(&m_refresh, &QTimer::timeout, this, [this] {
+        if (isVisible())
+            refresh();
+    });
     resetCaption();
     setupTopLevelWidgets();
     refresh();
@@ -70,8 +73,7 @@ void AssocPalette::setupTopLevelWidgets()
     auto* layout = new QVBoxLayout(body);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(0);
-    m_heading = new QLabel(body);
-    m_heading->setTextFormat(Qt::PlainText);
+    m_heading = new LeadingLabel({}, body);
     m_heading->setMargin(8);
     m_heading->setWordWrap(true);
     layout->addWidget(m_heading);

@@ -91,8 +91,8 @@ Associations::Associations(const ElementImpl& element)
     addLinks(element, element);
     for (const ElementImpl* subpart : element.allSubparts()) {
         addLinks(*subpart, element);
-        const std::vector<Role>& roles = subpart->getRoles().roles();
-        subparts.add(nodeEntry(roles.empty() ? associationText("Others") : roles.front().name(), *subpart));
+        const RoleSet roles = subpart->getRoles();
+        subparts.add(nodeEntry(roles.empty() ? associationText("Others") : roles.toString(), *subpart));
     }
     std::stable_sort(subparts.entries.begin(), subparts.entries.end(),
                      [](const Association& a, const Association& b) { return a.group < b.group; });

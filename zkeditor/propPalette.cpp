@@ -34,9 +34,11 @@ QWidget* newPaneHolder(QWidget* parent)
 QWidget* scrollingPart(QWidget* holder)
 {
     auto* area = new PaneScrollArea(holder);
-    area->setWidget(newPaneHolder(area));
+    QWidget* pane = newPaneHolder(area);
+    pane->layout()->setAlignment(Qt::AlignTop);
+    area->setWidget(pane);
     holder->layout()->addWidget(area);
-    return area->widget();
+    return pane;
 }
 
 } // namespace

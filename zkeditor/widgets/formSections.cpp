@@ -31,6 +31,7 @@ QWidget* FormSections::lift(ClassId cid, QWidget* parent)
 {
     if (m_sections.size() == 1) {
         QWidget* content = m_sections.begin()->second->getSectionWidget(parent);
+        content->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Maximum); // as in a box: at the top, not stretched
         content->show();
         return content;
     }

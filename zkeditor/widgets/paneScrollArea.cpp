@@ -1,5 +1,7 @@
 #include "zkeditor/widgets/paneScrollArea.h"
 
+#include "zkeditor/widgets/paneScrollFilter.h"
+
 #include <QEvent>
 #include <QScrollBar>
 #include <algorithm>
@@ -11,6 +13,7 @@ PaneScrollArea::PaneScrollArea(QWidget* parent) : QScrollArea(parent)
     setFocusPolicy(Qt::NoFocus);
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Expanding);
     viewport()->setAutoFillBackground(false);
+    new PaneScrollFilter(this);
 }
 
 QSize PaneScrollArea::sizeHint() const

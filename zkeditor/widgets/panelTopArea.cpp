@@ -6,6 +6,7 @@
 #include "zkcore/model/documentImpl.h"
 #include "zkcore/model/idProvider.h"
 #include "zkcore/model/propertyImpl.h"
+#include "zkeditor/widgets/leadingLabel.h"
 #include "zkeditor/widgets/lineEdit.h"
 
 #include <QEvent>
@@ -45,7 +46,7 @@ bool mayBeReflected(const NodeImpl* node)
 } // namespace
 
 PanelTopArea::PanelTopArea(QWidget* parent)
-    : QWidget(parent), m_icon(new QLabel(this)), m_name(new QLabel(this)), m_id(new LineEdit(this))
+    : QWidget(parent), m_icon(new QLabel(this)), m_name(new LeadingLabel({}, this)), m_id(new LineEdit(this))
 {
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(8, 8, 8, 4);
@@ -60,7 +61,6 @@ PanelTopArea::PanelTopArea(QWidget* parent)
     texts->setSpacing(2);
     heading->addLayout(texts, 1);
     m_name->setObjectName(QStringLiteral("topAreaName"));
-    m_name->setTextFormat(Qt::PlainText);
     m_name->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     QFont bold = m_name->font();
     bold.setBold(true);

@@ -1,0 +1,21 @@
+#include "zkeditor/widgets/leadingLabel.h"
+
+#include <QEvent>
+
+LeadingLabel::LeadingLabel(const QString& text, QWidget* parent) : QLabel(text, parent)
+{
+    setTextFormat(Qt::PlainText);
+    align();
+}
+
+void LeadingLabel::align()
+{
+    setAlignment((isRightToLeft() ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignAbsolute | Qt::AlignVCenter);
+}
+
+void LeadingLabel::changeEvent(QEvent* event)
+{
+    QLabel::changeEvent(event);
+    if (event->type() == QEvent::LayoutDirectionChange)
+        align();
+}
