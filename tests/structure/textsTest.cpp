@@ -27,10 +27,10 @@ const QStringList allTexts =
                                QStringLiteral("*.zkdoc"), QStringLiteral("*.plist"), QStringLiteral("run"),
                                QStringLiteral("test"),    QStringLiteral("setup"),   QStringLiteral("bench"),
                                QStringLiteral("format"),  QStringLiteral("lint"),    QStringLiteral("lib")};
-const QStringList allFolders = {QStringLiteral("zkcore"),     QStringLiteral("zkeditor"), QStringLiteral("zkauthor"),
-                                QStringLiteral("packages"),   QStringLiteral("samples"),  QStringLiteral("tests"),
-                                QStringLiteral("benchmarks"), QStringLiteral("docs"),     QStringLiteral("scripts"),
-                                QStringLiteral("cmake"),      QStringLiteral(".ci")};
+const QStringList allFolders = {QStringLiteral("zkcore"),  QStringLiteral("zkeditor"),   QStringLiteral("zkauthor"),
+                                QStringLiteral("tools"),   QStringLiteral("packages"),   QStringLiteral("samples"),
+                                QStringLiteral("tests"),   QStringLiteral("benchmarks"), QStringLiteral("docs"),
+                                QStringLiteral("scripts"), QStringLiteral("cmake"),      QStringLiteral(".ci")};
 const QStringList topFiles = {QStringLiteral("README.md"), QStringLiteral("CMakeLists.txt"),
                               QStringLiteral("CMakePresets.json")};
 

@@ -13,6 +13,8 @@
 #include <QUrl>
 #include <functional>
 #include <gtest/gtest.h>
+#include <sys/wait.h>
+#include <unistd.h>
 
 namespace {
 
@@ -235,6 +237,36 @@ TEST_F(SettingsServiceTest, RefusedWritesAreReportedAndAllAreTried)
     for (const char* key : {"/A/int", "/x", "/y", "/width", "/height", "/visible", "/maximised", "/DockWindows"})
         expected += QString("SettingsService: Failed to write setting %1").arg(key);
     EXPECT_EQ(capture.texts(), expected);
+}
+
+TEST_F(SettingsServiceTest, RunsAtTheSameTimeKeepEachOthersValues)
+{
+    service();
+    constexpr int runs = 4;
+    constexpr int values = 15;
+    const auto key = [](int run, int i) { return QString("/Run%1/%2").arg(run).arg(i); };
+    std::vector<pid_t> children;
+    for (int run = 0; run < runs; ++run) {
+        const pid_t child = fork();
+        ASSERT_GE(child, 0);
+        if (child == 0) {
+            bool written = true;
+            for (int i = 0; i < values; ++i)
+                written &= service().writeSetting(key(run, i), Value(QString(200, 'x')));
+            std::_Exit(written ? 0 : 1);
+        }
+        children.push_back(child);
+    }
+    for (const pid_t child : children) {
+        int status = 0;
+        waitpid(child, &status, 0);
+        EXPECT_EQ(status, 0);
+    }
+    MessageCapture capture;
+    for (int run = 0; run < runs; ++run)
+        for (int i = 0; i < values; ++i)
+            EXPECT_EQ(service().readSetting(key(run, i), Value(QString())).toQString().size(), 200);
+    EXPECT_TRUE(capture.isEmpty());
 }
 
 TEST_F(SettingsServiceTest, RecentUrlsAreFewAndNewestFirst)

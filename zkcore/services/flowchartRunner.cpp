@@ -225,10 +225,12 @@ bool FlowchartRunner::needsTime() const
     return std::any_of(m_charts.begin(), m_charts.end(), [this](const Chart& chart) {
         if (chart.state == Chart::Running)
             return paceAt(nodeOf(chart.block)) > 0.0;
-        // It may be waiting for its inputs.
         const NodeImpl* start = nodeOf(chart.start);
-        return chart.state != Chart::Halted && start &&
-               !start->valueOfProperty(flowchartKeys().inputs).toStringVector().empty();
+        if (!start || chart.state == Chart::Halted)
+            return false;
+        // It may be waiting for its inputs, or have been started while the model was paused.
+        return !start->valueOfProperty(flowchartKeys().inputs).toStringVector().empty() ||
+               (chart.state == Chart::Waiting && start->valueOfProperty(flowchartKeys().selfStarting).toBool());
     });
 }
 
