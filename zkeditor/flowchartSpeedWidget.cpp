@@ -37,6 +37,7 @@ void FlowchartSpeedWidget::init(bool withLabel)
     m_speed = new ObserverComboBox(this, QStringLiteral("flowchartSpeed"));
     m_speed->setModelProperty(s_propSpeed.toString());
     m_speed->setSpacePropertyCid(s_spaceCid);
+    m_speed->setSizePolicy(QSizePolicy::Minimum, QSizePolicy::Fixed); // no speed is cut off
     m_speed->setAccessibleName(tr("Speed of the flowcharts"));
     m_speed->setToolTip(tr("How fast the flowcharts run"));
     if (withLabel) {
@@ -56,7 +57,10 @@ void FlowchartSpeedWidget::init(bool withLabel)
     m_step->setPushUndoOnSetProperty(false);
     m_step->setSpacePropertyCid(s_spaceCid);
     m_step->setWrapPixmaps(true);
-    m_step->setIcon(QIcon(ImageCache::getPixmap(Resource("flowcharts/step"))));
+    const Resource picture("flowcharts/step");
+    QIcon icon(ImageCache::getPixmap(picture));
+    icon.addPixmap(ImageCache::getPixmap(picture, icon.availableSizes().value(0), 2.0)); // sharp on fine screens too
+    m_step->setIcon(icon);
     m_step->setAccessibleName(tr("Step"));
     m_step->setToolTip(tr("Run the next block"));
     m_step->hide();

@@ -254,6 +254,6 @@ void PaletteButtonBar::paintEvent(QPaintEvent*)
     if (hasFocus()) {
         painter.setRenderHint(QPainter::Antialiasing);
         painter.setPen(QPen(palette().color(QPalette::WindowText), 1.0));
-        painter.drawRoundedRect(QRectF(rect()).adjusted(2.5, 2.5, -2.5, -2.5), 2.0, 2.0);
+        painter.drawRoundedRect(QRectF(rect()).adjusted(1.5, 1.5, -1.5, -1.5), 2.0, 2.0);
     }
 }
