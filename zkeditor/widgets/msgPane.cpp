@@ -8,6 +8,7 @@ MsgPane::MsgPane(const QString& message, QWidget* parent) : QWidget(parent), m_l
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(15, 15, 15, 15);
     layout->addWidget(m_label);
+    layout->addStretch(1);
     m_label->setTextFormat(Qt::PlainText);
     m_label->setAlignment(Qt::AlignCenter);
     m_label->setWordWrap(true);

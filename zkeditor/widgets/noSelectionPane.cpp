@@ -17,5 +17,6 @@ NoSelectionPane::NoSelectionPane(QWidget* parent) : QWidget(parent)
     button->setAutoDefault(false);
     button->setToolTip(tr("Shows the properties of the scene on view"));
     layout->addWidget(button, 0, Qt::AlignHCenter);
+    layout->addStretch(1);
     connect(button, &QAbstractButton::clicked, this, &NoSelectionPane::clicked);
 }

@@ -48,6 +48,7 @@ bool mayBeReflected(const NodeImpl* node)
 PanelTopArea::PanelTopArea(QWidget* parent)
     : QWidget(parent), m_icon(new QLabel(this)), m_name(new LeadingLabel({}, this)), m_id(new LineEdit(this))
 {
+    setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(8, 8, 8, 4);
     layout->setSpacing(4);
