@@ -98,6 +98,18 @@ Actions::Actions(QMainWindow* window)
 
     addScene = makeAction(window, "add-scene", tr("New &Scene"), tr("Add an empty scene"));
     removeScene = makeAction(window, "delete-scene", tr("Delete S&cene"), tr("Delete the scene on view"));
+    pageSetup = makeAction(window, "page-setup", tr("Pa&ge Setup..."), tr("Paper, margins and scale"));
+    printPreview =
+        makeAction(window, "print-preview", tr("Print Pre&view..."), tr("Show the pages as they are printed"));
+    print = makeAction(window, "print", tr("&Print..."), tr("Print the document"), keys(QKeySequence::Print, "Ctrl+P"));
+    exportPdf = makeAction(window, "export-pdf", tr("Export to P&DF..."), tr("Write the pages into a PDF file"));
+    exportSvg = makeAction(window, "export-svg", tr("Export to S&VG..."), tr("Write the scene on view as a drawing"));
+    saveCustomPart = makeAction(window, "save-custom-part", tr("Save as Custom &Part..."),
+                                tr("Offer the selected part among the parts from now on"));
+    preferences = makeAction(window, "preferences", tr("Pre&ferences..."), tr("How the program works for you"),
+                             keys(QKeySequence::Preferences, "Ctrl+,"));
+    preferences->setMenuRole(QAction::PreferencesRole);
+    licence = makeAction(window, "licence", tr("&Licence..."), tr("Show or enter the licence"));
     about = makeAction(window, "about", tr("&About zkauthor"), tr("What this program is"));
     about->setMenuRole(QAction::AboutRole);
     quit->setMenuRole(QAction::QuitRole);
@@ -115,6 +127,8 @@ void Actions::makeMenus(QMainWindow* window)
     file->addSeparator();
     file->addActions({save, saveAs, revert});
     file->addSeparator();
+    file->addActions({pageSetup, printPreview, print, exportPdf, exportSvg});
+    file->addSeparator();
     file->addActions({close, quit});
 
     editMenu = window->menuBar()->addMenu(tr("&Edit"));
@@ -125,6 +139,8 @@ void Actions::makeMenus(QMainWindow* window)
     editMenu->addActions({rotateLeft, rotateRight});
     editMenu->addSeparator();
     editMenu->addActions({selectAll, selectNext, selectPrevious});
+    editMenu->addSeparator();
+    editMenu->addActions({saveCustomPart, preferences});
 
     viewMenu = window->menuBar()->addMenu(tr("&View"));
     viewMenu->addActions({zoomIn, zoomOut, zoomNormal, zoomFit});
@@ -135,13 +151,14 @@ void Actions::makeMenus(QMainWindow* window)
     insertMenu = window->menuBar()->addMenu(tr("&Insert"));
     insertMenu->setObjectName(QStringLiteral("insertMenu"));
 
+    runMenu = window->menuBar()->addMenu(tr("&Run"));
     QMenu* help = window->menuBar()->addMenu(tr("&Help"));
-    help->addAction(about);
+    help->addActions({licence, about});
 
     partMenu = new QMenu(window);
     partMenu->addActions({cut, copy, paste, duplicate, remove});
     partMenu->addSeparator();
-    partMenu->addActions({rotateLeft, rotateRight, openPopup});
+    partMenu->addActions({rotateLeft, rotateRight, openPopup, saveCustomPart});
 }
 
 void Actions::makeToolBar(QMainWindow* window)

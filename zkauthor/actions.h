@@ -41,12 +41,21 @@ struct Actions
     QAction* addScene;
     QAction* removeScene;
 
+    QAction* pageSetup;
+    QAction* printPreview;
+    QAction* print;
+    QAction* exportPdf;
+    QAction* exportSvg;
+    QAction* saveCustomPart;
+    QAction* preferences;
+    QAction* licence;
     QAction* about;
 
     QMenu* recentMenu;
     QMenu* editMenu;
     QMenu* viewMenu;
     QMenu* insertMenu;
+    QMenu* runMenu;
     QMenu* partMenu; ///< for the right mouse button
 
 private:

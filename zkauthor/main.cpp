@@ -1,5 +1,6 @@
 // Start-up of the host: command line, message handler, crash handler, main window.
 #include "zkauthor/mainWindow.h"
+#include "zkauthor/preferences.h"
 #include "zkauthor/screenshot.h"
 #include "zkauthor/startOptions.h"
 #include "zkcore/media/imageCache.h"
@@ -7,6 +8,7 @@
 #include "zkcore/services/crashHandler.h"
 #include "zkeditor/debugConsole.h"
 #include "zkeditor/msgHandlers.h"
+#include "zkeditor/settingsService.h"
 
 #include <QApplication>
 #include <QIcon>
@@ -95,7 +97,14 @@ int main(int argc, char** argv)
     }
 
     MainWindow window;
+    SettingsService* settings =
+        SettingsService::createService(&window, QStringLiteral("zkauthor"), QSettings::UserScope);
+    const Preferences preferences = Preferences::read();
+    if (!options.logGiven)
+        installHandler(preferences.logTarget());
+    window.followSettings();
     window.show();
+    settings->restore();
     if (!options.document.isEmpty() && !window.openStartDocument(options.document, error))
         showMessage(&window, QMessageBox::Warning,
                     QApplication::translate("main", "%1 cannot be opened.").arg(options.document), error);

@@ -1,24 +1,37 @@
 #include "zkauthor/mainWindow.h"
 
+#include "zkauthor/aboutBox.h"
 #include "zkauthor/actions.h"
-#include "zkauthor/formsDock.h"
+#include "zkauthor/flowchartBar.h"
+#include "zkauthor/palettes.h"
 #include "zkauthor/partEditor.h"
+#include "zkauthor/partHelp.h"
 #include "zkauthor/partRules.h"
+#include "zkauthor/preferences.h"
+#include "zkauthor/printing.h"
 #include "zkauthor/recentFiles.h"
+#include "zkauthor/reflectMenu.h"
 #include "zkauthor/sceneView.h"
 #include "zkauthor/spaceTabs.h"
 #include "zkcore/commands/addNodesCommand.h"
 #include "zkcore/commands/deleteNodeCommand.h"
+#include "zkcore/commands/setUILockedCommand.h"
 #include "zkcore/media/imageCache.h"
 #include "zkcore/model/documentImpl.h"
 #include "zkcore/model/view.h"
 #include "zkcore/services/crashHandler.h"
 #include "zkcore/services/productPackage.h"
+#include "zkeditor/dialogs/addCustomPart.h"
+#include "zkeditor/license/licenceDialog.h"
+#include "zkeditor/license/licenceManager.h"
+#include "zkeditor/settingsService.h"
+#include "zkeditor/sidePane.h"
 
 #include <QAction>
 #include <QApplication>
 #include <QClipboard>
 #include <QCloseEvent>
+#include <QCursor>
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
@@ -28,17 +41,18 @@
 #include <QMessageBox>
 #include <QScopedValueRollback>
 #include <QStatusBar>
+#include <algorithm>
 
 MainWindow::MainWindow(QWidget* parent)
     : QMainWindow(parent), m_views(new ViewManager(this)), m_editor(new PartEditor(this)),
-      m_recent(new RecentFiles(this)), m_tabs(new SpaceTabs(m_views, m_editor)), m_forms(new FormsDock),
+      m_recent(new RecentFiles(this)), m_tabs(new SpaceTabs(m_views, m_editor)),
+      m_palettes(new Palettes(this, m_views)), m_licence(new LicenceManager(this)),
+      m_printing(new Printing(this, m_views, m_licence)), m_flowcharts(new FlowchartBar(this)),
       m_actions(std::make_unique<Actions>(this)), m_selectionText(new QLabel), m_pointerText(new QLabel),
       m_zoomText(new QLabel)
 {
     setObjectName(QStringLiteral("mainWindow"));
     setCentralWidget(m_tabs);
-    addDockWidget(Qt::RightDockWidgetArea, m_forms);
-    resizeDocks({m_forms}, {320}, Qt::Horizontal);
     resize(1180, 760);
 
     for (const auto& [label, name] :
@@ -51,10 +65,8 @@ MainWindow::MainWindow(QWidget* parent)
     m_pointerText->setMinimumWidth(fontMetrics().horizontalAdvance(QStringLiteral("0000.0, 0000.0 mm")));
 
     m_recent->attachTo(m_actions->recentMenu);
-    QAction* toggle = m_forms->toggleViewAction();
-    toggle->setText(tr("&Properties"));
-    toggle->setShortcut(QKeySequence(QStringLiteral("F4")));
-    m_actions->viewMenu->addAction(toggle);
+    addToolBar(m_flowcharts);
+    m_palettes->addEntriesTo(m_actions->viewMenu);
     connectActions();
     setDocument(new DocumentImpl);
 }
@@ -62,7 +74,8 @@ MainWindow::MainWindow(QWidget* parent)
 MainWindow::~MainWindow()
 {
     // Everything lets go of the document before it goes.
-    m_forms->setDocument(nullptr);
+    m_flowcharts->setDocument(nullptr);
+    m_palettes->close();
     m_tabs->setDocument(nullptr);
     m_editor->setDocument(nullptr);
     delete m_document;
@@ -96,11 +109,27 @@ void MainWindow::connectActions()
 
     const auto onView = [this](QAction* action, auto function) {
         connect(action, &QAction::triggered, this, [this, function] {
-            m_forms->commitPendingEdit();
+            m_palettes->commitPendingEdit();
             if (SceneView* view = m_tabs->currentView())
                 function(view);
         });
     };
+    m_actions->runMenu->addAction(m_flowcharts->runAction());
+    on(m_actions->pageSetup, [this] { m_printing->pageSetup(); });
+    const auto onPaper = [this, on](QAction* action, void (Printing::*function)()) {
+        on(action, [this, function] {
+            m_palettes->commitPendingEdit();
+            (m_printing->*function)();
+        });
+    };
+    onPaper(m_actions->printPreview, &Printing::preview);
+    onPaper(m_actions->print, &Printing::print);
+    onPaper(m_actions->exportPdf, &Printing::exportPdf);
+    onPaper(m_actions->exportSvg, &Printing::exportSvg);
+    on(m_actions->saveCustomPart, &MainWindow::saveCustomPart);
+    on(m_actions->licence, [this] { LicenceDialog(m_licence, this).exec(); });
+    on(m_actions->preferences, &MainWindow::editPreferences);
+
     onView(m_actions->selectAll, [](SceneView* view) { view->selectAllParts(); });
     onView(m_actions->selectNext, [](SceneView* view) { view->selectNext(false); });
     onView(m_actions->selectPrevious, [](SceneView* view) { view->selectNext(true); });
@@ -117,6 +146,21 @@ void MainWindow::connectActions()
     m_actions->remove->setShortcutContext(Qt::WidgetWithChildrenShortcut);
     m_tabs->addAction(m_actions->remove);
 
+    const auto note = [this](const QString& text) { statusBar()->showMessage(text, 6000); };
+    connect(m_printing, &Printing::done, this, note);
+    connect(m_printing, &Printing::failed, this, &MainWindow::showError);
+    connect(m_licence, &LicenceManager::statusChanged, this, &MainWindow::updateTitle);
+    connect(m_flowcharts, &FlowchartBar::noticed, this, note);
+    connect(m_flowcharts, &FlowchartBar::spaceRequested, this, &MainWindow::showNode);
+    connect(m_flowcharts, &FlowchartBar::runningChanged, m_tabs, &SpaceTabs::setReaderMode);
+    connect(m_tabs, &SpaceTabs::partPressed, m_flowcharts, &FlowchartBar::pressPart);
+    connect(m_tabs, &SpaceTabs::readerKey, m_flowcharts, &FlowchartBar::pressKey);
+    connect(m_palettes, &Palettes::partChosen, this, &MainWindow::addPart);
+    connect(m_palettes, &Palettes::documentChosen, this, &MainWindow::openRecent);
+    connect(m_palettes, &Palettes::shortcutClicked, this, &MainWindow::onShortcut);
+    connect(m_palettes, &Palettes::nodeRequested, this, &MainWindow::showNode);
+    connect(m_palettes, &Palettes::failed, this,
+            [this](const QString& reason) { showError(tr("That could not be done."), reason); });
     connect(m_recent, &RecentFiles::chosen, this, &MainWindow::openRecent);
     connect(m_editor, &PartEditor::failed, this,
             [this](const QString& reason) { showError(tr("That could not be done."), reason); });
@@ -133,7 +177,7 @@ void MainWindow::connectActions()
 
 template <typename Function> void MainWindow::edit(Function function)
 {
-    m_forms->commitPendingEdit();
+    m_palettes->commitPendingEdit();
     if (SpaceImpl* space = m_tabs->currentSpace())
         function(space);
 }
@@ -143,7 +187,7 @@ void MainWindow::setDocument(DocumentImpl* document)
     DocumentImpl* old = m_document;
     if (old)
         disconnect(old, nullptr, this, nullptr);
-    m_forms->setDocument(nullptr);
+    m_flowcharts->setDocument(nullptr);
     m_tabs->setDocument(nullptr);
 
     m_document = document;
@@ -153,9 +197,12 @@ void MainWindow::setDocument(DocumentImpl* document)
     connect(document, &DocumentImpl::undoStateChanged, this, &MainWindow::updateUndoActions);
     connect(document, &DocumentImpl::SelectionChanged, this, &MainWindow::updateActions);
     m_editor->setDocument(document);
-    m_forms->setDocument(document);
+    m_palettes->setDocument(document);
+    m_printing->setDocument(document);
+    m_flowcharts->setDocument(document);
     m_tabs->setDocument(document);
     delete old;
+    applyPreferences();
     updateTitle();
     updateUndoActions();
     updateActions();
@@ -170,7 +217,9 @@ void MainWindow::updateTitle()
 {
     const QString file = fileName();
     const QString name = file.isEmpty() ? tr("Untitled") : QFileInfo(file).fileName();
-    setWindowTitle(QStringLiteral("%1[*] - zkauthor").arg(name));
+    const QString licence = m_licence->captionText();
+    setWindowTitle(licence.isEmpty() ? QStringLiteral("%1[*] - zkauthor").arg(name)
+                                     : QStringLiteral("%1[*] - zkauthor (%2)").arg(name, licence));
     CrashHandler::setOpenDocument(file);
     setWindowModified(m_document->isModified());
     m_actions->revert->setEnabled(!file.isEmpty() && m_document->isModified());
@@ -195,6 +244,7 @@ void MainWindow::updateActions()
     m_actions->paste->setEnabled(m_editor->canPaste());
     const auto* part = selection.size() == 1 ? qobject_cast<PartImpl*>(*selection.begin()) : nullptr;
     m_actions->openPopup->setEnabled(part && part->popup());
+    m_actions->saveCustomPart->setEnabled(part && !isConnection(*part));
     const SpaceImpl* space = m_tabs->currentSpace();
     m_actions->removeScene->setEnabled(space && space->kind() == NodeKind::Scene &&
                                        m_document->getModel()->childCount() > 1);
@@ -221,8 +271,20 @@ void MainWindow::onCurrentSpaceChanged()
     const bool elsewhere = !selection.empty() && (*selection.begin())->space() != space;
     if (elsewhere && !m_document->isUndoRedoActive() && !m_showingSelection)
         m_document->setSelection({});
-    m_forms->setSpace(m_tabs->currentSpace());
+    m_flowcharts->setSpace(space);
     updateActions();
+}
+
+void MainWindow::saveCustomPart()
+{
+    m_palettes->commitPendingEdit();
+    const ElementImplSet selection = m_document->getSelection();
+    auto* part = selection.size() == 1 ? qobject_cast<PartImpl*>(*selection.begin()) : nullptr;
+    if (!part)
+        return;
+    AddCustomPartDialog dialog(part, m_document, this, "addCustomPart", true);
+    connect(&dialog, &AddCustomPartDialog::partAddedToNodeDb, m_palettes->sidePane(), &SidePane::rebuildPartsTree);
+    dialog.exec();
 }
 
 void MainWindow::fillInsertMenu()
@@ -265,7 +327,7 @@ void MainWindow::addPart(unsigned int cid)
 
 void MainWindow::addScene()
 {
-    m_forms->commitPendingEdit();
+    m_palettes->commitPendingEdit();
     const Value scene = m_document->executeCommand(new AddSceneCommand(Model(m_document->getModel())));
     if (auto* added = qobject_cast<SpaceImpl*>(scene.toNode().impl()))
         m_tabs->showSpace(added);
@@ -275,7 +337,7 @@ void MainWindow::addScene()
 
 void MainWindow::removeScene()
 {
-    m_forms->commitPendingEdit();
+    m_palettes->commitPendingEdit();
     SpaceImpl* space = m_tabs->currentSpace();
     if (!space || space->kind() != NodeKind::Scene)
         return;
@@ -291,16 +353,72 @@ void MainWindow::openPopup()
         m_tabs->showSpace(part->popup());
 }
 
+void MainWindow::showNode(const Node& node)
+{
+    if (!node.valid())
+        return;
+    if (SpaceImpl* space = node.impl()->space())
+        m_tabs->showSpace(space);
+}
+
+void MainWindow::onShortcut(ShortcutButton::Type type)
+{
+    switch (type) {
+    case ShortcutButton::Delete:
+        m_actions->remove->trigger();
+        break;
+    case ShortcutButton::Duplicate:
+        m_actions->duplicate->trigger();
+        break;
+    case ShortcutButton::Lock:
+        toggleLock();
+        break;
+    case ShortcutButton::Reflect:
+        showReflectMenu();
+        break;
+    case ShortcutButton::ShowPopup:
+        m_actions->openPopup->trigger();
+        break;
+    case ShortcutButton::Help:
+        showPartHelp(this, *m_document);
+        break;
+    }
+}
+
+void MainWindow::toggleLock()
+{
+    m_palettes->commitPendingEdit();
+    const ElementImplSet selection = m_document->getSelection();
+    const bool locked = std::all_of(selection.begin(), selection.end(),
+                                    [](ElementImpl* element) { return element->isLocked(LockPropertyValues); });
+    const std::vector<Node> nodes(selection.begin(), selection.end());
+    if (!m_document->executeCommand(new SetUILockedCommand(nodes, LockPropertyValues, !locked)).isValid())
+        showError(tr("That could not be done."), m_document->lastError());
+}
+
+void MainWindow::showReflectMenu()
+{
+    const ElementImplSet selection = m_document->getSelection();
+    auto* part = selection.size() == 1 ? qobject_cast<PartImpl*>(*selection.begin()) : nullptr;
+    if (!part)
+        return;
+    auto* menu = new QMenu(this);
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    fillReflectMenu(menu, m_document, part,
+                    [this](const QString& reason) { showError(tr("That could not be done."), reason); });
+    menu->popup(QCursor::pos());
+}
+
 void MainWindow::undo()
 {
-    m_forms->commitPendingEdit();
+    m_palettes->commitPendingEdit();
     m_document->undo();
     showSelection();
 }
 
 void MainWindow::redo()
 {
-    m_forms->commitPendingEdit();
+    m_palettes->commitPendingEdit();
     m_document->redo();
     showSelection();
 }
@@ -394,7 +512,7 @@ bool MainWindow::save()
 
 bool MainWindow::saveAs()
 {
-    m_forms->commitPendingEdit();
+    m_palettes->commitPendingEdit();
     QFileDialog dialog(this, tr("Save As"), QString(), ProductPackage::instance().getSaveFilter());
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     dialog.setDefaultSuffix(ProductPackage::instance().documentExtension());
@@ -409,7 +527,7 @@ bool MainWindow::saveAs()
 
 bool MainWindow::saveTo(const QString& file)
 {
-    m_forms->commitPendingEdit();
+    m_palettes->commitPendingEdit();
     if (!m_document->save(file)) {
         showError(tr("%1 could not be saved.").arg(QFileInfo(file).fileName()), m_document->lastError());
         return false;
@@ -421,7 +539,7 @@ bool MainWindow::saveTo(const QString& file)
 
 void MainWindow::revert()
 {
-    m_forms->commitPendingEdit();
+    m_palettes->commitPendingEdit();
     if (fileName().isEmpty() || !m_document->isModified())
         return;
     const auto answer = QMessageBox::question(
@@ -442,7 +560,7 @@ void MainWindow::closeDocument()
 
 bool MainWindow::mayDiscard()
 {
-    m_forms->commitPendingEdit();
+    m_palettes->commitPendingEdit();
     if (!m_document->isModified())
         return true;
     const QString name = fileName().isEmpty() ? tr("Untitled") : QFileInfo(fileName()).fileName();
@@ -456,10 +574,13 @@ bool MainWindow::mayDiscard()
 
 void MainWindow::closeEvent(QCloseEvent* event)
 {
-    if (mayDiscard())
-        event->accept();
-    else
+    if (!mayDiscard()) {
         event->ignore();
+        return;
+    }
+    if (SettingsService::exists())
+        SettingsService::instance()->write();
+    event->accept();
 }
 
 void MainWindow::showError(const QString& text, const QString& reason)
@@ -471,8 +592,25 @@ void MainWindow::showError(const QString& text, const QString& reason)
 
 void MainWindow::about()
 {
-    QMessageBox::about(this, tr("About zkauthor"),
-                       tr("zkauthor %1\n\nShows and edits interactive teaching models: scenes with parts, their "
-                          "connections and properties.")
-                           .arg(QStringLiteral(ZK_VERSION)));
+    showAboutBox(this, *m_licence);
+}
+
+void MainWindow::editPreferences()
+{
+    m_palettes->commitPendingEdit();
+    if (Preferences::edit(this))
+        applyPreferences();
+}
+
+void MainWindow::applyPreferences()
+{
+    const Preferences preferences = Preferences::read();
+    preferences.apply();
+    m_document->setUndoLimit(preferences.undoLimit);
+}
+
+void MainWindow::followSettings()
+{
+    applyPreferences();
+    m_licence->refresh();
 }

@@ -1,12 +1,18 @@
 #pragma once
 
+#include "zkeditor/widgets/shortcutButton.h"
+
 #include <QMainWindow>
 #include <memory>
 
 struct Actions;
 class DocumentImpl;
-class FormsDock;
+class FlowchartBar;
+class LicenceManager;
+class Node;
+class Palettes;
 class PartEditor;
+class Printing;
 class QLabel;
 class QMenu;
 class RecentFiles;
@@ -27,7 +33,9 @@ public:
     DocumentImpl* document() const { return m_document; }
     ViewManager* viewManager() const { return m_views; }
     SpaceTabs* spaceTabs() const { return m_tabs; }
-    FormsDock* formsDock() const { return m_forms; }
+    FlowchartBar* flowcharts() const { return m_flowcharts; }
+    Printing* printing() const { return m_printing; }
+    Palettes* palettes() const { return m_palettes; }
 
     /// Opens the file in place of the present document, without a question. False, with the message, when it cannot be
     /// read; the present document stays then.
@@ -37,6 +45,8 @@ public:
     /// Selects parts by their "id" texts or instance ids and shows the space in which the first of them stands. False,
     /// with the message, when one of them is unknown; nothing is selected then.
     bool selectParts(const QStringList& ids, QString& error);
+    /// To be called when the settings service was made after the window: takes over what is kept there.
+    void followSettings();
     /// The file of the document; empty when it was never saved.
     QString fileName() const;
 
@@ -59,6 +69,9 @@ private:
     void closeDocument();
     void showError(const QString& text, const QString& reason);
     void about();
+    void editPreferences();
+    void applyPreferences();
+    void saveCustomPart();
 
     void undo();
     void redo();
@@ -66,6 +79,11 @@ private:
     void addScene();
     void removeScene();
     void openPopup();
+    /// Shows the space in which a node stands, or which it is.
+    void showNode(const Node& node);
+    void onShortcut(ShortcutButton::Type type);
+    void toggleLock();
+    void showReflectMenu();
     /// Shows the space in which the selection stands.
     void showSelection();
     /// Runs a command of the part editor on the current space, after what is being typed was entered.
@@ -83,7 +101,10 @@ private:
     PartEditor* m_editor;
     RecentFiles* m_recent;
     SpaceTabs* m_tabs;
-    FormsDock* m_forms;
+    Palettes* m_palettes;
+    LicenceManager* m_licence;
+    Printing* m_printing;
+    FlowchartBar* m_flowcharts;
     std::unique_ptr<Actions> m_actions;
     QLabel* m_selectionText;
     QLabel* m_pointerText;

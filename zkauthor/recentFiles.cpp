@@ -1,77 +1,58 @@
 #include "zkauthor/recentFiles.h"
 
+#include "zkcore/values/value.h"
+#include "zkeditor/settingsService.h"
+
 #include <QDir>
 #include <QFileInfo>
 #include <QMenu>
-#include <QSettings>
+#include <QUrl>
 
-namespace {
+RecentFiles::RecentFiles(QObject* parent) : QObject(parent) {}
 
-const QString recentKey = QStringLiteral("recentFiles");
-
-QSettings recentSettings()
+QStringList RecentFiles::files() const
 {
-    return QSettings(QSettings::IniFormat, QSettings::UserScope, QStringLiteral("zkauthor"),
-                     QStringLiteral("zkauthor"));
-}
-
-} // namespace
-
-RecentFiles::RecentFiles(QObject* parent) : QObject(parent)
-{
-    read();
-}
-
-void RecentFiles::read()
-{
-    QSettings settings = recentSettings();
-    m_files = settings.value(recentKey).toStringList();
-    m_files.removeAll(QString());
-    m_files = m_files.mid(0, maximum);
-}
-
-void RecentFiles::write() const
-{
-    QSettings settings = recentSettings();
-    settings.setValue(recentKey, m_files);
+    QStringList files;
+    // On the first run there is no list yet, which is nothing to warn of.
+    if (!SettingsService::exists() || !SettingsService::instance()->hasSetting(QStringLiteral("/RecentUrls")))
+        return files;
+    for (const QString& url : SettingsService::instance()->getRecentUrlList()) {
+        const QString file = QUrl(url).toLocalFile();
+        if (!file.isEmpty())
+            files.append(file);
+    }
+    return files;
 }
 
 void RecentFiles::add(const QString& fileName)
 {
-    const QString path = QFileInfo(fileName).absoluteFilePath();
-    read();
-    m_files.removeAll(path);
-    m_files.prepend(path);
-    m_files = m_files.mid(0, maximum);
-    write();
+    if (SettingsService::exists())
+        SettingsService::instance()->addRecentUrl(QUrl::fromLocalFile(QFileInfo(fileName).absoluteFilePath()));
 }
 
 void RecentFiles::remove(const QString& fileName)
 {
-    read();
-    m_files.removeAll(QFileInfo(fileName).absoluteFilePath());
-    write();
+    if (SettingsService::exists())
+        SettingsService::instance()->removeRecentUrl(QUrl::fromLocalFile(QFileInfo(fileName).absoluteFilePath()));
 }
 
 void RecentFiles::attachTo(QMenu* menu)
 {
     fill(menu);
-    connect(menu, &QMenu::aboutToShow, this, [this, menu] {
-        read();
-        fill(menu);
-    });
+    connect(menu, &QMenu::aboutToShow, this, [this, menu] { fill(menu); });
 }
 
 void RecentFiles::fill(QMenu* menu)
 {
     menu->clear();
-    for (qsizetype i = 0; i < m_files.size(); ++i) {
-        const QString file = m_files.at(i);
+    const QStringList recent = files();
+    for (qsizetype i = 0; i < recent.size(); ++i) {
+        const QString file = recent.at(i);
         QString text = QDir::toNativeSeparators(file);
         text.replace(QLatin1Char('&'), QLatin1String("&&"));
         QAction* action = menu->addAction(QStringLiteral("&%1 %2").arg(i + 1).arg(text));
         connect(action, &QAction::triggered, this, [this, file] { Q_EMIT chosen(file); });
     }
-    if (m_files.isEmpty())
+    if (recent.isEmpty())
         menu->addAction(tr("No recent files"))->setEnabled(false);
 }

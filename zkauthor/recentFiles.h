@@ -5,17 +5,16 @@
 
 class QMenu;
 
-/// The files opened or saved last, newest first, kept in the user's settings and offered in a menu.
+/// The files opened or saved last, newest first, kept by the settings service and offered in a menu.
 class RecentFiles : public QObject
 {
     Q_OBJECT
 
 public:
-    static constexpr int maximum = 4;
-
     explicit RecentFiles(QObject* parent = nullptr);
 
-    QStringList files() const { return m_files; }
+    /// Newest first; empty without a settings service.
+    QStringList files() const;
     /// Puts the file first. Written at once, so that other windows find it.
     void add(const QString& fileName);
     void remove(const QString& fileName);
@@ -27,9 +26,5 @@ Q_SIGNALS:
     void chosen(const QString& fileName);
 
 private:
-    void read();
-    void write() const;
     void fill(QMenu* menu);
-
-    QStringList m_files;
 };

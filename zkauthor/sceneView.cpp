@@ -21,6 +21,8 @@
 
 namespace {
 
+bool wheelZooms = false;
+
 constexpr double mmPerInch = 25.4;
 constexpr double smallestZoom = 0.02;
 constexpr double greatestZoom = 40.0;
@@ -197,6 +199,11 @@ void SceneView::mousePressEvent(QMouseEvent* event)
     if (event->button() != Qt::LeftButton)
         return;
     ElementImpl* part = m_scene->partAt(m_pressMm, clickTolerance / transform().m11());
+    if (part && m_readerMode) {
+        m_readerPart = Part(qobject_cast<PartImpl*>(part));
+        Q_EMIT partPressed(m_readerPart.impl(), true);
+        return;
+    }
     if (part) {
         m_mouse = Mouse::PressedOnPart;
         m_pressedPart = part->instanceId();
@@ -249,6 +256,13 @@ void SceneView::mouseMoveEvent(QMouseEvent* event)
 
 void SceneView::mouseReleaseEvent(QMouseEvent* event)
 {
+    if (m_readerPart.instanceId() != 0 && event->button() == Qt::LeftButton) {
+        const Part pressed = m_readerPart;
+        m_readerPart = {};
+        if (PartImpl* part = pressed.impl())
+            Q_EMIT partPressed(part, false);
+        return;
+    }
     const bool panned = m_mouse == Mouse::Panning && event->button() == Qt::MiddleButton;
     if (event->button() != Qt::LeftButton && !panned)
         return;
@@ -262,6 +276,24 @@ void SceneView::mouseReleaseEvent(QMouseEvent* event)
             m_document->setSelection({part});
     }
     endGesture(true);
+}
+
+void SceneView::setWheelZooms(bool zooms)
+{
+    wheelZooms = zooms;
+}
+
+void SceneView::setReaderMode(bool reader)
+{
+    endGesture(true);
+    m_readerMode = reader;
+    m_readerPart = {};
+}
+
+bool SceneView::isReaderKey(const QKeyEvent* event) const
+{
+    return m_readerMode && !(event->modifiers() & ~Qt::ShiftModifier) && event->text().size() == 1 &&
+           event->text().at(0).isLetterOrNumber();
 }
 
 void SceneView::finishRubberBand()
@@ -353,6 +385,11 @@ void SceneView::keyPressEvent(QKeyEvent* event)
         event->accept();
         return;
     }
+    if (isReaderKey(event)) {
+        if (!event->isAutoRepeat())
+            Q_EMIT readerKey(event->text().at(0), true);
+        return;
+    }
     if (moveByKey(event))
         return;
     if (m_move.isActive())
@@ -374,6 +411,11 @@ void SceneView::keyPressEvent(QKeyEvent* event)
 
 void SceneView::keyReleaseEvent(QKeyEvent* event)
 {
+    if (isReaderKey(event)) {
+        if (!event->isAutoRepeat())
+            Q_EMIT readerKey(event->text().at(0), false);
+        return;
+    }
     if (isArrow(event->key()) && !event->isAutoRepeat() && event->key() == m_arrowKey)
         endGesture(true);
     else
@@ -395,7 +437,8 @@ void SceneView::leaveEvent(QEvent* event)
 
 void SceneView::wheelEvent(QWheelEvent* event)
 {
-    if (!(event->modifiers() & Qt::ControlModifier)) {
+    const bool control = event->modifiers() & Qt::ControlModifier;
+    if (control == wheelZooms) {
         if (m_mouse == Mouse::Idle)
             QGraphicsView::wheelEvent(event);
         return;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "zkauthor/moveGesture.h"
+#include "zkcore/model/handles.h"
 #include "zkcore/model/view.h"
 
 #include <QGraphicsView>
@@ -9,6 +10,7 @@
 class DocumentImpl;
 class ElementImpl;
 class PartEditor;
+class PartImpl;
 class SpaceScene;
 
 /// Shows one space and lets the user select and move its parts with mouse and keyboard. The selection is the
@@ -39,6 +41,13 @@ public:
     void selectNext(bool backwards);
     void selectAllParts();
 
+    /// While the model runs, parts under the mouse are pressed, not selected or moved, and letters and digits are the
+    /// reader's.
+    void setReaderMode(bool reader);
+
+    /// For all views: whether the wheel zooms, and scrolls with Ctrl, instead of the other way round. Off at first.
+    static void setWheelZooms(bool zooms);
+
     /// Whether a drag or a held arrow key is moving parts.
     bool isMovingParts() const { return m_move.isActive(); }
 
@@ -50,6 +59,10 @@ Q_SIGNALS:
     /// A double click on a part, or Return.
     void partActivated(ElementImpl* part);
     void menuRequested(const QPoint& globalPlace);
+    /// In reader mode: the left button went down or up; the part is the one on which it went down.
+    void partPressed(PartImpl* part, bool down);
+    /// In reader mode: a letter or digit.
+    void readerKey(QChar key, bool down);
 
 protected:
     bool event(QEvent* event) override;
@@ -74,6 +87,7 @@ private:
 
     void endGesture(bool keep);
     void press(ElementImpl* part, Qt::KeyboardModifiers modifiers);
+    bool isReaderKey(const QKeyEvent* event) const;
     void finishRubberBand();
     bool moveByKey(QKeyEvent* event);
     QRectF rubberBandRect() const;
@@ -89,6 +103,8 @@ private:
     InstanceId m_pressedPart = 0;
     bool m_addToSelection = false;
     bool m_selectOnRelease = false;
+    bool m_readerMode = false;
+    Part m_readerPart;       // the one pressed in reader mode
     int m_arrowKey = 0;      // the one held down; 0 for none
     bool m_followFit = true; // until the user zooms, a resized view shows the whole page again
 };

@@ -1,8 +1,10 @@
 #include "zkauthor/screenshot.h"
 
-#include "zkauthor/formsDock.h"
 #include "zkauthor/mainWindow.h"
+#include "zkauthor/palettes.h"
 #include "zkauthor/startOptions.h"
+#include "zkeditor/propPalette.h"
+#include "zkeditor/sidePane.h"
 
 #include <QApplication>
 #include <QImageWriter>
@@ -64,7 +66,12 @@ bool takeScreenshot(const StartOptions& options, QString& error)
     QImageWriter writer(options.screenshot, "png");
     QWidget* shown = &window;
     if (options.forms) {
-        shown = window.formsDock()->widget();
+        SidePane* pane = window.palettes()->sidePane();
+        pane->showSection(SidePane::PartsTreePane, false);
+        pane->showSection(SidePane::ModelsPane, false);
+        pane->showSection(SidePane::PropertiesPane, true);
+        QCoreApplication::processEvents();
+        shown = window.palettes()->properties()->widget();
         showWhole(window, *shown);
     }
     writer.setCompression(100);

@@ -195,6 +195,9 @@ void SpaceTabs::makeView(int index)
     connect(view, &SceneView::zoomChanged, this, &SpaceTabs::zoomChanged);
     connect(view, &SceneView::menuRequested, this, &SpaceTabs::menuRequested);
     connect(view, &SceneView::partActivated, this, &SpaceTabs::activate);
+    connect(view, &SceneView::partPressed, this, &SpaceTabs::partPressed);
+    connect(view, &SceneView::readerKey, this, &SpaceTabs::readerKey);
+    view->setReaderMode(m_readerMode);
     m_views->addView(view);
 }
 
@@ -222,6 +225,15 @@ void SpaceTabs::showSpace(SpaceImpl* space)
     setCurrentIndex(index);
     if (SceneView* view = currentView())
         view->setFocus();
+}
+
+void SpaceTabs::setReaderMode(bool reader)
+{
+    m_readerMode = reader;
+    for (int i = 0; i < count(); ++i) {
+        if (SceneView* view = viewAt(i))
+            view->setReaderMode(reader);
+    }
 }
 
 void SpaceTabs::activate(ElementImpl* part)

@@ -28,6 +28,8 @@ public:
     /// Null when no document is shown.
     SceneView* currentView() const;
     SpaceImpl* currentSpace() const;
+    /// See SceneView::setReaderMode(); for all views, those made later too.
+    void setReaderMode(bool reader);
     /// Shows the space's tab, which a pop-up gets if it has none yet. Only a look at the document, no change of it.
     void showSpace(SpaceImpl* space);
 
@@ -39,6 +41,8 @@ Q_SIGNALS:
     void pointerLeft();
     void zoomChanged(double zoom);
     void menuRequested(const QPoint& globalPlace);
+    void partPressed(PartImpl* part, bool down);
+    void readerKey(QChar key, bool down);
 
 private:
     void rebuild();
@@ -65,4 +69,5 @@ private:
     QMenu* m_popupMenu;
     bool m_inUndoRedo = false;
     bool m_rebuilding = false;
+    bool m_readerMode = false;
 };

@@ -22,6 +22,22 @@ bool StartOptions::needsNoDisplay(int argc, char** argv)
     return false;
 }
 
+bool StartOptions::parseLog(const QString& text, Log& log)
+{
+    static const std::pair<const char*, Log> targets[] = {{"stdout", Log::Stdout},
+                                                          {"stderr", Log::Stderr},
+                                                          {"file", Log::File},
+                                                          {"console", Log::Console},
+                                                          {"none", Log::None}};
+    for (const auto& [name, target] : targets) {
+        if (text == QLatin1String(name)) {
+            log = target;
+            return true;
+        }
+    }
+    return false;
+}
+
 bool StartOptions::parse(const QCoreApplication& application, StartOptions& options, QString& error)
 {
     const auto tr = [](const char* text) { return QCoreApplication::translate("StartOptions", text); };
@@ -52,20 +68,9 @@ bool StartOptions::parse(const QCoreApplication& application, StartOptions& opti
     parser.process(application);
 
     if (parser.isSet(logOption)) {
-        static const std::pair<const char*, Log> targets[] = {{"stdout", Log::Stdout},
-                                                              {"stderr", Log::Stderr},
-                                                              {"file", Log::File},
-                                                              {"console", Log::Console},
-                                                              {"none", Log::None}};
         const QString text = parser.value(logOption);
-        bool known = false;
-        for (const auto& [name, log] : targets) {
-            if (text == QLatin1String(name)) {
-                options.log = log;
-                known = true;
-            }
-        }
-        if (!known) {
+        options.logGiven = true;
+        if (!parseLog(text, options.log)) {
             error = tr("--log takes stdout, stderr, file, console or none, not \"%1\".").arg(text);
             return false;
         }

@@ -22,6 +22,11 @@ struct StartOptions
     /// Whether the picture is taken in dark colours.
     bool dark = false;
 
+    /// Whether --log was given.
+    bool logGiven = false;
+
+    /// False for a text that names no target.
+    static bool parseLog(const QString& text, Log& log);
     /// Whether the arguments ask for something that needs no display. Looked at before the application object exists.
     static bool needsNoDisplay(int argc, char** argv);
     /// Reads the application's arguments. Prints the answer to --help and --version and ends the program. False, with

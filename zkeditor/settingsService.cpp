@@ -260,6 +260,13 @@ void SettingsService::addRecentUrl(const QUrl& url)
     writeSetting(keyRecentUrls, Value(urls));
 }
 
+void SettingsService::removeRecentUrl(const QUrl& url)
+{
+    std::vector<QString> urls = getRecentUrlList();
+    if (std::erase(urls, url.toString()) > 0)
+        writeSetting(keyRecentUrls, Value(urls));
+}
+
 std::vector<QString> SettingsService::getRecentUrlList() const
 {
     return readList(keyRecentUrls);

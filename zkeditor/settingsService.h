@@ -50,6 +50,8 @@ public:
 
     /// Puts the URL first; the oldest goes when there are more than four. Invalid URLs are ignored.
     void addRecentUrl(const QUrl& url);
+    /// For one that cannot be opened any more.
+    void removeRecentUrl(const QUrl& url);
     /// Most recent first.
     std::vector<QString> getRecentUrlList() const;
 

@@ -2,6 +2,7 @@
 
 #include "zkcore/values/expressionParser.h"
 #include "zkcore/values/numberText.h"
+#include "zkcore/values/preferredUnits.h"
 
 #include <QCoreApplication>
 #include <algorithm>
@@ -10,6 +11,12 @@
 #include <utility>
 
 namespace {
+
+std::vector<Unit>& ownPreferredUnits()
+{
+    static std::vector<Unit> units;
+    return units;
+}
 
 /// The SI value of a typed number or expression in the unit shown; nothing when it is none or not finite.
 std::optional<double> typedNumber(const QString& text, const Unit& shown)
@@ -101,10 +108,28 @@ Value Formatter::fromText(const QString& text) const
     return valueFromText(m_type, text);
 }
 
+void setPreferredUnits(const std::vector<Unit>& units)
+{
+    ownPreferredUnits() = units;
+}
+
+const std::vector<Unit>& preferredUnits()
+{
+    return ownPreferredUnits();
+}
+
 NumericalFormatter::NumericalFormatter(Value::Type type, std::shared_ptr<const NumericalFormat> format)
     : Formatter(type), m_format(format ? std::move(format) : std::make_shared<const NumericalFormat>()),
       m_unit(m_format->unit)
 {
+    const std::vector<Unit>& offered = m_format->units;
+    for (const Unit& unit : ownPreferredUnits()) {
+        const auto found = std::find(offered.begin(), offered.end(), unit);
+        if (found != offered.end()) {
+            m_unit = *found;
+            break;
+        }
+    }
 }
 
 bool NumericalFormatter::setCurrentUnit(const Unit& unit)
