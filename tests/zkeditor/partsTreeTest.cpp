@@ -133,7 +133,8 @@ TEST_F(PartsTreeTest, CustomPartsAppearAtOnceWhereTheyBelong)
 
 TEST_F(PartsTreeTest, ADragCarriesAPartOfTheClass)
 {
-    const QModelIndex box = shown->index(0, 0, group("Test"));
+    const int row = static_cast<int>(labels(group("Test")).indexOf(QStringLiteral("Box")));
+    const QModelIndex box = shown->index(row, 0, group("Test"));
     view->scrollTo(box);
     const QPoint from = view->visualRect(box).center();
     const auto moveTo = [&](const QPoint& place) {

@@ -9,9 +9,11 @@
 #include "zkcore/model/nodeSnapshot.h"
 #include "zkcore/model/undoStep.h"
 #include "zkcore/services/crashHandler.h"
+#include "zkcore/services/statistic.h"
 #include "zkcore/storage/documentFile.h"
 #include "zkcore/storage/package.h"
 
+#include <QElapsedTimer>
 #include <QFile>
 #include <QFileInfo>
 #include <QSaveFile>
@@ -195,6 +197,8 @@ void DocumentImpl::setSelection(const ElementImplSet& elements)
     m_selection = std::move(wanted);
     m_selectionIds.reset();
     m_selectionDirty = false;
+    static Statistic& time = Statistic::get(QStringLiteral("selection changes"), QStringLiteral("ms"));
+    const Statistic::ScopedTimer timer(time);
     Q_EMIT SelectionChanged();
 }
 
@@ -244,11 +248,19 @@ Value DocumentImpl::executeCommand(Command* command)
         qWarning("DocumentImpl: command %s refused during undo or redo", qPrintable(command->getXMLClass()));
         return {};
     }
+    const bool outermost = !m_mutator;
+    QElapsedTimer timer;
+    timer.start();
     const Value result = command->execute(this);
     m_lastError = command->error();
     CrashHandler::log(command->logStatus() + QLatin1Char('\n'));
-    if (m_commandListener && !m_mutator && result.isValid())
+    if (!outermost)
+        return result;
+    static Statistic& time = Statistic::get(QStringLiteral("commands"), QStringLiteral("ms"));
+    time.add(static_cast<double>(timer.nsecsElapsed()) / 1e6);
+    if (m_commandListener && result.isValid())
         m_commandListener(command, QString());
+    Q_EMIT commandExecuted(command, QString());
     return result;
 }
 
@@ -313,8 +325,10 @@ void DocumentImpl::runUndoRedo(bool undo)
     if (selection)
         restoreSelection(*selection);
     updateModified();
+    const QString word = undo ? QStringLiteral("undo") : QStringLiteral("redo");
     if (m_commandListener)
-        m_commandListener(nullptr, undo ? QStringLiteral("undo") : QStringLiteral("redo"));
+        m_commandListener(nullptr, word);
+    Q_EMIT commandExecuted(nullptr, word);
     m_undoRedoActive = false;
     Q_EMIT Loaded();
 }
@@ -380,21 +394,43 @@ bool DocumentImpl::load(const QString& fileName)
         m_lastError = tr("%1: %2").arg(fileName, file.errorString());
         return false;
     }
-    DocumentContent content;
-    if (!DocumentFile::read(file, fileName, *m_nodeDb, content, m_lastError))
+    if (!readContent(file, fileName))
         return false;
     file.close();
+    m_url = QUrl::fromLocalFile(QFileInfo(fileName).absoluteFilePath());
+    CrashHandler::setOpenDocument(fileName);
+    finishLoading();
+    return true;
+}
+
+bool DocumentImpl::loadFrom(QIODevice& device, const QString& name)
+{
+    m_lastError.clear();
+    if (!readContent(device, name))
+        return false;
+    m_url.clear();
+    finishLoading();
+    return true;
+}
+
+bool DocumentImpl::readContent(QIODevice& device, const QString& name)
+{
+    DocumentContent content;
+    if (!DocumentFile::read(device, name, *m_nodeDb, content, m_lastError))
+        return false;
     m_loadWarnings = content.warnings;
     m_resources.clear();
     for (const std::shared_ptr<const ResourceEntry>& entry : content.resources)
         m_resources.insert(entry->name(), entry);
     replaceContent(std::move(content.root), content.nextId);
-    m_url = QUrl::fromLocalFile(QFileInfo(fileName).absoluteFilePath());
-    CrashHandler::setOpenDocument(fileName);
+    return true;
+}
+
+void DocumentImpl::finishLoading()
+{
     updateModified();
     Q_EMIT undoStateChanged();
     Q_EMIT Loaded();
-    return true;
 }
 
 bool DocumentImpl::save(const QString& fileName)

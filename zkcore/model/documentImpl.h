@@ -24,6 +24,7 @@ class Command;
 class ChangeSet;
 class ModelMutator;
 class NodeRegistry;
+class QIODevice;
 class QUndoStack;
 class UndoStep;
 struct NodeSnapshot;
@@ -119,6 +120,8 @@ public:
     /// Replaces the whole content by the file's. On failure the document stays as it was, and lastError() says what is
     /// wrong and where (file, line, column). Emits Loaded() on success.
     bool load(const QString& fileName);
+    /// As load, from a device; the document has no file then. The name stands in messages.
+    bool loadFrom(QIODevice& device, const QString& name);
     /// Writes the file; the old one stays when anything fails (lastError()). Emits saved().
     bool save(const QString& fileName);
     /// What was kept but not understood while loading (unknown classes, values out of range), one sentence each.
@@ -131,6 +134,9 @@ public:
     std::vector<Resource> localResources() const;
 
 Q_SIGNALS:
+    /// After a command that the user or the program gave (not one within another) ran, well or not; and with null and
+    /// the word "undo" or "redo". The command is destroyed right after.
+    void commandExecuted(const Command* command, const QString& word);
     void SelectionChanged();
     /// After loading, and at the end of each undo or redo.
     void Loaded();
@@ -166,6 +172,8 @@ private:
                        std::shared_ptr<const std::vector<InstanceId>> selectionBefore);
     void runUndoRedo(bool undo);
     void updateModified();
+    bool readContent(QIODevice& device, const QString& name);
+    void finishLoading();
     void clearHistory();
     std::shared_ptr<const std::vector<InstanceId>> selectionIds() const;
     void restoreSelection(const std::vector<InstanceId>& ids);

@@ -110,7 +110,8 @@ CommandLog::CommandLog(DocumentImpl* document) : m_document(document)
 
 CommandLog::~CommandLog()
 {
-    m_document->setCommandListener({});
+    if (m_document)
+        m_document->setCommandListener({});
 }
 
 QByteArray CommandLog::toXML() const

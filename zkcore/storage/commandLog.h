@@ -3,6 +3,7 @@
 #include "zkcore/base/export.h"
 
 #include <QByteArray>
+#include <QPointer>
 #include <QString>
 
 class DocumentImpl;
@@ -11,7 +12,7 @@ class DocumentImpl;
 class ZKCORE_EXPORT CommandLog
 {
 public:
-    /// Records from now on (takes the document's command listener). The document must outlive the log.
+    /// Records from now on (takes the document's command listener). What was recorded stays when the document goes.
     explicit CommandLog(DocumentImpl* document);
     ~CommandLog();
 
@@ -22,6 +23,6 @@ public:
     static bool replay(const QByteArray& session, DocumentImpl* document, QString& error);
 
 private:
-    DocumentImpl* m_document;
+    QPointer<DocumentImpl> m_document;
     QByteArray m_entries;
 };
