@@ -190,16 +190,26 @@ struct BareFigures
     Figures connect, notify, disconnect;
 };
 
-/// The growth that the memory of the machine alone causes: the same kind of work on bare objects of the toolkit.
-void measureBareObjects(size_t count, BareFigures& figures)
+enum class Heap { Fresh, Used };
+
+/// The growth that the memory of the machine alone causes: the same kind of work on bare objects of the toolkit. In a
+/// heap that is in use, the allocator has put together what was free between other things, as commands make it do.
+void measureBareObjects(size_t count, Heap heap, BareFigures& figures)
 {
     std::vector<std::unique_ptr<BareObject>> objects;
-    for (size_t i = 0; i < count; ++i)
-        objects.push_back(std::make_unique<BareObject>());
     BareReceiver receiver;
+    for (size_t i = 0; i < count; ++i) {
+        objects.push_back(std::make_unique<BareObject>());
+        if (heap == Heap::Used)
+            receiver.connectTo(objects.back());
+    }
+    receiver.disconnectFrom(objects);
     Best connect, notify, disconnect;
     for (int round = 0; round < roundsFor(count); ++round) {
         const QString text = QStringLiteral("round %1").arg(round);
+        std::vector<std::vector<char>> large;
+        for (size_t size = 1; heap == Heap::Used && size <= count; size *= 2)
+            large.emplace_back(size * 64);
         connect.add([&] { receiver.connectTo(objects); });
         notify.add([&] {
             for (const auto& object : objects)
@@ -217,13 +227,16 @@ void measureBareObjects(size_t count, BareFigures& figures)
 void reportKinds(const QString& only)
 {
     const Table table({std::begin(sizes), std::end(sizes)}, growthFrom);
-    BareFigures bare;
-    for (const size_t count : sizes)
-        measureBareObjects(count, bare);
-    table.section("For comparison: bare objects of the toolkit, nanoseconds per object");
-    table.row("connect five signals", bare.connect);
-    table.row("write a text and notify", bare.notify);
-    table.row("disconnect", bare.disconnect);
+    for (const Heap heap : {Heap::Fresh, Heap::Used}) {
+        BareFigures bare;
+        for (const size_t count : sizes)
+            measureBareObjects(count, heap, bare);
+        table.section(heap == Heap::Fresh ? "For comparison: bare objects of the toolkit, nanoseconds per object"
+                                          : "The same in a heap that is in use");
+        table.row("connect five signals", bare.connect);
+        table.row("write a text and notify", bare.notify);
+        table.row("disconnect", bare.disconnect);
+    }
 
     std::vector<Kind> kinds = allKinds();
     std::erase_if(kinds, [&only](const Kind& kind) { return !QString::fromLatin1(kind.name).contains(only); });

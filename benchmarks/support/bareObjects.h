@@ -36,6 +36,7 @@ class BareReceiver : public QObject
 
 public:
     void connectTo(const std::vector<std::unique_ptr<BareObject>>& objects);
+    void connectTo(const std::unique_ptr<BareObject>& object);
     void disconnectFrom(const std::vector<std::unique_ptr<BareObject>>& objects);
     size_t notifications() const { return m_notifications; }
 

@@ -34,8 +34,10 @@ PrivatePointSpinBox::PrivatePointSpinBox(int coordinate, ObserverPoint* owner, c
 
 void PrivatePointSpinBox::setNoValue(bool noValue)
 {
+    // Each of many nodes that differ says so.
+    const bool isBlank = m_noValue && !isEdited() && editor()->text().isEmpty();
     m_noValue = noValue;
-    if (!noValue)
+    if (!noValue || isBlank)
         return;
     editor()->setText(QString()); // not clear(), which Escape would undo
     setEdited(false);

@@ -129,8 +129,10 @@ void ObserverSpinBox::onFormatChanged()
 
 void ObserverSpinBox::setNoValue(bool noValue)
 {
+    // Each of many nodes that differ says so.
+    const bool isBlank = m_noValue && !isEdited() && editor()->text().isEmpty();
     m_noValue = noValue;
-    if (!noValue)
+    if (!noValue || isBlank)
         return;
     editor()->setText(QString()); // not clear(), which Escape would undo
     setEdited(false);
