@@ -1,6 +1,7 @@
 #include "zkeditor/coreWidgetFactory.h"
 
 #include "zkeditor/widgets/confirmingObserverCheckbox.h"
+#include "zkeditor/widgets/fontChooser.h"
 #include "zkeditor/widgets/groupBox.h"
 #include "zkeditor/widgets/groupRadioButton.h"
 #include "zkeditor/widgets/observerButton.h"
@@ -17,7 +18,14 @@
 #include "zkeditor/widgets/observerStringCheckbox.h"
 #include "zkeditor/widgets/paletteBoxSection.h"
 #include "zkeditor/widgets/propertyLabel.h"
+#include "zkeditor/widgets/propertyListBox.h"
+#include "zkeditor/widgets/resourceChooser.h"
+#include "zkeditor/widgets/resourceDropdown.h"
+#include "zkeditor/widgets/resourceListBox.h"
+#include "zkeditor/widgets/subpartCombobox.h"
+#include "zkeditor/widgets/subpartListView.h"
 #include "zkeditor/widgets/unitChooser.h"
+#include "zkeditor/widgets/valueMapListBox.h"
 
 #include <algorithm>
 #include <iterator>
@@ -38,12 +46,15 @@ struct FormWidgetRow
 constexpr FormWidgetRow s_formWidgets[] = {
     {"GroupBox", makeFormWidget<GroupBox>},
     {"GroupRadioButton", makeFormWidget<GroupRadioButton>},
+    {"SubpartComboBox", makeFormWidget<SubpartComboBox>},
+    {"SubpartListView", makeFormWidget<SubpartListView>},
     {"ObserverGroupBox", makeFormWidget<ObserverGroupBox>},
     {"PaletteBoxSection", makeFormWidget<PaletteBoxSection>},
     {"ObserverButton", makeFormWidget<ObserverButton>},
     {"ObserverCheckBox", makeFormWidget<ObserverCheckBox>},
     {"ConfirmingObserverCheckBox", makeFormWidget<ConfirmingObserverCheckBox>},
     {"ObserverStringCheckBox", makeFormWidget<ObserverStringCheckBox>},
+    {"ResourceChooser", makeFormWidget<ResourceChooser>},
     {"ObserverColorPicker", makeFormWidget<ObserverColorPicker>},
     {"ObserverComboBox", makeFormWidget<ObserverComboBox>},
     {"ObserverLabel", makeFormWidget<ObserverLabel>},
@@ -54,7 +65,12 @@ constexpr FormWidgetRow s_formWidgets[] = {
     {"ObserverSpinBox", makeFormWidget<ObserverSpinBox>},
     {"UnitChooser", makeFormWidget<UnitChooser>},
     {"RadioButton", makeFormWidget<RadioButton>},
+    {"ValueMapListBox", makeFormWidget<ValueMapListBox>},
+    {"ResourceListBox", makeFormWidget<ResourceListBox>},
+    {"FontChooser", makeFormWidget<FontChooser>},
+    {"PropertyListBox", makeFormWidget<PropertyListBox>},
     {"PropertyLabel", makeFormWidget<PropertyLabel>},
+    {"ResourceDropdown", makeFormWidget<ResourceDropdown>},
 };
 
 } // namespace

@@ -29,8 +29,9 @@ QString labelOf(const Property& property)
 
 SetProxyCommand::SetProxyCommand() : Command(PushUndo) {}
 
-SetProxyCommand::SetProxyCommand(const Property& property, const Property& target)
-    : Command(PushUndo), m_property(addressOf(property)), m_target(addressOf(target)), m_label(labelOf(property))
+SetProxyCommand::SetProxyCommand(const Property& property, const Property& target, bool pushUndo)
+    : Command(pushUndo ? PushUndo : JoinUndo), m_property(addressOf(property)), m_target(addressOf(target)),
+      m_label(labelOf(property))
 {
 }
 

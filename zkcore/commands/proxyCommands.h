@@ -10,7 +10,7 @@ class ZKCORE_EXPORT SetProxyCommand : public Command
 {
 public:
     SetProxyCommand();
-    SetProxyCommand(const Property& property, const Property& target);
+    SetProxyCommand(const Property& property, const Property& target, bool pushUndo = true);
 
     QString getUndoDescription() const override;
     QString getXMLClass() const override;

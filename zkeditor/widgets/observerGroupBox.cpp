@@ -2,6 +2,7 @@
 
 #include "zkeditor/widgets/childrenGate.h"
 #include "zkeditor/widgets/poReceiver.h"
+#include "zkeditor/widgets/subpartSource.h"
 
 #include <QEvent>
 #include <QStyleOptionGroupBox>
@@ -22,13 +23,20 @@ void ObserverGroupBox::bind(DocumentImpl* document, const std::set<NodeImpl*>& n
         unbind();
     else
         PropertyObserver::bind(document, nodes);
-    if (alive)
+    if (!alive)
+        return;
+    // Where a subpart is chosen in the box, the others in it show that subpart.
+    if (SubpartSource* source = SubpartSource::in(this))
+        source->bindContainer(this, document, nodes);
+    else
         m_contents.bind(document, nodes);
 }
 
 void ObserverGroupBox::unbind()
 {
     const QPointer<POReceiver> alive(m_receiver);
+    if (SubpartSource* source = SubpartSource::in(this))
+        source->releaseContainer();
     // What is in the box may still have something to write.
     m_contents.unbind();
     if (!alive)

@@ -11,6 +11,8 @@ class ChildrenGate;
 /// A group box that binds the observers in it. With a model property, a BOOL one, it is checkable and shows and sets
 /// the property; what is in it is disabled while the box is not checked. Nodes that disagree show as partly checked; a
 /// click then sets all of them.
+///
+/// A SubpartComboBox or SubpartListView in the box binds the other observers in it to the subpart that is chosen there.
 class ZKEDITOR_EXPORT ObserverGroupBox : public QGroupBox, public PropertyObserver
 {
     Q_OBJECT

@@ -1,0 +1,192 @@
+#include "zkeditor/widgets/propertyChoiceModel.h"
+
+#include "zkcore/model/propertyImpl.h"
+
+#include <QApplication>
+#include <QCoreApplication>
+#include <QPalette>
+
+namespace {
+
+/// Collects the rows of a document, class by class quick: what a class offers is looked up once.
+class ChoiceCollector
+{
+public:
+    ChoiceCollector(const PropertyImpl* follower, bool acceptableOnly)
+        : m_follower(follower), m_acceptableOnly(acceptableOnly)
+    {
+    }
+
+    void look(NodeImpl* node, const QString& parentName)
+    {
+        const bool isPart = node->kind() == NodeKind::Part;
+        const bool isSubpart = node->kind() == NodeKind::Subpart;
+        const QString name = isSubpart ? parentName + QStringLiteral(" / ") + node->displayName() : node->displayName();
+        for (const PropertyDefinition* definition : offeredBy(node->prototype()))
+            rows.push_back(
+                {{node->instanceId(), INVALID_CID, definition->key}, name, labelOf(node->prototype(), *definition)});
+        if (auto* space = qobject_cast<SpaceImpl*>(node))
+            lookAtDomains(space);
+        for (NodeImpl* child : node->children())
+            look(child, isPart || isSubpart ? name : QString());
+        if (auto* part = qobject_cast<PartImpl*>(node); part && part->popup())
+            look(part->popup(), QString());
+    }
+
+    std::vector<PropertyChoiceRow> rows;
+
+private:
+    void lookAtDomains(SpaceImpl* space)
+    {
+        for (const ClassId domain : space->getKnownDomains()) {
+            const NodePrototype* prototype = space->document()->getNodeDb()->lookupPrototype(domain);
+            if (!prototype)
+                continue;
+            for (const PropertyDefinition* definition : offeredBy(*prototype))
+                rows.push_back({{space->instanceId(), domain, definition->key},
+                                space->displayName(),
+                                labelOf(*prototype, *definition)});
+        }
+    }
+
+    const std::vector<const PropertyDefinition*>& offeredBy(const NodePrototype& prototype)
+    {
+        const auto known = m_offered.constFind(&prototype);
+        if (known != m_offered.constEnd())
+            return *known;
+        std::vector<const PropertyDefinition*> offered;
+        const auto isNumber = [](Value::Type type) { return type == Value::INT || type == Value::DOUBLE; };
+        for (const PropertyDefinition& definition : prototype.properties()) {
+            if (definition.flags.testFlag(PropertyDefinition::Invisible))
+                continue;
+            const bool sameKind =
+                definition.type == m_follower->type() || (isNumber(definition.type) && isNumber(m_follower->type()));
+            if (!m_acceptableOnly || (sameKind && definition.flags.testFlag(PropertyDefinition::ProxyTarget)))
+                offered.push_back(&definition);
+        }
+        return *m_offered.insert(&prototype, std::move(offered));
+    }
+
+    static QString labelOf(const NodePrototype& prototype, const PropertyDefinition& definition)
+    {
+        if (definition.label.isEmpty())
+            return definition.key.toString();
+        const QByteArray context = findStringForCid(prototype.cid).toUtf8();
+        return QCoreApplication::translate(context.constData(), definition.label.toUtf8().constData());
+    }
+
+    const PropertyImpl* m_follower;
+    const bool m_acceptableOnly;
+    QHash<const NodePrototype*, std::vector<const PropertyDefinition*>> m_offered;
+};
+
+} // namespace
+
+PropertyChoiceModel::PropertyChoiceModel(QObject* parent) : RowsModel(parent) {}
+
+PropertyChoiceModel::~PropertyChoiceModel() = default;
+
+void PropertyChoiceModel::list(DocumentImpl* document, const Property& follower, InstanceId part)
+{
+    m_document = document;
+    m_follower = follower;
+    NodeImpl* start = part != 0 ? document->nodeById(part) : document->getModel();
+    if (!start || !follower.isValid()) {
+        setRows({});
+        return;
+    }
+    ChoiceCollector collector(follower.impl(), part == 0);
+    collector.look(start, QString());
+    setRows(std::move(collector.rows));
+}
+
+void PropertyChoiceModel::clear()
+{
+    m_document = nullptr;
+    m_follower = Property();
+    setRows({});
+}
+
+void PropertyChoiceModel::refresh()
+{
+    if (rowCount() > 0)
+        Q_EMIT dataChanged(index(0, ValueColumn), index(rowCount() - 1, LinkColumn));
+}
+
+Property PropertyChoiceModel::propertyAt(int row) const
+{
+    const PropertyChoiceRow* chosen = rowAt(row);
+    return chosen && m_document ? Property(m_document->propertyAt(chosen->address)) : Property();
+}
+
+QString PropertyChoiceModel::reasonAt(int row) const
+{
+    const Property candidate = propertyAt(row);
+    if (!candidate.isValid() || !m_follower.isValid())
+        return tr("The property is not there any more.");
+    return m_follower.impl()->acceptableProxyTypes().reason(candidate);
+}
+
+int PropertyChoiceModel::columnCount(const QModelIndex& parent) const
+{
+    return parent.isValid() ? 0 : static_cast<int>(ColumnCount);
+}
+
+QVariant PropertyChoiceModel::headerData(int section, Qt::Orientation orientation, int role) const
+{
+    if (orientation != Qt::Horizontal || role != Qt::DisplayRole)
+        return {};
+    switch (section) {
+    case OwnerColumn:
+        return tr("Part");
+    case LabelColumn:
+        return tr("Property");
+    case TypeColumn:
+        return tr("Type");
+    case ValueColumn:
+        return tr("Value");
+    case LinkColumn:
+        return tr("Link");
+    default:
+        return {};
+    }
+}
+
+QVariant PropertyChoiceModel::data(const QModelIndex& index, int role) const
+{
+    const PropertyChoiceRow* row = rowAt(index.row());
+    if (!row)
+        return {};
+    if (role == searchRole)
+        return QString(row->owner + QLatin1Char(' ') + row->label);
+    if (role == Qt::ToolTipRole || role == Qt::AccessibleDescriptionRole) {
+        const QString reason = reasonAt(index.row());
+        return reason.isEmpty() ? tr("Can be linked") : reason;
+    }
+    if (role == Qt::ForegroundRole && !reasonAt(index.row()).isEmpty())
+        return QApplication::palette().color(QPalette::Disabled, QPalette::Text);
+    if (role != Qt::DisplayRole)
+        return {};
+    switch (index.column()) {
+    case OwnerColumn:
+        return row->owner;
+    case LabelColumn:
+        return row->label;
+    case TypeColumn:
+        return Value::typeAsString(propertyAt(index.row()).type());
+    case ValueColumn: {
+        const Property property = propertyAt(index.row());
+        const Formatter* formatter = property.getFormatter();
+        return formatter ? formatter->toText(property.getValue()) : formatValueAsString(property.getValue());
+    }
+    case LinkColumn: {
+        if (m_follower.isValid() && m_follower.impl()->isProxy() &&
+            m_follower.impl()->proxySubject() == propertyAt(index.row()).impl())
+            return tr("Linked");
+        const QString reason = reasonAt(index.row());
+        return reason.isEmpty() ? tr("Possible") : reason;
+    }
+    default:
+        return {};
+    }
+}

@@ -1,0 +1,42 @@
+#include "zkeditor/widgets/toolAction.h"
+
+#include "zkcore/media/imageCache.h"
+#include "zkcore/media/resource.h"
+
+#include <QAction>
+#include <QKeySequence>
+#include <QLabel>
+#include <QToolButton>
+
+QIcon toolAction::icon(const char* resource)
+{
+    QIcon icon;
+    for (const int side : {16, 24, 32, 48})
+        icon.addPixmap(ImageCache::getPixmap(Resource(resource), QSize(side, side), 1.0));
+    return icon;
+}
+
+QToolButton* toolAction::addButton(QWidget* editor, QAction* action, const QKeySequence& keys)
+{
+    action->setShortcut(keys);
+    action->setShortcutContext(Qt::WidgetWithChildrenShortcut);
+    if (!keys.isEmpty())
+        action->setToolTip(QStringLiteral("%1 (%2)").arg(action->text(), keys.toString(QKeySequence::NativeText)));
+    editor->addAction(action);
+    auto* button = new QToolButton(editor);
+    button->setDefaultAction(action);
+    button->setAutoRaise(true);
+    button->setFocusPolicy(Qt::TabFocus);
+    button->setAccessibleName(action->text());
+    return button;
+}
+
+void toolAction::makeMessageLabel(QLabel* label)
+{
+    label->setWordWrap(true);
+    label->setTextFormat(Qt::PlainText);
+    QPalette red = label->palette();
+    red.setColor(QPalette::WindowText, Qt::red);
+    label->setPalette(red);
+    label->hide();
+}

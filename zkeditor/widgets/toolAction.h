@@ -1,0 +1,21 @@
+#pragma once
+
+#include <QIcon>
+
+class QAction;
+class QKeySequence;
+class QLabel;
+class QToolButton;
+class QWidget;
+
+/// The small buttons and messages of editors that consist of several widgets.
+namespace toolAction {
+
+/// One of the library's pictures ("editor/lists/add") as an icon of all usual sizes.
+QIcon icon(const char* resource);
+/// A flat button for an action, which gets its keys; they work while the focus is in the editor.
+QToolButton* addButton(QWidget* editor, QAction* action, const QKeySequence& keys);
+/// Makes a label one that says in red why something was not done; hidden at first.
+void makeMessageLabel(QLabel* label);
+
+} // namespace toolAction
