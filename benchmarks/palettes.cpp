@@ -15,6 +15,7 @@
 #include <QMainWindow>
 #include <QPixmap>
 #include <QVBoxLayout>
+#include <cstdio>
 #include <iterator>
 #include <vector>
 
@@ -138,6 +139,12 @@ int main(int argc, char** argv)
 {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     const QApplication application(argc, argv);
+    // The platform without a screen warns at every change of a window's smallest size.
+    const auto onlyFatal = [](QtMsgType type, const QMessageLogContext&, const QString& text) {
+        if (type == QtFatalMsg)
+            std::fprintf(stderr, "%s\n", qPrintable(text));
+    };
+    qInstallMessageHandler(onlyFatal);
     Package::all();
     reportRichestPart();
     SelectionFigures figures;
