@@ -4,18 +4,21 @@
 #include "tests/support/testDocument.h"
 #include "zkcore/commands/addNodesCommand.h"
 #include "zkeditor/modelsModel.h"
+#include "zkeditor/settingsService.h"
 
 #include <QAbstractItemModelTester>
 #include <QDir>
 #include <QFile>
 #include <QIcon>
 #include <QImage>
+#include <QMainWindow>
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QToolButton>
 #include <QTreeView>
 #include <gtest/gtest.h>
+#include <unistd.h>
 
 namespace {
 
@@ -104,7 +107,8 @@ TEST_F(ModelsBrowserTest, UnreadableDocumentsSayWhy)
     EXPECT_TRUE(fault("cut").startsWith(QString::number(cut.count('\n') + 1) + u':')) << fault("cut").toStdString();
     EXPECT_TRUE(fault("wrong").startsWith(QStringLiteral("2:"))) << fault("wrong").toStdString();
     EXPECT_TRUE(fault("wrong").contains(QStringLiteral("version is 77"))) << fault("wrong").toStdString();
-    EXPECT_TRUE(QTest::qWaitFor([this] { return !model->index(1, 0).data(ModelsModel::FaultRole).toString().isEmpty(); }));
+    EXPECT_TRUE(
+        QTest::qWaitFor([this] { return !model->index(1, 0).data(ModelsModel::FaultRole).toString().isEmpty(); }));
 }
 
 TEST_F(ModelsBrowserTest, FollowsTheDisk)
@@ -145,4 +149,25 @@ TEST_F(ModelsBrowserTest, GreatScenesAreCutBetweenTwoParts)
     EXPECT_TRUE(QTest::qWaitFor([this] { return names() == QStringList("great"); }));
     EXPECT_TRUE(QTest::qWaitFor([this] { return hasPreview("great") || !fault("great").isEmpty(); }));
     EXPECT_EQ(fault("great"), QString());
+}
+
+TEST_F(ModelsBrowserTest, TheSettingsKeepTheFolders)
+{
+    // There is one service in a process, and other tests have theirs.
+    EXPECT_EXIT(
+        {
+            QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, folder.path());
+            QMainWindow window;
+            window.setObjectName(QStringLiteral("mainWindow"));
+            if (!SettingsService::exists())
+                SettingsService::createService(&window, QStringLiteral("models"), QSettings::UserScope);
+            ModelsBrowser first;
+            first.addFolder(folder.path());
+            first.addFolder(path("gone"));
+            first.addFolder(path("other"));
+            first.removeFolder(path("other"));
+            ModelsBrowser second;
+            _exit(second.folders() == QStringList({folder.path(), path("gone")}) ? 0 : 1);
+        },
+        testing::ExitedWithCode(0), "");
 }
