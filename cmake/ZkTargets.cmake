@@ -25,7 +25,7 @@ function(zk_include_root target)
     file(MAKE_DIRECTORY ${parent})
     file(CREATE_LINK ${PROJECT_SOURCE_DIR}/${folder} ${root}/${folder} SYMBOLIC)
   endforeach()
-  target_include_directories(${target} PUBLIC ${root})
+  target_include_directories(${target} PUBLIC $<BUILD_INTERFACE:${root}>)
 endfunction()
 
 # zk_sources(<variable> <folder>...) collects the sources and headers of folders.

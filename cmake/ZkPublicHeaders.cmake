@@ -1,0 +1,37 @@
+# Which headers are for those who use the libraries: those that export something, and what such a header includes.
+# As a script (cmake -P cmake/ZkPublicHeaders.cmake) it prints their names, one a line.
+cmake_policy(VERSION 3.25)
+
+# zk_public_headers(<variable> <source tree>) gives the names relative to the source tree.
+function(zk_public_headers variable tree)
+  file(GLOB_RECURSE headers RELATIVE ${tree} ${tree}/zkcore/*.h ${tree}/zkeditor/*.h)
+  set(waiting)
+  foreach(header IN LISTS headers)
+    file(STRINGS ${tree}/${header} exported REGEX "ZK[A-Z]*_EXPORT " LIMIT_COUNT 1)
+    if(exported)
+      list(APPEND waiting ${header})
+    endif()
+  endforeach()
+  set(found)
+  while(waiting)
+    list(POP_FRONT waiting header)
+    list(APPEND found ${header})
+    file(STRINGS ${tree}/${header} lines REGEX "^#include \"zk")
+    foreach(line IN LISTS lines)
+      string(REGEX REPLACE "^#include \"([^\"]+)\".*" "\\1" included "${line}")
+      if(NOT included IN_LIST found AND NOT included IN_LIST waiting)
+        list(APPEND waiting ${included})
+      endif()
+    endforeach()
+  endwhile()
+  list(SORT found)
+  set(${variable} ${found} PARENT_SCOPE)
+endfunction()
+
+if(CMAKE_SCRIPT_MODE_FILE STREQUAL CMAKE_CURRENT_LIST_FILE)
+  get_filename_component(tree ${CMAKE_CURRENT_LIST_DIR}/.. ABSOLUTE)
+  zk_public_headers(headers ${tree})
+  list(JOIN headers "\n" text)
+  # message() would print to the channel of errors.
+  execute_process(COMMAND ${CMAKE_COMMAND} -E echo "${text}")
+endif()
