@@ -189,7 +189,6 @@ void SpaceTabs::makeView(int index)
         return;
     auto* view = new SceneView(m_document, space, m_editor);
     widget(index)->layout()->addWidget(view);
-    widget(index)->setFocusProxy(view);
     connect(view, &SceneView::pointerMoved, this, &SpaceTabs::pointerMoved);
     connect(view, &SceneView::pointerLeft, this, &SpaceTabs::pointerLeft);
     connect(view, &SceneView::zoomChanged, this, &SpaceTabs::zoomChanged);

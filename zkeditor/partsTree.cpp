@@ -44,7 +44,6 @@ PartsTree::PartsTree(DocumentImpl* document, QWidget* parent)
     layout->setSpacing(4);
     layout->addWidget(m_field);
     layout->addWidget(m_view, 1);
-    setFocusProxy(m_field);
 }
 
 PartsTree::~PartsTree() = default;

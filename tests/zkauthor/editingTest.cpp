@@ -1,10 +1,12 @@
 #include "windowTest.h"
 
 #include "tests/support/testDocument.h"
-#include "zkauthor/formsDock.h"
 #include "zkauthor/sceneView.h"
 #include "zkauthor/spaceTabs.h"
 #include "zkcore/commands/setUILockedCommand.h"
+#include "zkeditor/propPalette.h"
+#include "zkeditor/widgets/msgPane.h"
+#include "zkeditor/widgets/nodePaletteBox.h"
 
 #include <QAction>
 #include <QApplication>
@@ -23,7 +25,7 @@ protected:
     /// The check box of the form that stands for a property.
     QCheckBox* box(const char* property)
     {
-        for (QCheckBox* found : m_window->formsDock()->widget()->findChildren<QCheckBox*>()) {
+        for (QCheckBox* found : properties()->findChildren<QCheckBox*>()) {
             if (found->isVisible() && found->property("modelProperty").toString() == QLatin1String(property))
                 return found;
         }
@@ -32,8 +34,11 @@ protected:
 
     QString message()
     {
-        const auto* label = m_window->formsDock()->findChild<QLabel*>(QStringLiteral("formsMessage"));
-        return label && label->isVisible() ? label->text() : QString();
+        for (const MsgPane* pane : properties()->findChildren<MsgPane*>()) {
+            if (pane->isVisible())
+                return pane->findChild<QLabel*>()->text();
+        }
+        return {};
     }
 
     bool lit(const char* id) { return part(id)->valueOfProperty(PropertyKey::fromString("lit")).toBool(); }
@@ -71,17 +76,17 @@ TEST_F(EditingTest, EditOfTwoLampsIsOneUndoStepAndSurvivesSaving)
 
 TEST_F(EditingTest, FormFollowsTheSelection)
 {
-    EXPECT_EQ(m_window->formsDock()->windowTitle(), "Scene Properties");
+    EXPECT_EQ(properties()->windowTitle(), "Properties");
     clickPart("lamp1");
     const QPointer<QCheckBox> first = box("lit");
-    EXPECT_EQ(m_window->formsDock()->windowTitle(), "LED Properties");
+    EXPECT_EQ(properties()->windowTitle(), "LED Properties");
 
-    // Another part of the class keeps the form, bound to that part alone.
     clickPart("lamp2");
-    EXPECT_EQ(box("lit"), first);
-    first->click();
+    box("lit")->click();
     EXPECT_TRUE(lit("lamp2"));
     EXPECT_FALSE(lit("lamp1"));
+    QTest::qWait(0); // the old form goes now
+    EXPECT_FALSE(first);
 
     clickPart("cell", Qt::ShiftModifier);
     EXPECT_EQ(message(), "Multiple parts selected");
@@ -90,25 +95,27 @@ TEST_F(EditingTest, FormFollowsTheSelection)
     view().setFocus();
     keys(Qt::Key_Escape);
     EXPECT_EQ(selectedIds(), QStringList());
-    EXPECT_EQ(m_window->formsDock()->windowTitle(), "Scene Properties");
-    QTest::qWait(0); // the old forms go now
-    EXPECT_FALSE(first);
+    EXPECT_EQ(properties()->windowTitle(), "Properties");
+    properties()->showSpaceProperties();
+    EXPECT_EQ(properties()->windowTitle(), "Scene Properties");
 }
 
-TEST_F(EditingTest, FoldedSectionStaysFoldedForTheClass)
+TEST_F(EditingTest, SectionsAreRememberedForTheClass)
 {
-    const auto header = [this] {
-        return m_window->formsDock()->findChild<QToolButton*>(QStringLiteral("sectionHeader"));
-    };
+    const auto boxOfItems = [this] { return properties()->findChild<NodePaletteBox*>(); };
     clickPart("lamp1");
+    ASSERT_TRUE(boxOfItems());
+    ASSERT_EQ(boxOfItems()->openedItemIndex(), 0);
     ASSERT_TRUE(box("lit"));
-    header()->click();
+    boxOfItems()->showItem(1, true);
     EXPECT_FALSE(box("lit"));
     clickPart("cell");
     QTest::qWait(0);
+    EXPECT_EQ(boxOfItems()->openedItemIndex(), 0);
     clickPart("lamp2");
-    EXPECT_FALSE(box("lit"));
-    header()->click();
+    QTest::qWait(0);
+    EXPECT_EQ(boxOfItems()->openedItemIndex(), 1);
+    boxOfItems()->showItem(0, true);
     EXPECT_TRUE(box("lit"));
 }
 
@@ -119,7 +126,7 @@ TEST_F(EditingTest, DeletedPartsComeBackSelectedWithTheirWires)
     QTest::keyClick(&view(), Qt::Key_Delete);
     EXPECT_FALSE(part("lamp1"));
     EXPECT_FALSE(part("wire"));
-    EXPECT_EQ(m_window->formsDock()->windowTitle(), "Scene Properties");
+    EXPECT_EQ(properties()->windowTitle(), "Properties");
     trigger("undo");
     EXPECT_EQ(bytesOf(document()), before);
     EXPECT_EQ(selectedIds(), QStringList{"lamp1"});

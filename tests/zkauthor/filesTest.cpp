@@ -19,14 +19,14 @@ protected:
 
 TEST_F(FilesTest, TitleNamesTheFileAndTheChange)
 {
-    EXPECT_EQ(m_window->windowTitle(), "sample.zkdoc[*] - zkauthor");
+    EXPECT_EQ(m_window->windowTitle(), "sample.zkdoc[*] - zkauthor (unlicensed evaluation)");
     EXPECT_FALSE(m_window->isWindowModified());
     change();
     EXPECT_TRUE(m_window->isWindowModified());
     trigger("undo");
     EXPECT_FALSE(m_window->isWindowModified());
     trigger("new");
-    EXPECT_EQ(m_window->windowTitle(), "Untitled[*] - zkauthor");
+    EXPECT_EQ(m_window->windowTitle(), "Untitled[*] - zkauthor (unlicensed evaluation)");
 }
 
 TEST_F(FilesTest, ClosingAsksAboutChanges)

@@ -3,11 +3,13 @@
 
 #include "tests/support/messageCapture.h"
 #include "tests/support/testDocument.h"
-#include "zkauthor/formsDock.h"
+#include "zkauthor/palettes.h"
 #include "zkauthor/spaceTabs.h"
 #include "zkcore/commands/setValueCommand.h"
 #include "zkcore/model/documentImpl.h"
 #include "zkcore/model/propertyImpl.h"
+#include "zkeditor/propPalette.h"
+#include "zkeditor/sidePane.h"
 #include "zkeditor/widgets/paneWidget.h"
 
 #include <QAbstractButton>
@@ -135,7 +137,7 @@ TEST_F(GalleryTest, APendingEditIsWrittenToThePartItWasTypedFor)
     const auto select = [this] { clickPart("second"); };
     const auto selectFromElsewhere = [this] { document().setSelection({part("second")}); };
     const auto save = [this] { trigger("save"); };
-    const auto closePane = [this] { m_window->formsDock()->close(); };
+    const auto closePane = [this] { m_window->palettes()->sidePane()->close(); };
     const auto leaveWindow = [] {
         QWidget other;
         other.show();
@@ -150,7 +152,7 @@ TEST_F(GalleryTest, APendingEditIsWrittenToThePartItWasTypedFor)
     for (const auto& [name, end] : ends) {
         for (const Field& field : fields()) {
             SCOPED_TRACE(std::string(name) + ", " + field.control + " " + (field.editor ? field.editor : ""));
-            m_window->formsDock()->show();
+            m_window->palettes()->sidePane()->show();
             GalleryTest::select({"first"});
             m_window->activateWindow();
             ASSERT_TRUE(QTest::qWaitForWindowActive(m_window.get()));
@@ -186,7 +188,7 @@ TEST_F(GalleryTest, WalkingThroughMixedFieldsChangesNothing)
         do {
             seen.insert(focus->objectName());
             EXPECT_FALSE(told(focus, QAccessible::Name).isEmpty()) << focus->objectName().toStdString();
-            if (m_window->formsDock()->isAncestorOf(focus)) {
+            if (properties()->isAncestorOf(focus)) {
                 QTest::keyClick(focus, Qt::Key_Escape);
                 if (qobject_cast<QLineEdit*>(focus))
                     QTest::keyClick(focus, Qt::Key_Return);
@@ -194,7 +196,7 @@ TEST_F(GalleryTest, WalkingThroughMixedFieldsChangesNothing)
             }
             QTest::keyClick(focus, key);
             focus = QApplication::focusWidget();
-        } while (focus && focus != first && ++count < 200);
+        } while (focus && focus != first && ++count < 300);
         EXPECT_EQ(focus, first);
         for (const char* name : {"latchedButton", "weatherCombo", "cornerCombo", "remarkEdit", "distanceEdit",
                                  "distanceUnit", "double_spinbox_edit", "levelSlider", "depthUnit", "color_button",
@@ -322,7 +324,7 @@ TEST_F(GalleryTest, AHeldKeyIsOneStepInEveryControlThatStepsByKeys)
 
 TEST_F(GalleryTest, PageKeysScrollThePaneExceptInSliders)
 {
-    auto* area = m_window->formsDock()->findChild<QScrollArea*>();
+    auto* area = properties()->findChild<QScrollArea*>();
     for (const Field& field : fields()) {
         QLineEdit* editor = editorOf(field);
         editor->setFocus();
@@ -378,7 +380,7 @@ TEST_F(GalleryTest, RefusedTextIsRedExplainedAndGoesOnCommit)
 
 TEST_F(GalleryTest, TheWheelScrollsThePanePastEveryControl)
 {
-    auto* bar = m_window->formsDock()->findChild<QScrollArea*>()->verticalScrollBar();
+    auto* bar = properties()->findChild<QScrollArea*>()->verticalScrollBar();
     const QByteArray before = bytesOf(document());
     m_window->spaceTabs()->setFocus();
     int controls = 0;

@@ -1,14 +1,17 @@
 #include "windowTest.h"
 
 #include "tests/support/testDocument.h"
+#include "zkauthor/palettes.h"
 #include "zkauthor/sceneView.h"
 #include "zkauthor/spaceTabs.h"
 #include "zkcore/commands/addNodesCommand.h"
 #include "zkcore/commands/setValueCommand.h"
+#include "zkeditor/settingsService.h"
 
 #include <QAbstractButton>
 #include <QAction>
 #include <QApplication>
+#include <QMainWindow>
 #include <QSettings>
 #include <QTest>
 #include <QTimer>
@@ -17,6 +20,12 @@
 void WindowTest::SetUp()
 {
     QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, path("settings"));
+    if (!SettingsService::exists()) {
+        // There is one for the process, and it wants a window that stays.
+        static auto* const owner = new QMainWindow;
+        owner->setObjectName(QStringLiteral("settingsOwner"));
+        SettingsService::createService(owner, QStringLiteral("zkauthor"), QSettings::UserScope);
+    }
     DocumentImpl sample;
     PartImpl* cell = addPart(sample, "electronics/battery", {0.05, 0.05});
     PartImpl* lamp1 = addPart(sample, "electronics/led", {0.09, 0.05});
@@ -47,6 +56,11 @@ void WindowTest::TearDown()
 SceneView& WindowTest::view()
 {
     return *m_window->spaceTabs()->currentView();
+}
+
+PropPalette* WindowTest::properties()
+{
+    return m_window->palettes()->properties();
 }
 
 PartImpl* WindowTest::part(const char* id)

@@ -9,6 +9,7 @@
 #include <memory>
 
 class ElementImpl;
+class PropPalette;
 class PartImpl;
 class SceneView;
 
@@ -22,6 +23,7 @@ protected:
 
     DocumentImpl& document() { return *m_window->document(); }
     SceneView& view();
+    PropPalette* properties();
     PartImpl* part(const char* id);
     /// The middle of the part, in the view's viewport.
     QPoint placeOf(const char* id);

@@ -13,6 +13,16 @@
 
 namespace {
 
+bool isWithinCompound(const QWidget* widget)
+{
+    for (const QWidget* parent = widget->parentWidget(); parent && !parent->isWindow();
+         parent = parent->parentWidget()) {
+        if (parent->focusProxy() && parent->isAncestorOf(parent->focusProxy()))
+            return true;
+    }
+    return false;
+}
+
 constexpr int leastPaletteBoxWidth = 200;
 
 } // namespace
@@ -248,7 +258,8 @@ void PaletteBox::orderTabs(int from)
     // Contents are older than their headers, so the toolkit's own order would have them first.
     std::vector<std::vector<QWidget*>> receivers(m_items.size());
     for (QWidget* w = nextInFocusChain(); w && w != this; w = w->nextInFocusChain()) {
-        if (!(w->focusPolicy() & Qt::TabFocus) || w->focusProxy() || !isAncestorOf(w))
+        // Compound controls hand the focus on to a child; the toolkit moves them with what is in them.
+        if (!((w->focusPolicy() & Qt::TabFocus) || w->focusProxy()) || !isAncestorOf(w) || isWithinCompound(w))
             continue;
         for (size_t i = 0; i < m_items.size(); ++i) {
             if (m_items[i]->isAncestorOf(w) && w != m_items[i]->button())
