@@ -92,7 +92,6 @@ zk_package(application zkauthor)
 set(CPACK_PACKAGE_NAME zkeditor)
 set(CPACK_PACKAGE_VENDOR "the zkeditor authors")
 set(CPACK_PACKAGE_CONTACT "The zkeditor authors <zkeditor@localhost>")
-set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "Interactive teaching models")
 set(CPACK_PACKAGE_CHECKSUM SHA256)
 set(CPACK_PACKAGING_INSTALL_PREFIX ${CMAKE_INSTALL_PREFIX})
 set(CPACK_COMPONENTS_ALL runtime development application)
@@ -109,13 +108,13 @@ set(sameRuntime "libzkeditor${zkAbi} (= ${PROJECT_VERSION})")
 set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_DEPENDS "${sameRuntime}, qt6-base-dev")
 set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_SUGGESTS "designer-qt6")
 set(CPACK_DEBIAN_APPLICATION_PACKAGE_DEPENDS "${sameRuntime}")
-set(CPACK_COMPONENT_RUNTIME_DESCRIPTION "Editing widgets for documents made of parts, libraries
- Forms drawn in the form designer bind themselves to what is selected, one part
- or a hundred thousand, and every change goes through one undo history.")
-set(CPACK_COMPONENT_DEVELOPMENT_DESCRIPTION "Editing widgets for documents made of parts, development files
- Headers, package files for CMake, documentation, and the plug-in with which
- the form designer offers the widgets.")
-set(CPACK_COMPONENT_APPLICATION_DESCRIPTION "Opens, edits and prints interactive teaching models
- Circuits, flowcharts and machines are put together from parts, edited in
- forms, run, and printed.")
+set(CPACK_DEBIAN_RUNTIME_DESCRIPTION "editing widgets for documents made of parts - libraries
+Forms drawn in the form designer bind themselves to what is selected, one part
+or a hundred thousand, and every change goes through one undo history.")
+set(CPACK_DEBIAN_DEVELOPMENT_DESCRIPTION "editing widgets for documents made of parts - development
+Headers, package files for CMake, documentation, and the plug-in with which the
+form designer offers the widgets.")
+set(CPACK_DEBIAN_APPLICATION_DESCRIPTION "editor for interactive teaching models
+Circuits, flowcharts and machines are put together from parts, edited in forms,
+run, and printed.")
 include(CPack)

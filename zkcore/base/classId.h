@@ -14,7 +14,7 @@ constexpr ClassId INVALID_CID = 0;
 
 /// The class id for a text; INVALID_CID for a null or empty text.
 ZKCORE_EXPORT ClassId getCidForString(const char* text);
-ZKCORE_EXPORT ClassId getCidForString(const QString& text);
+ZKCORE_EXPORT ClassId getCidForString(const QString& text); ///< likewise
 
 /// The text of a class id, for messages; empty for INVALID_CID and for numbers never given out.
 ZKCORE_EXPORT QString findStringForCid(const ClassId& cid);

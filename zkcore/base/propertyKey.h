@@ -28,7 +28,7 @@ private:
 
     unsigned int m_number = 0;
 };
-
+/// For hash tables by key.
 inline size_t qHash(PropertyKey key, size_t seed = 0)
 {
     return ::qHash(key.number(), seed);

@@ -26,7 +26,7 @@ private:
     bool m_reflect = true;
     InstanceId m_firstId = 0;
 };
-
+/// Shows a part's controls, or takes them away again.
 class ZKCORE_EXPORT ReflectControlsCommand : public ReflectCommand
 {
 public:
@@ -36,7 +36,7 @@ public:
     }
     QString getXMLClass() const override;
 };
-
+/// Shows a part's pads, or takes them away again.
 class ZKCORE_EXPORT ReflectPadsCommand : public ReflectCommand
 {
 public:
@@ -46,7 +46,7 @@ public:
     }
     QString getXMLClass() const override;
 };
-
+/// Shows a part's body, or takes it away again.
 class ZKCORE_EXPORT ReflectBodyCommand : public ReflectCommand
 {
 public:

@@ -22,7 +22,7 @@ public:
     explicit Element(const Node& node);
     ElementImpl* impl() const;
 };
-
+/// The handle of a part.
 class ZKCORE_EXPORT Part : public Element
 {
 public:
@@ -31,7 +31,7 @@ public:
     explicit Part(const Node& node);
     PartImpl* impl() const;
 };
-
+/// The handle of a scene or pop-up.
 class ZKCORE_EXPORT Space : public Node
 {
 public:
@@ -46,7 +46,7 @@ public:
     Property getProperty(Property::Key key, ClassId domain) const;
     Value valueOfProperty(Property::Key key, ClassId domain) const;
 };
-
+/// The handle of a scene.
 class ZKCORE_EXPORT Scene : public Space
 {
 public:
@@ -55,7 +55,7 @@ public:
     explicit Scene(const Node& node);
     SceneImpl* impl() const;
 };
-
+/// The handle of a pop-up.
 class ZKCORE_EXPORT Popup : public Space
 {
 public:
@@ -64,7 +64,7 @@ public:
     explicit Popup(const Node& node);
     PopupImpl* impl() const;
 };
-
+/// The handle of a document's root.
 class ZKCORE_EXPORT Model : public Node
 {
 public:

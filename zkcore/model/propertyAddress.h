@@ -15,7 +15,7 @@ struct PropertyAddress
     bool isValid() const { return node != 0 && key.isValid(); }
     friend bool operator==(const PropertyAddress&, const PropertyAddress&) = default;
 };
-
+/// For hash tables by address.
 inline size_t qHash(const PropertyAddress& a, size_t seed = 0)
 {
     return qHashMulti(seed, a.node, a.domain, a.key.number());

@@ -47,7 +47,7 @@ private:
 
     std::map<ClassId, PropertyStore> m_domains; // made when a value is first set or a property first asked for
 };
-
+/// A scene: what is edited and printed as one picture.
 class ZKCORE_EXPORT SceneImpl : public SpaceImpl
 {
     Q_OBJECT
@@ -59,7 +59,7 @@ private:
     friend class NodeFactory;
     SceneImpl(DocumentImpl* document, const NodePrototype* prototype, InstanceId id);
 };
-
+/// A pop-up: the space that a part owns and opens.
 class ZKCORE_EXPORT PopupImpl : public SpaceImpl
 {
     Q_OBJECT

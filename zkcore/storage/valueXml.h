@@ -6,7 +6,7 @@
 class QXmlStreamReader;
 class QXmlStreamWriter;
 
-/// Values of every type as XML: scalars as text, the other kinds as nested <item> elements.
+/// Values of every type as XML: scalars as text, the other kinds as nested `<item>` elements.
 class ZKCORE_EXPORT ValueXml
 {
 public:

@@ -4,7 +4,7 @@
 
 #include <QDomNode>
 #include <QString>
-
+/// Finds its way in a document of nodes.
 class ZKCORE_EXPORT XMLUtils
 {
 public:

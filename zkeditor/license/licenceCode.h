@@ -8,6 +8,7 @@
 /// Licence codes: a licence with an Ed25519 signature over it, as groups of letters.
 namespace licenceCode {
 
+/// What licences are signed with (secret) and checked with (public).
 struct KeyPair
 {
     QByteArray publicKey; ///< 32 bytes
@@ -22,6 +23,7 @@ ZKEDITOR_EXPORT KeyPair makeKeyPair();
 /// bytes, no holder or product, no date of issue, dates or seats out of range, a key that is none.
 ZKEDITOR_EXPORT QString sign(const Licence& licence, const QByteArray& secretKey, QString* error = nullptr);
 
+/// What became of reading a code.
 struct ZKEDITOR_EXPORT Check
 {
     enum Fault {

@@ -23,6 +23,7 @@ ZKEDITOR_EXPORT QString fromBytes(const QByteArray& bytes);
 /// Puts a text in the shape that fromBytes() gives, as far as it goes; for texts that are pasted.
 ZKEDITOR_EXPORT QString normalised(const QString& text);
 
+/// What became of reading a text, and where it is wrong.
 struct ZKEDITOR_EXPORT Reading
 {
     enum Fault {
