@@ -26,9 +26,9 @@ using TreeFigures = std::vector<double>;
 
 QTreeWidgetItem* bareRow(const NodeImpl* node)
 {
-    auto* row = new QTreeWidgetItem({findStringForCid(node->classId()),
-                                     node->valueOfProperty(coreKeys::id()).toQString(),
-                                     QString::number(node->instanceId())});
+    auto* row =
+        new QTreeWidgetItem({findStringForCid(node->classId()), node->valueOfProperty(coreKeys::id()).toQString(),
+                             QString::number(node->instanceId())});
     QList<QTreeWidgetItem*> children;
     for (const NodeImpl* child : node->children())
         children.append(bareRow(child));
@@ -147,12 +147,14 @@ double measureRemovalOfAll(size_t parts, bool inspected)
 void addClasses(DocumentImpl& document, size_t count)
 {
     const NodePrototype* pattern = document.getNodeDb()->lookupPrototype(getCidForString("electronics/led"));
-    const char* const words[] = {"Lamp", "Switch", "Motor", "Gear", "Sensor", "Buzzer", "Relay", "Valve", "Meter", "Pump"};
+    const char* const words[] = {"Lamp",   "Switch", "Motor", "Gear",  "Sensor",
+                                 "Buzzer", "Relay",  "Valve", "Meter", "Pump"};
     for (size_t i = 0; i < count; ++i) {
         auto prototype = std::make_shared<NodePrototype>(*pattern);
         prototype->cid = getCidForString(QStringLiteral("bench/class%1").arg(i));
-        prototype->label = QStringLiteral("%1 %2 %3").arg(QLatin1String(words[i % 10]),
-                                                          QLatin1String(words[i / 10 % 10]), QString::number(i));
+        prototype->label =
+            QStringLiteral("%1 %2 %3")
+                .arg(QLatin1String(words[i % 10]), QLatin1String(words[i / 10 % 10]), QString::number(i));
         prototype->group = QStringLiteral("Group %1").arg(i % 40);
         prototype->addMetaProperties();
         document.getNodeDb()->addPrototype(std::move(prototype));

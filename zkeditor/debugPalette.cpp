@@ -90,9 +90,9 @@ void DebugPalette::selectionChanged()
         return;
     }
     const ElementImpl* first = *selection.begin();
-    const QString name = QStringLiteral("%1 [%2] %3")
-                             .arg(first->displayName(), QString::number(first->instanceId()),
-                                  findStringForCid(first->classId()));
+    const QString name =
+        QStringLiteral("%1 [%2] %3")
+            .arg(first->displayName(), QString::number(first->instanceId()), findStringForCid(first->classId()));
     m_selected->setText(selection.size() == 1
                             ? name
                             : tr("%1 (the first of %2 selected)").arg(name, QString::number(selection.size())));

@@ -93,8 +93,8 @@ DocumentExcerpt readDocumentExcerpt(const QString& fileName, const std::atomic<b
         return {};
     if (xml.hasError()) {
         excerpt.fault = QStringLiteral("%1:%2: %3")
-                            .arg(QString::number(xml.lineNumber()), QString::number(std::max<qint64>(xml.columnNumber(), 1)),
-                                 xml.errorString());
+                            .arg(QString::number(xml.lineNumber()),
+                                 QString::number(std::max<qint64>(xml.columnNumber(), 1)), xml.errorString());
         return excerpt;
     }
     // Without a scene the whole of it says why it is no document.

@@ -105,8 +105,8 @@ QStringList ModelsModel::folders() const
 
 QModelIndex ModelsModel::indexOfFolder(const QString& path) const
 {
-    const auto found = std::find_if(m_folders.begin(), m_folders.end(),
-                                    [&path](const auto& folder) { return folder->path == path; });
+    const auto found =
+        std::find_if(m_folders.begin(), m_folders.end(), [&path](const auto& folder) { return folder->path == path; });
     return found == m_folders.end() ? QModelIndex() : createIndex(static_cast<int>(found - m_folders.begin()), 0);
 }
 
@@ -257,8 +257,7 @@ void ModelsModel::applyPreview(const QString& file, int generation, const Docume
     document.fault = excerpt.fault;
     document.picture = QIcon();
     if (document.fault.isEmpty() && !excerpt.text.isNull()) {
-        const QPixmap picture =
-            paintDocumentPreview(excerpt, pictureSize, qGuiApp->devicePixelRatio(), document.fault);
+        const QPixmap picture = paintDocumentPreview(excerpt, pictureSize, qGuiApp->devicePixelRatio(), document.fault);
         if (!picture.isNull())
             document.picture = QIcon(centred(picture, pictureSize));
     }
@@ -326,8 +325,7 @@ QVariant ModelsModel::data(const QModelIndex& index, int role) const
     if (role == PathRole)
         return path(index);
     const Document* document = documentAt(index);
-    return document ? documentData(*document, role)
-                    : folderData(*m_folders[static_cast<size_t>(index.row())], role);
+    return document ? documentData(*document, role) : folderData(*m_folders[static_cast<size_t>(index.row())], role);
 }
 
 QIcon ModelsModel::icon(const QString& name, const QSize& size) const

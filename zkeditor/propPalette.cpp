@@ -11,6 +11,7 @@
 #include "zkeditor/widgets/paneScrollArea.h"
 #include "zkeditor/widgets/panelTopArea.h"
 #include "zkeditor/widgets/spacePropertyPane.h"
+#include "zkeditor/widgets/updatesSuspended.h"
 
 #include <QHBoxLayout>
 #include <QVBoxLayout>
@@ -87,14 +88,12 @@ void PropPalette::setDocument(DocumentImpl* document)
     m_document = document;
     m_undoRedoActive = false;
     if (!document) {
-        const bool updates = updatesEnabled();
-        setUpdatesEnabled(false);
+        const UpdatesSuspended suspended(this);
         ++m_paneNumber;
         m_showsScene = false;
         QWidget* holder = newPaneHolder(widget());
         createNoSelectionPane(holder);
         replaceContent(holder);
-        setUpdatesEnabled(updates);
         return;
     }
     connect(document, &DocumentImpl::SelectionChanged, this, &PropPalette::selectionChanged);
@@ -133,8 +132,7 @@ void PropPalette::showSelectedPartProperties()
 void PropPalette::showPartProperties(const std::set<ElementImpl*>& elements)
 {
     ZK_ASSERT(m_document);
-    const bool updates = updatesEnabled();
-    setUpdatesEnabled(false);
+    const UpdatesSuspended suspended(this);
     const unsigned int number = ++m_paneNumber;
     m_showsScene = false;
     QWidget* holder = newPaneHolder(widget());
@@ -158,7 +156,6 @@ void PropPalette::showPartProperties(const std::set<ElementImpl*>& elements)
         PaneWidget::unbindChildren(holder);
         holder->deleteLater();
     }
-    setUpdatesEnabled(updates);
 }
 
 void PropPalette::createNoSelectionPane(QWidget* parent)
@@ -278,8 +275,7 @@ void PropPalette::showSpaceProperties()
 
 void PropPalette::showSpace(SpaceImpl* space)
 {
-    const bool updates = updatesEnabled();
-    setUpdatesEnabled(false);
+    const UpdatesSuspended suspended(this);
     const unsigned int number = ++m_paneNumber;
     setWindowTitle(tr("Scene Properties"));
     QWidget* holder = newPaneHolder(widget());
@@ -292,7 +288,6 @@ void PropPalette::showSpace(SpaceImpl* space)
         PaneWidget::unbindChildren(holder);
         holder->deleteLater();
     }
-    setUpdatesEnabled(updates);
 }
 
 void PropPalette::refreshSpacePane()

@@ -50,7 +50,8 @@ public:
     ModelsBrowser* getModelsBrowser() const { return m_modelsBrowser; }
 
 Q_SIGNALS:
-    /// The user chose a class in the parts tree, whichever tree is shown now. The host adds a part to the scene on view.
+    /// The user chose a class in the parts tree, whichever tree is shown now. The host adds a part to the scene on
+    /// view.
     void partChosen(unsigned int cid);
 
 public Q_SLOTS:

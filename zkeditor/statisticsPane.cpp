@@ -76,12 +76,11 @@ void StatisticsPane::refresh()
             m_table->insertTopLevelItem(row, item);
         }
         const QString unit = statistic->unit();
-        item->setText(NameColumn,
-                      unit.isEmpty() ? statistic->name() : tr("%1 (%2)").arg(statistic->name(), unit));
+        item->setText(NameColumn, unit.isEmpty() ? statistic->name() : tr("%1 (%2)").arg(statistic->name(), unit));
         const double figures[] = {statistic->last(), statistic->mean(), statistic->min(), statistic->max()};
         for (int column = LastColumn; column < SamplesColumn; ++column)
-            item->setText(column, statistic->count() == 0 ? QString()
-                                                          : locale.toString(figures[column - LastColumn], 'g', 3));
+            item->setText(column,
+                          statistic->count() == 0 ? QString() : locale.toString(figures[column - LastColumn], 'g', 3));
         item->setText(SamplesColumn, locale.toString(static_cast<qulonglong>(statistic->count())));
         ++row;
     }

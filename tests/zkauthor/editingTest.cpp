@@ -77,7 +77,9 @@ TEST_F(EditingTest, EditOfTwoLampsIsOneUndoStepAndSurvivesSaving)
 TEST_F(EditingTest, FormFollowsTheSelection)
 {
     EXPECT_EQ(properties()->windowTitle(), "Properties");
+    EXPECT_TRUE(properties()->updatesEnabled()); // or it would stay black
     clickPart("lamp1");
+    EXPECT_TRUE(properties()->updatesEnabled());
     const QPointer<QCheckBox> first = box("lit");
     EXPECT_EQ(properties()->windowTitle(), "LED Properties");
 

@@ -40,10 +40,8 @@ protected:
     }
     QStringList commandLines()
     {
-        return palette.findChild<CommandLogPane*>()
-            ->findChild<QPlainTextEdit*>()
-            ->toPlainText()
-            .split(u'\n', Qt::SkipEmptyParts);
+        return palette.findChild<CommandLogPane*>()->findChild<QPlainTextEdit*>()->toPlainText().split(
+            u'\n', Qt::SkipEmptyParts);
     }
 
     DocumentImpl document;
@@ -79,7 +77,8 @@ TEST_F(DebugPaletteTest, ListsCommandsThatWorkedAndThatFailedAndUndo)
     set(property(box, "count"), Value(5));
     document.undo();
     EXPECT_TRUE(QTest::qWaitFor([this] { return commandLines().size() == 4; }));
-    EXPECT_TRUE(commandLines().at(1).contains(QStringLiteral("cannot be deleted"))) << commandLines().at(1).toStdString();
+    EXPECT_TRUE(commandLines().at(1).contains(QStringLiteral("cannot be deleted")))
+        << commandLines().at(1).toStdString();
     EXPECT_TRUE(commandLines().at(3).endsWith(QStringLiteral(" undo")));
 }
 

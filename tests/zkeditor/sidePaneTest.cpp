@@ -25,7 +25,8 @@ protected:
     {
         QStringList texts;
         for (int i = 0; i < boxOf(pane)->count(); ++i)
-            texts.append(boxOf(pane)->itemLabel(i) + (boxOf(pane)->isItemOpen(i) ? QStringLiteral(" open") : QString()));
+            texts.append(boxOf(pane)->itemLabel(i) +
+                         (boxOf(pane)->isItemOpen(i) ? QStringLiteral(" open") : QString()));
         return texts;
     }
     static void clickHeader(const SidePane& pane, int index)

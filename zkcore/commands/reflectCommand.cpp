@@ -117,7 +117,8 @@ Value ReflectCommand::run(ModelMutator& mutator)
         place = {size.x / 2, size.y / 2};
     }
     setOwnValue(node, coreKeys::position(), Value(place));
-    const QString stem = original->valueOfProperty(coreKeys::id()).toQString() + QLatin1Char('-') + roleOfReflection(m_kind);
+    const QString stem =
+        original->valueOfProperty(coreKeys::id()).toQString() + QLatin1Char('-') + roleOfReflection(m_kind);
     QString id = stem;
     for (int number = 2; mutator.document().nodeWithId(id); ++number)
         id = stem + QString::number(number);
