@@ -54,6 +54,7 @@ private:
 
     void connectDocument(DocumentImpl* document);
     void disconnectNodes();
+    void disconnectNodesOf(const QTreeWidgetItem* item);
     void forgetItemsBelow(const QTreeWidgetItem* item);
     void noteExpanded(const QTreeWidgetItem* item, bool expanded);
     void expandAgain(const QTreeWidgetItem* item);

@@ -59,7 +59,7 @@ ModelsBrowser::ModelsBrowser(QWidget* parent)
     }
     buttons->addStretch(1);
     auto* layout = new QVBoxLayout(this);
-    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setContentsMargins(4, 4, 4, 4);
     layout->setSpacing(4);
     layout->addLayout(buttons);
     layout->addWidget(m_view, 1);

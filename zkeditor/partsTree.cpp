@@ -9,7 +9,26 @@
 
 #include <QKeyEvent>
 #include <QLineEdit>
+#include <QStyledItemDelegate>
 #include <QVBoxLayout>
+
+namespace {
+
+constexpr int partIconSize = 24;
+
+/// The view gives all rows the height of the first, which is a group without an icon.
+class PartsRowDelegate : public QStyledItemDelegate
+{
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override
+    {
+        return QStyledItemDelegate::sizeHint(option, index).expandedTo(QSize(0, partIconSize + 4));
+    }
+};
+
+} // namespace
 
 PartsTree::PartsTree(DocumentImpl* document, QWidget* parent)
     : QWidget(parent), m_document(document), m_model(new PartsModel(document, this)),
@@ -23,7 +42,8 @@ PartsTree::PartsTree(DocumentImpl* document, QWidget* parent)
 
     m_view->setModel(m_filtered);
     m_view->setAccessibleName(tr("Parts"));
-    m_view->setIconSize(QSize(24, 24));
+    m_view->setIconSize(QSize(partIconSize, partIconSize));
+    m_view->setItemDelegate(new PartsRowDelegate(m_view));
     m_view->setDragEnabled(true);
     m_view->setDragDropMode(QAbstractItemView::DragOnly);
     m_view->setHint(tr("There are no parts."));
@@ -40,7 +60,7 @@ PartsTree::PartsTree(DocumentImpl* document, QWidget* parent)
     });
 
     auto* layout = new QVBoxLayout(this);
-    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setContentsMargins(4, 4, 4, 4);
     layout->setSpacing(4);
     layout->addWidget(m_field);
     layout->addWidget(m_view, 1);

@@ -2,6 +2,7 @@
 #include "zkeditor/propertyTable.h"
 
 #include "zkeditor/propertyTableModel.h"
+#include "zkeditor/widgets/isolatedText.h"
 
 #include <QAction>
 #include <QClipboard>
@@ -12,9 +13,26 @@
 #include <QLineEdit>
 #include <QMenu>
 #include <QSortFilterProxyModel>
+#include <QStyledItemDelegate>
 #include <QTableView>
 #include <QVBoxLayout>
 #include <algorithm>
+
+namespace {
+
+/// Keys and numbers read from left to right in every language; what is copied has no marks for that.
+class PropertyCellDelegate : public QStyledItemDelegate
+{
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    QString displayText(const QVariant& value, const QLocale& locale) const override
+    {
+        return isolatedText(QStyledItemDelegate::displayText(value, locale));
+    }
+};
+
+} // namespace
 
 PropertyTable::PropertyTable(QWidget* parent)
     : QWidget(parent), m_model(new PropertyTableModel(this)), m_sorted(new QSortFilterProxyModel(this)),
@@ -32,6 +50,7 @@ PropertyTable::PropertyTable(QWidget* parent)
     connect(m_filter, &QLineEdit::textChanged, m_sorted, &QSortFilterProxyModel::setFilterFixedString);
 
     m_view->setModel(m_sorted);
+    m_view->setItemDelegate(new PropertyCellDelegate(m_view));
     m_view->setAccessibleName(tr("Properties"));
     m_view->setSelectionBehavior(QAbstractItemView::SelectRows);
     m_view->setEditTriggers(QAbstractItemView::NoEditTriggers);

@@ -27,9 +27,9 @@ StatisticsPane::StatisticsPane(QWidget* parent) : QWidget(parent), m_table(new Q
     m_table->setHeaderLabels({tr("Name"), tr("Last"), tr("Mean"), tr("Least"), tr("Greatest"), tr("Samples")});
     m_table->header()->setStretchLastSection(true);
     const int letter = fontMetrics().averageCharWidth();
-    m_table->setColumnWidth(NameColumn, 20 * letter);
+    m_table->setColumnWidth(NameColumn, 27 * letter);
     for (int column = LastColumn; column < SamplesColumn; ++column)
-        m_table->setColumnWidth(column, 11 * letter);
+        m_table->setColumnWidth(column, 9 * letter);
     m_table->setMinimumHeight(fontMetrics().height() * 7);
     connect(m_table, &QTreeWidget::currentItemChanged, this, &StatisticsPane::onCurrentChanged);
     m_graph->setAccessibleName(tr("Curve of the selected statistic"));
