@@ -103,8 +103,8 @@ int main(int argc, char** argv)
     if (!options.logGiven)
         installHandler(preferences.logTarget());
     window.followSettings();
-    window.show();
     settings->restore();
+    window.show();
     if (!options.document.isEmpty() && !window.openStartDocument(options.document, error))
         showMessage(&window, QMessageBox::Warning,
                     QApplication::translate("main", "%1 cannot be opened.").arg(options.document), error);

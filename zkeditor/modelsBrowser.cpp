@@ -65,10 +65,7 @@ ModelsBrowser::ModelsBrowser(QWidget* parent)
     layout->addWidget(m_view, 1);
     setFocusProxy(m_view);
 
-    if (SettingsService::exists()) {
-        for (const QString& folder : SettingsService::instance()->getModelsBrowserDirectories())
-            m_model->addFolder(folder);
-    }
+    readFolders();
     updateActions();
 }
 
@@ -146,8 +143,19 @@ void ModelsBrowser::showMenu(const QPoint& place)
     menu.exec(m_view->viewport()->mapToGlobal(place));
 }
 
+void ModelsBrowser::readFolders()
+{
+    // A host may make its window before the service, which wants to know the window.
+    if (m_foldersRead || !SettingsService::exists())
+        return;
+    m_foldersRead = true;
+    for (const QString& folder : SettingsService::instance()->getModelsBrowserDirectories())
+        m_model->addFolder(folder);
+}
+
 void ModelsBrowser::showEvent(QShowEvent* event)
 {
     QWidget::showEvent(event);
+    readFolders();
     m_model->refresh(); // a folder that was not there cannot be watched
 }

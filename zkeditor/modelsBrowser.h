@@ -37,6 +37,7 @@ protected:
     void showEvent(QShowEvent* event) override;
 
 private:
+    void readFolders();
     void askForFolder();
     void removeCurrentFolder();
     void onRowChosen(const QModelIndex& index);
@@ -50,4 +51,5 @@ private:
     QAction* m_add;
     QAction* m_remove;
     QAction* m_open;
+    bool m_foldersRead = false;
 };
