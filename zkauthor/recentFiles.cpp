@@ -47,7 +47,7 @@ void RecentFiles::fill(QMenu* menu)
     menu->clear();
     const QStringList recent = files();
     for (qsizetype i = 0; i < recent.size(); ++i) {
-        const QString file = recent.at(i);
+        const QString& file = recent.at(i);
         QString text = QDir::toNativeSeparators(file);
         text.replace(QLatin1Char('&'), QLatin1String("&&"));
         QAction* action = menu->addAction(QStringLiteral("&%1 %2").arg(i + 1).arg(text));

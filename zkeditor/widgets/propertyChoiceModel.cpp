@@ -64,7 +64,7 @@ private:
             if (!m_acceptableOnly || (sameKind && definition.flags.testFlag(PropertyDefinition::ProxyTarget)))
                 offered.push_back(&definition);
         }
-        return *m_offered.insert(&prototype, std::move(offered));
+        return *m_offered.insert(&prototype, offered);
     }
 
     static QString labelOf(const NodePrototype& prototype, const PropertyDefinition& definition)

@@ -357,7 +357,7 @@ TEST_F(PaletteBoxDeathTest, BrokenCallsAreFatal)
     EXPECT_DEATH(box->replaceItem(&stranger, new QLabel), "ZK_ASSERT: \"index >= 0\" in ");
     EXPECT_DEATH(box->showItem(1, true), "ZK_ASSERT: \"item\" in ");
     EXPECT_DEATH(box->setItemEnabled(1, true), "ZK_ASSERT: \"w\" in ");
-    EXPECT_DEATH(PaletteButtonBar(PaletteBox::Exclusive),
+    EXPECT_DEATH(PaletteButtonBar{PaletteBox::Exclusive},
                  "PaletteButtonBar: Attempting to contruct button with unknown style 8");
 }
 
