@@ -31,7 +31,6 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QCloseEvent>
-#include <QCursor>
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
@@ -398,15 +397,17 @@ void MainWindow::toggleLock()
 
 void MainWindow::showReflectMenu()
 {
-    const ElementImplSet selection = m_document->getSelection();
-    auto* part = selection.size() == 1 ? qobject_cast<PartImpl*>(*selection.begin()) : nullptr;
-    if (!part)
-        return;
+    m_palettes->commitPendingEdit();
+    std::vector<PartImpl*> parts;
+    for (ElementImpl* element : m_document->getSelection()) {
+        if (auto* part = qobject_cast<PartImpl*>(element))
+            parts.push_back(part);
+    }
     auto* menu = new QMenu(this);
     menu->setAttribute(Qt::WA_DeleteOnClose);
-    fillReflectMenu(menu, m_document, part,
+    fillReflectMenu(menu, m_document, parts,
                     [this](const QString& reason) { showError(tr("That could not be done."), reason); });
-    menu->popup(QCursor::pos());
+    menu->popup(m_palettes->placeBelow(ShortcutButton::Reflect));
 }
 
 void MainWindow::undo()

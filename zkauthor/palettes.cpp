@@ -13,6 +13,7 @@
 
 #include <QAction>
 #include <QApplication>
+#include <QCursor>
 #include <QMainWindow>
 #include <QMenu>
 
@@ -89,6 +90,15 @@ void Palettes::commitPendingEdit()
             focus->setFocus();
         return;
     }
+}
+
+QPoint Palettes::placeBelow(ShortcutButton::Type type) const
+{
+    for (const ShortcutButton* button : properties()->findChildren<ShortcutButton*>()) {
+        if (button->type() == type && button->isVisible())
+            return button->mapToGlobal(QPoint(0, button->height()));
+    }
+    return QCursor::pos();
 }
 
 void Palettes::showInspector()

@@ -39,6 +39,10 @@ public:
     /// Ends the typing in a field of a palette, which enters it. The field keeps the focus.
     void commitPendingEdit();
 
+    /// Where a menu of the button above the properties belongs, on the screen; at the mouse pointer when it is not
+    /// shown.
+    QPoint placeBelow(ShortcutButton::Type type) const;
+
     SidePane* sidePane() const { return m_sidePane; }
     PropPalette* properties() const;
 

@@ -7,7 +7,9 @@
 
 #include <QCoreApplication>
 #include <QMenu>
-#include <QPointer>
+#include <algorithm>
+#include <iterator>
+#include <unordered_map>
 
 namespace {
 
@@ -26,20 +28,81 @@ std::vector<SpaceImpl*> spacesOf(const DocumentImpl& document)
     return spaces;
 }
 
-/// The reflection of that kind that stands in the space itself; null when there is none.
-ElementImpl* reflectionIn(const SpaceImpl& space, const DocumentImpl& document, const PartImpl& part,
-                          ReflectionKind kind)
+bool reflectsKind(const PartImpl& part, ReflectionKind kind)
 {
-    for (ElementImpl* reflection : document.reflectionsOf(&part)) {
-        if (reflection->parentNode() == &space && reflection->reflectionKind() == kind)
-            return reflection;
+    const bool hasPicture = kind == ReflectionKind::Body && part.prototype().body.isValid();
+    return part.canReflect() && (hasPicture || !part.getChildrenWithRole(RoleSet(roleOfReflection(kind))).empty());
+}
+
+bool isReflectedIn(const NodeImpl* space, const DocumentImpl& document, const PartImpl& part, ReflectionKind kind)
+{
+    const auto reflections = document.reflectionsOf(&part);
+    return std::any_of(reflections.begin(), reflections.end(), [=](const ElementImpl* reflection) {
+        return reflection->parentNode() == space && reflection->reflectionKind() == kind;
+    });
+}
+
+Command* makeReflectCommand(ReflectionKind kind, const Part& part, const Node& place, bool reflect, int flags)
+{
+    if (kind == ReflectionKind::Controls)
+        return new ReflectControlsCommand(part, place, reflect, flags);
+    if (kind == ReflectionKind::Pads)
+        return new ReflectPadsCommand(part, place, reflect, flags);
+    return new ReflectBodyCommand(part, place, reflect, flags);
+}
+
+/// Adds the reflections that are missing in the place, or removes those that are there. The reason when one fails.
+QString reflectAll(DocumentImpl* document, const std::vector<Part>& parts, ReflectionKind kind, const Node& place,
+                   bool reflect)
+{
+    int flags = Command::PushUndo;
+    for (const Part& part : parts) {
+        if (!part.valid() || !place.valid() || part.impl()->popup() == place.impl() ||
+            isReflectedIn(place.impl(), *document, *part.impl(), kind) == reflect)
+            continue;
+        if (!document->executeCommand(makeReflectCommand(kind, part, place, reflect, flags)).isValid())
+            return document->lastError();
+        flags = Command::JoinUndo;
     }
-    return nullptr;
+    return {};
+}
+
+void addPlaces(QMenu* menu, DocumentImpl* document, const std::vector<PartImpl*>& parts, ReflectionKind kind,
+               const std::function<void(const QString&)>& failed)
+{
+    // For each space the parts that have nothing to add there.
+    std::unordered_map<const NodeImpl*, size_t> reflected;
+    std::unordered_map<const NodeImpl*, size_t> own;
+    std::vector<Part> handles;
+    for (PartImpl* part : parts) {
+        handles.emplace_back(part);
+        if (part->popup())
+            ++own[part->popup()];
+        for (const ElementImpl* reflection : document->reflectionsOf(part)) {
+            if (reflection->reflectionKind() == kind)
+                ++reflected[reflection->parentNode()];
+        }
+    }
+    for (SpaceImpl* space : spacesOf(*document)) {
+        const size_t others = parts.size() - own[space];
+        if (others == 0)
+            continue;
+        const bool there = reflected[space] == others;
+        QAction* action = menu->addAction(space->displayName().replace(QLatin1Char('&'), QLatin1String("&&")));
+        action->setCheckable(true);
+        action->setChecked(there);
+        const Node place(space);
+        QObject::connect(action, &QAction::triggered, document, [=] {
+            const QString error = reflectAll(document, handles, kind, place, !there);
+            if (!error.isEmpty())
+                failed(error);
+        });
+    }
 }
 
 } // namespace
 
-void fillReflectMenu(QMenu* menu, DocumentImpl* document, PartImpl* part,
+void fillReflectMenu(QMenu* menu, DocumentImpl* document, const std::vector<PartImpl*>& parts,
                      const std::function<void(const QString&)>& failed)
 {
     const struct
@@ -49,35 +112,11 @@ void fillReflectMenu(QMenu* menu, DocumentImpl* document, PartImpl* part,
     } kinds[] = {{ReflectionKind::Controls, menuText(QT_TRANSLATE_NOOP("ReflectMenu", "&Controls"))},
                  {ReflectionKind::Pads, menuText(QT_TRANSLATE_NOOP("ReflectMenu", "&Pads"))},
                  {ReflectionKind::Body, menuText(QT_TRANSLATE_NOOP("ReflectMenu", "&Body"))}};
-    if (!part->canReflect())
-        return;
-    const Part handle(part);
     for (const auto& [kind, text] : kinds) {
-        const bool hasPicture = kind == ReflectionKind::Body && part->prototype().body.isValid();
-        if (!hasPicture && part->getChildrenWithRole(RoleSet(roleOfReflection(kind))).empty())
-            continue;
-        QMenu* places = menu->addMenu(text);
-        for (SpaceImpl* space : spacesOf(*document)) {
-            if (space == part->popup())
-                continue;
-            const bool there = reflectionIn(*space, *document, *part, kind) != nullptr;
-            QAction* action = places->addAction(space->displayName().replace(QLatin1Char('&'), QLatin1String("&&")));
-            action->setCheckable(true);
-            action->setChecked(there);
-            const Node place(space);
-            QObject::connect(action, &QAction::triggered, document, [=, kind = kind] {
-                if (!handle.valid() || !place.valid())
-                    return;
-                Command* command = nullptr;
-                if (kind == ReflectionKind::Controls)
-                    command = new ReflectControlsCommand(handle, place, !there);
-                else if (kind == ReflectionKind::Pads)
-                    command = new ReflectPadsCommand(handle, place, !there);
-                else
-                    command = new ReflectBodyCommand(handle, place, !there);
-                if (!document->executeCommand(command).isValid())
-                    failed(document->lastError());
-            });
-        }
+        std::vector<PartImpl*> fitting;
+        std::copy_if(parts.begin(), parts.end(), std::back_inserter(fitting),
+                     [kind = kind](const PartImpl* part) { return reflectsKind(*part, kind); });
+        if (!fitting.empty())
+            addPlaces(menu->addMenu(text), document, fitting, kind, failed);
     }
 }

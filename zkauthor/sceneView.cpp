@@ -337,6 +337,10 @@ void SceneView::endGesture(bool keep)
 
 void SceneView::mouseDoubleClickEvent(QMouseEvent* event)
 {
+    if (m_readerMode) {
+        mousePressEvent(event); // for a reader it is one more press
+        return;
+    }
     ElementImpl* part = nullptr;
     if (event->button() == Qt::LeftButton && m_scene->space())
         part = m_scene->partAt(mapToScene(event->position().toPoint()), clickTolerance / transform().m11());

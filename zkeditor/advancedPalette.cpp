@@ -7,6 +7,7 @@
 #include "zkeditor/duplication.h"
 #include "zkeditor/widgets/doubleSpinbox.h"
 #include "zkeditor/widgets/leadingLabel.h"
+#include "zkeditor/widgets/lineEdit.h"
 #include "zkeditor/widgets/msgPane.h"
 #include "zkeditor/widgets/observerLineEdit.h"
 #include "zkeditor/widgets/paletteBox.h"
@@ -47,6 +48,7 @@ DoubleSpinBox* addNumber(QGridLayout* layout, int row, const QString& text, Doub
 {
     box->setValue(value);
     layout->addWidget(newFieldLabel(text, box, layout->parentWidget()), row, 0);
+    box->editor()->setAccessibleName(box->accessibleName()); // it has the focus
     layout->addWidget(box, row, 1);
     return box;
 }

@@ -63,8 +63,9 @@ void setOwnValue(NodeSnapshot& node, PropertyKey key, const Value& value)
 
 } // namespace
 
-ReflectCommand::ReflectCommand(ReflectionKind kind, const Part& original, const Node& container, bool reflect)
-    : Command(PushUndo), m_kind(kind), m_original(original.instanceId()), m_container(container.instanceId()),
+ReflectCommand::ReflectCommand(ReflectionKind kind, const Part& original, const Node& container, bool reflect,
+                               int flags)
+    : Command(flags), m_kind(kind), m_original(original.instanceId()), m_container(container.instanceId()),
       m_reflect(reflect)
 {
 }

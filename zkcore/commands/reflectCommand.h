@@ -10,7 +10,8 @@
 class ZKCORE_EXPORT ReflectCommand : public Command
 {
 public:
-    ReflectCommand(ReflectionKind kind, const Part& original, const Node& container, bool reflect);
+    ReflectCommand(ReflectionKind kind, const Part& original, const Node& container, bool reflect,
+                   int flags = PushUndo);
 
     QString getUndoDescription() const override;
 
@@ -30,8 +31,9 @@ private:
 class ZKCORE_EXPORT ReflectControlsCommand : public ReflectCommand
 {
 public:
-    explicit ReflectControlsCommand(const Part& original = {}, const Node& container = {}, bool reflect = true)
-        : ReflectCommand(ReflectionKind::Controls, original, container, reflect)
+    explicit ReflectControlsCommand(const Part& original = {}, const Node& container = {}, bool reflect = true,
+                                    int flags = PushUndo)
+        : ReflectCommand(ReflectionKind::Controls, original, container, reflect, flags)
     {
     }
     QString getXMLClass() const override;
@@ -40,8 +42,9 @@ public:
 class ZKCORE_EXPORT ReflectPadsCommand : public ReflectCommand
 {
 public:
-    explicit ReflectPadsCommand(const Part& original = {}, const Node& container = {}, bool reflect = true)
-        : ReflectCommand(ReflectionKind::Pads, original, container, reflect)
+    explicit ReflectPadsCommand(const Part& original = {}, const Node& container = {}, bool reflect = true,
+                                int flags = PushUndo)
+        : ReflectCommand(ReflectionKind::Pads, original, container, reflect, flags)
     {
     }
     QString getXMLClass() const override;
@@ -50,8 +53,9 @@ public:
 class ZKCORE_EXPORT ReflectBodyCommand : public ReflectCommand
 {
 public:
-    explicit ReflectBodyCommand(const Part& original = {}, const Node& container = {}, bool reflect = true)
-        : ReflectCommand(ReflectionKind::Body, original, container, reflect)
+    explicit ReflectBodyCommand(const Part& original = {}, const Node& container = {}, bool reflect = true,
+                                int flags = PushUndo)
+        : ReflectCommand(ReflectionKind::Body, original, container, reflect, flags)
     {
     }
     QString getXMLClass() const override;
