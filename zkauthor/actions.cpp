@@ -2,6 +2,7 @@
 
 #include "zkcore/media/imageCache.h"
 #include "zkcore/media/resource.h"
+#include "zkeditor/widgets/brandWidget.h"
 
 #include <QAction>
 #include <QCoreApplication>
@@ -175,4 +176,20 @@ void Actions::makeToolBar(QMainWindow* window)
     bar->addAction(rotateRight);
     bar->addSeparator();
     bar->addActions({zoomIn, zoomOut, zoomFit});
+}
+
+void Actions::addBadge(QMainWindow* window)
+{
+    QToolBar* bar = window->addToolBar(tr("Badge"));
+    bar->setObjectName(QStringLiteral("badgeBar"));
+    bar->setMovable(false);
+    auto* space = new QWidget;
+    space->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
+    bar->addWidget(space);
+    auto* badge = new BrandWidget(bar, "badge");
+    badge->setAccessibleName(about->toolTip());
+    badge->setToolTip(about->toolTip());
+    badge->setFocusPolicy(Qt::TabFocus);
+    bar->addWidget(badge);
+    QObject::connect(badge, &QAbstractButton::clicked, about, &QAction::trigger);
 }

@@ -10,6 +10,9 @@ class QMenu;
 struct Actions
 {
     explicit Actions(QMainWindow* window);
+    /// A tool bar of its own, to the right of all that are there, with the product's badge; a click shows the about
+    /// box.
+    void addBadge(QMainWindow* window);
 
     QAction* newDocument;
     QAction* open;

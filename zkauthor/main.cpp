@@ -12,10 +12,26 @@
 
 #include <QApplication>
 #include <QIcon>
+#include <QLocale>
 #include <QMessageBox>
+#include <QSettings>
 #include <cstdio>
 
 namespace {
+
+/// Numbers, units and the direction of reading follow the language of the preferences. Widgets take them over when they
+/// are made, so the store is asked before the window is there that the settings service wants to know.
+void chooseLanguage()
+{
+    const QSettings settings(QSettings::IniFormat, QSettings::UserScope, SettingsService::domainKey,
+                             QStringLiteral("zkauthor"));
+    const QString name = settings.value(QStringLiteral("Preferences/Language")).toString();
+    if (name.isEmpty())
+        return;
+    const QLocale locale(name);
+    QLocale::setDefault(locale);
+    QApplication::setLayoutDirection(locale.textDirection());
+}
 
 void printError(const QString& text)
 {
@@ -96,6 +112,7 @@ int main(int argc, char** argv)
         return 1;
     }
 
+    chooseLanguage();
     MainWindow window;
     SettingsService* settings =
         SettingsService::createService(&window, QStringLiteral("zkauthor"), QSettings::UserScope);

@@ -65,6 +65,7 @@ MainWindow::MainWindow(QWidget* parent)
 
     m_recent->attachTo(m_actions->recentMenu);
     addToolBar(m_flowcharts);
+    m_actions->addBadge(this);
     m_palettes->addEntriesTo(m_actions->viewMenu);
     connectActions();
     setDocument(new DocumentImpl);
