@@ -156,8 +156,11 @@ void FlowchartBar::carryOutClick(const PartImpl& part)
     static const PropertyKey actionKey = PropertyKey::fromString("click-action");
     static const PropertyKey linkKey = PropertyKey::fromString("click-link");
     static const PropertyKey sceneKey = PropertyKey::fromString("click-scene");
+    static const PropertyKey opensOnKey = PropertyKey::fromString("opens-on");
     const QString action = part.valueOfProperty(actionKey).toQString();
-    if (action == QLatin1String("show pop-up")) {
+    if (action == QLatin1String("nothing") && part.popup() && part.hasProperty(opensOnKey)) {
+        Q_EMIT spaceRequested(Node(part.popup())); // an explanation is there to be opened
+    } else if (action == QLatin1String("show pop-up")) {
         if (part.popup())
             Q_EMIT spaceRequested(Node(part.popup()));
     } else if (action == QLatin1String("show scene")) {
