@@ -5,6 +5,7 @@
 #include "zkeditor/hintTreeView.h"
 #include "zkeditor/modelsModel.h"
 #include "zkeditor/settingsService.h"
+#include "zkeditor/widgets/plusMinusButton.h"
 #include "zkeditor/widgets/resourceIcon.h"
 
 #include <QAction>
@@ -12,7 +13,6 @@
 #include <QFileDialog>
 #include <QHBoxLayout>
 #include <QMenu>
-#include <QToolButton>
 #include <QVBoxLayout>
 
 ModelsBrowser::ModelsBrowser(QWidget* parent)
@@ -49,14 +49,9 @@ ModelsBrowser::ModelsBrowser(QWidget* parent)
     });
 
     auto* buttons = new QHBoxLayout;
-    for (QAction* action : {m_add, m_remove}) {
-        auto* button = new QToolButton;
-        button->setDefaultAction(action);
-        button->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
-        button->setAutoRaise(true);
-        button->setFocusPolicy(Qt::TabFocus);
-        buttons->addWidget(button);
-    }
+    auto* plusMinus = new PlusMinusButton(this);
+    plusMinus->setActions(m_add, m_remove);
+    buttons->addWidget(plusMinus);
     buttons->addStretch(1);
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(4, 4, 4, 4);

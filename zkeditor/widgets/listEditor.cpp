@@ -1,6 +1,7 @@
 #include "zkeditor/widgets/listEditor.h"
 
 #include "zkeditor/widgets/editDelegate.h"
+#include "zkeditor/widgets/plusMinusButton.h"
 #include "zkeditor/widgets/toolAction.h"
 
 #include <QAction>
@@ -75,8 +76,28 @@ void ListEditor::setMessage(const QString& message)
 QAction* ListEditor::addButton(const char* icon, const QString& text, const QKeySequence& keys,
                                std::function<void()> run)
 {
-    auto* action = new QAction(toolAction::icon(icon), text, this);
+    QAction* action = makeAction(text, std::move(run));
+    action->setIcon(toolAction::icon(icon));
     m_buttons->insertWidget(m_buttons->count() - 1, toolAction::addButton(this, action, keys));
+    return action;
+}
+
+std::pair<QAction*, QAction*> ListEditor::addPlusMinus(const QString& plusText, std::function<void()> plus,
+                                                       const QString& minusText, std::function<void()> minus)
+{
+    QAction* add = makeAction(plusText, std::move(plus));
+    QAction* remove = makeAction(minusText, std::move(minus));
+    toolAction::setKeys(this, add, Qt::Key_Insert);
+    toolAction::setKeys(this, remove, Qt::Key_Delete);
+    auto* buttons = new PlusMinusButton(this);
+    buttons->setActions(add, remove);
+    m_buttons->insertWidget(m_buttons->count() - 1, buttons);
+    return {add, remove};
+}
+
+QAction* ListEditor::makeAction(const QString& text, std::function<void()> run)
+{
+    auto* action = new QAction(text, this);
     connect(action, &QAction::triggered, this, [this, run = std::move(run)] {
         setMessage({});
         run();

@@ -5,6 +5,7 @@
 #include <QKeySequence>
 #include <QWidget>
 #include <functional>
+#include <utility>
 
 class EditDelegate;
 class QAction;
@@ -32,8 +33,11 @@ public Q_SLOTS:
     void setMessage(const QString& message);
 
 protected:
-    /// A button below the list. The icon is one of the library's pictures ("editor/lists/add").
+    /// A button below the list. The icon is one of the library's pictures ("editor/lists/up").
     QAction* addButton(const char* icon, const QString& text, const QKeySequence& keys, std::function<void()> run);
+    /// Plus and minus, with Ins and Del as keys. The actions for adding and removing.
+    std::pair<QAction*, QAction*> addPlusMinus(const QString& plusText, std::function<void()> plus,
+                                               const QString& minusText, std::function<void()> minus);
     /// Makes the buttons and keys of moving rows; `move` gets -1 for up and 1 for down.
     void addMoveButtons(const std::function<void(int)>& move);
     QAction* moveUpAction() const { return m_up; }
@@ -57,6 +61,8 @@ protected:
     virtual void updateActions() = 0;
 
 private:
+    QAction* makeAction(const QString& text, std::function<void()> run);
+
     QTreeView* m_view;
     EditDelegate* m_delegate;
     QHBoxLayout* m_buttons;

@@ -4,6 +4,7 @@
 #include "zkcore/media/imageCache.h"
 #include "zkcore/media/resource.h"
 
+#include <QAction>
 #include <QHBoxLayout>
 #include <QStyle>
 #include <QToolButton>
@@ -32,6 +33,24 @@ QToolButton* PlusMinusButton::addButton(const char* picture)
     button->setFocusPolicy(Qt::TabFocus);
     layout()->addWidget(button);
     return button;
+}
+
+void PlusMinusButton::setActions(QAction* plus, QAction* minus)
+{
+    const auto followPlus = [this, plus] {
+        setPlusEnabled(plus->isEnabled());
+        setPlusTooltip(plus->toolTip());
+    };
+    const auto followMinus = [this, minus] {
+        setMinusEnabled(minus->isEnabled());
+        setMinusTooltip(minus->toolTip());
+    };
+    connect(plus, &QAction::changed, this, followPlus);
+    connect(minus, &QAction::changed, this, followMinus);
+    connect(this, &PlusMinusButton::plusClicked, plus, &QAction::trigger);
+    connect(this, &PlusMinusButton::minusClicked, minus, &QAction::trigger);
+    followPlus();
+    followMinus();
 }
 
 void PlusMinusButton::setPlusEnabled(bool enabled)

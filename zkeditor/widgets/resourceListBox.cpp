@@ -21,6 +21,7 @@
 #include <QTreeView>
 #include <QVBoxLayout>
 #include <algorithm>
+#include <tuple>
 
 namespace {
 
@@ -38,8 +39,8 @@ ResourceListBox::ResourceListBox(QWidget* parent, const QString& name)
     view()->setDragDropMode(QAbstractItemView::DragDrop);
     view()->setDragDropOverwriteMode(false);
     view()->setDefaultDropAction(Qt::MoveAction);
-    m_add = addButton("editor/lists/add", tr("Add files"), Qt::Key_Insert, [this] { addFiles(); });
-    m_remove = addButton("editor/lists/remove", tr("Remove"), Qt::Key_Delete, [this] { removeSelected(); });
+    std::tie(m_add, m_remove) = addPlusMinus(
+        tr("Add files"), [this] { addFiles(); }, tr("Remove"), [this] { removeSelected(); });
     addMoveButtons([this](int by) { moveSelected(by); });
     m_preview->setObjectName(QStringLiteral("preview"));
     m_preview->setAlignment(Qt::AlignCenter);

@@ -23,6 +23,7 @@
 #include <QSet>
 #include <QTreeView>
 #include <algorithm>
+#include <tuple>
 
 namespace {
 
@@ -58,8 +59,8 @@ SubpartListView::SubpartListView(QWidget* parent, const QString& name)
     view()->setDragDropMode(QAbstractItemView::InternalMove);
     view()->setDragDropOverwriteMode(false);
     view()->setDefaultDropAction(Qt::MoveAction);
-    m_add = addButton("editor/lists/add", tr("Add"), Qt::Key_Insert, [this] { addSubpart(); });
-    m_remove = addButton("editor/lists/remove", tr("Remove"), Qt::Key_Delete, [this] { removeSelected(); });
+    std::tie(m_add, m_remove) = addPlusMinus(
+        tr("Add"), [this] { addSubpart(); }, tr("Remove"), [this] { removeSelected(); });
     addMoveButtons([this](int by) { moveSelected(by); });
     editDelegate()->setCheck(
         [this](const QModelIndex& index, const QString& text) { return refusalOf(index.row(), text); });

@@ -16,13 +16,18 @@ QIcon toolAction::icon(const char* resource)
     return icon;
 }
 
-QToolButton* toolAction::addButton(QWidget* editor, QAction* action, const QKeySequence& keys)
+void toolAction::setKeys(QWidget* editor, QAction* action, const QKeySequence& keys)
 {
     action->setShortcut(keys);
     action->setShortcutContext(Qt::WidgetWithChildrenShortcut);
     if (!keys.isEmpty())
         action->setToolTip(QStringLiteral("%1 (%2)").arg(action->text(), keys.toString(QKeySequence::NativeText)));
     editor->addAction(action);
+}
+
+QToolButton* toolAction::addButton(QWidget* editor, QAction* action, const QKeySequence& keys)
+{
+    setKeys(editor, action, keys);
     auto* button = new QToolButton(editor);
     button->setDefaultAction(action);
     button->setAutoRaise(true);

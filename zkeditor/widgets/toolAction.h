@@ -11,8 +11,10 @@ class QWidget;
 /// The small buttons and messages of editors that consist of several widgets.
 namespace toolAction {
 
-/// One of the library's pictures ("editor/lists/add") as an icon of all usual sizes.
+/// One of the library's pictures ("editor/lists/up") as an icon of all usual sizes.
 QIcon icon(const char* resource);
+/// Gives an action its keys, which work while the focus is in the editor, and names them in its tool tip.
+void setKeys(QWidget* editor, QAction* action, const QKeySequence& keys);
 /// A flat button for an action, which gets its keys; they work while the focus is in the editor.
 QToolButton* addButton(QWidget* editor, QAction* action, const QKeySequence& keys);
 /// Makes a label one that says in red why something was not done; hidden at first.

@@ -12,6 +12,7 @@
 #include <QSet>
 #include <QSortFilterProxyModel>
 #include <QTreeView>
+#include <tuple>
 
 ValueMapListBox::ValueMapListBox(QWidget* parent, const QString& name)
     : ListEditor(parent, name), PropertyObserver(this, Value::VALUEMAP), m_model(new ValueMapModel(this)),
@@ -24,8 +25,8 @@ ValueMapListBox::ValueMapListBox(QWidget* parent, const QString& name)
     view()->setSortingEnabled(true);
     view()->sortByColumn(ValueMapModel::KeyColumn, Qt::AscendingOrder);
     view()->header()->setSectionsMovable(false);
-    m_add = addButton("editor/lists/add", tr("Add"), Qt::Key_Insert, [this] { addEntry(); });
-    m_remove = addButton("editor/lists/remove", tr("Remove"), Qt::Key_Delete, [this] { removeSelected(); });
+    std::tie(m_add, m_remove) = addPlusMinus(
+        tr("Add"), [this] { addEntry(); }, tr("Remove"), [this] { removeSelected(); });
     editDelegate()->setCheck([this](const QModelIndex& index, const QString& text) { return refusalOf(index, text); });
     editDelegate()->setChoices([this](const QModelIndex& index) {
         QStringList choices;
