@@ -116,16 +116,16 @@ void MainWindow::connectActions()
     };
     m_actions->runMenu->addAction(m_flowcharts->runAction());
     on(m_actions->pageSetup, [this] { m_printing->pageSetup(); });
-    const auto onPaper = [this, on](QAction* action, void (Printing::*function)()) {
+    const auto onPaper = [this, on](QAction* action, auto function) {
         on(action, [this, function] {
             m_palettes->commitPendingEdit();
-            (m_printing->*function)();
+            function(*m_printing);
         });
     };
-    onPaper(m_actions->printPreview, &Printing::preview);
-    onPaper(m_actions->print, &Printing::print);
-    onPaper(m_actions->exportPdf, &Printing::exportPdf);
-    onPaper(m_actions->exportSvg, &Printing::exportSvg);
+    onPaper(m_actions->printPreview, [](Printing& printing) { printing.preview(); });
+    onPaper(m_actions->print, [](Printing& printing) { printing.print(); });
+    onPaper(m_actions->exportPdf, [](Printing& printing) { printing.exportPdf(); });
+    onPaper(m_actions->exportSvg, [](Printing& printing) { printing.exportSvg(); });
     on(m_actions->saveCustomPart, &MainWindow::saveCustomPart);
     on(m_actions->licence, [this] { LicenceDialog(m_licence, this).exec(); });
     on(m_actions->preferences, &MainWindow::editPreferences);
