@@ -191,6 +191,7 @@ void MainWindow::setDocument(DocumentImpl* document)
     m_tabs->setDocument(nullptr);
 
     m_document = document;
+    applyPreferences(); // before anything is shown in the units that they name
     connect(document, &DocumentImpl::modifiedChanged, this, &MainWindow::updateTitle);
     connect(document, &DocumentImpl::saved, this, &MainWindow::updateTitle);
     connect(document, &DocumentImpl::Loaded, this, &MainWindow::updateTitle);
@@ -202,7 +203,6 @@ void MainWindow::setDocument(DocumentImpl* document)
     m_flowcharts->setDocument(document);
     m_tabs->setDocument(document);
     delete old;
-    applyPreferences();
     updateTitle();
     updateUndoActions();
     updateActions();

@@ -106,8 +106,8 @@ bool Preferences::write() const
 void Preferences::apply() const
 {
     std::vector<Unit> units;
-    if (!lengthUnit.isEmpty())
-        units.push_back(Unit::fromText(lengthUnit));
+    if (const Unit unit = Unit::fromText(lengthUnit); !unit.isNull())
+        units.push_back(unit);
     setPreferredUnits(units);
     SceneView::setWheelZooms(wheelZooms);
 }
