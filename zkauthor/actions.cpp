@@ -83,7 +83,7 @@ Actions::Actions(QMainWindow* window)
         makeAction(window, "select-previous", tr("Select Pre&vious"), tr("Select the part before"), key("Alt+Up"));
     rotateLeft = makeAction(window, "rotate-left", tr("Rotate Le&ft"),
                             tr("Turn the selected parts a quarter to the left"), key("Ctrl+Shift+R"));
-    rotateRight = makeAction(window, "rotate", tr("&Rotate Right"),
+    rotateRight = makeAction(window, "rotate", tr("R&otate Right"),
                              tr("Turn the selected parts a quarter to the right"), key("Ctrl+R"));
 
     QList<QKeySequence> zoomInKeys = keys(QKeySequence::ZoomIn, "Ctrl++");
@@ -94,20 +94,20 @@ Actions::Actions(QMainWindow* window)
     zoomNormal =
         makeAction(window, "zoom-normal", tr("&Real Size"), tr("Show things in their real size"), key("Ctrl+1"));
     zoomFit = makeAction(window, "zoom-fit", tr("&Fit"), tr("Show the whole scene"), key("Ctrl+0"));
-    openPopup = makeAction(window, "open-popup", tr("Open &Pop-up"), tr("Show the pop-up of the selected part"),
+    openPopup = makeAction(window, "open-popup", tr("Open Pop-&up"), tr("Show the pop-up of the selected part"),
                            key("Ctrl+Return"));
 
     addScene = makeAction(window, "add-scene", tr("New &Scene"), tr("Add an empty scene"));
     removeScene = makeAction(window, "delete-scene", tr("Delete S&cene"), tr("Delete the scene on view"));
     pageSetup = makeAction(window, "page-setup", tr("Pa&ge Setup..."), tr("Paper, margins and scale"));
     printPreview =
-        makeAction(window, "print-preview", tr("Print Pre&view..."), tr("Show the pages as they are printed"));
+        makeAction(window, "print-preview", tr("Print Previe&w..."), tr("Show the pages as they are printed"));
     print = makeAction(window, "print", tr("&Print..."), tr("Print the document"), keys(QKeySequence::Print, "Ctrl+P"));
     exportPdf = makeAction(window, "export-pdf", tr("Export to P&DF..."), tr("Write the pages into a PDF file"));
-    exportSvg = makeAction(window, "export-svg", tr("Export to S&VG..."), tr("Write the scene on view as a drawing"));
-    saveCustomPart = makeAction(window, "save-custom-part", tr("Save as Custom &Part..."),
+    exportSvg = makeAction(window, "export-svg", tr("E&xport to SVG..."), tr("Write the scene on view as a drawing"));
+    saveCustomPart = makeAction(window, "save-custom-part", tr("&Save as Custom Part..."),
                                 tr("Offer the selected part among the parts from now on"));
-    preferences = makeAction(window, "preferences", tr("Pre&ferences..."), tr("How the program works for you"),
+    preferences = makeAction(window, "preferences", tr("Pr&eferences..."), tr("How the program works for you"),
                              keys(QKeySequence::Preferences, "Ctrl+,"));
     preferences->setMenuRole(QAction::PreferencesRole);
     licence = makeAction(window, "licence", tr("&Licence..."), tr("Show or enter the licence"));

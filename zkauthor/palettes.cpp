@@ -52,7 +52,7 @@ void Palettes::addEntriesTo(QMenu* menu)
         action->setShortcut(QKeySequence(QLatin1String(keys[i])));
         menu->addAction(action);
     }
-    QAction* inspector = menu->addAction(tr("&Inspector..."));
+    QAction* inspector = menu->addAction(tr("I&nspector..."));
     inspector->setObjectName(QStringLiteral("inspector"));
     inspector->setShortcut(QKeySequence(QStringLiteral("Shift+F12")));
     inspector->setStatusTip(tr("Show the tree of everything in the document"));

@@ -13,6 +13,7 @@
 #include <QCheckBox>
 #include <QLabel>
 #include <QMenu>
+#include <QMenuBar>
 #include <QTest>
 #include <QToolButton>
 #include <QUndoStack>
@@ -277,6 +278,19 @@ TEST_F(EditingTest, NoCommandIsWithoutAKeyOrAName)
         EXPECT_TRUE(found->text().contains(QLatin1Char('&'))) << found->text().toStdString();
     }
     EXPECT_FALSE(view().accessibleName().isEmpty());
+
+    // Within a menu a letter stands for one command only, as it does along the menu bar.
+    const auto check = [](const QList<QAction*>& entries) {
+        QString letters;
+        for (const QAction* entry : entries) {
+            const QString letter = QKeySequence::mnemonic(entry->text()).toString();
+            EXPECT_TRUE(letter.isEmpty() || !letters.contains(letter)) << entry->text().toStdString();
+            letters += letter + QLatin1Char(' ');
+        }
+    };
+    check(m_window->menuBar()->actions());
+    for (const QMenu* menu : m_window->findChildren<QMenu*>())
+        check(menu->actions());
 }
 
 } // namespace
