@@ -1,17 +1,13 @@
 #include "zkeditor/widgets/panelTopArea.h"
 
-#include "zkcore/commands/setValueCommand.h"
 #include "zkcore/media/imageCache.h"
 #include "zkcore/model/coreKeys.h"
 #include "zkcore/model/documentImpl.h"
-#include "zkcore/model/idProvider.h"
 #include "zkcore/model/propertyImpl.h"
 #include "zkeditor/widgets/leadingLabel.h"
-#include "zkeditor/widgets/lineEdit.h"
+#include "zkeditor/widgets/partIdLineEdit.h"
 
-#include <QEvent>
 #include <QHBoxLayout>
-#include <QKeyEvent>
 #include <QLabel>
 #include <QLocale>
 #include <QVBoxLayout>
@@ -46,7 +42,8 @@ bool mayBeReflected(const NodeImpl* node)
 } // namespace
 
 PanelTopArea::PanelTopArea(QWidget* parent)
-    : QWidget(parent), m_icon(new QLabel(this)), m_name(new LeadingLabel({}, this)), m_id(new LineEdit(this))
+    : QWidget(parent), m_icon(new QLabel(this)), m_name(new LeadingLabel({}, this)),
+      m_id(new PartIdLineEdit(this, QStringLiteral("topAreaId")))
 {
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
     auto* layout = new QVBoxLayout(this);
@@ -67,10 +64,9 @@ PanelTopArea::PanelTopArea(QWidget* parent)
     bold.setBold(true);
     m_name->setFont(bold);
     texts->addWidget(m_name);
-    m_id->setObjectName(QStringLiteral("topAreaId"));
     m_id->setAccessibleName(tr("Name"));
-    m_id->setPlaceholderText(tr("Name"));
-    m_id->installEventFilter(this);
+    m_id->setToolTip(tr("A short name without blanks by which other things refer to it."));
+    m_id->hide();
     texts->addWidget(m_id);
 
     auto* row = new QHBoxLayout;
@@ -88,9 +84,6 @@ PanelTopArea::PanelTopArea(QWidget* parent)
     m_refreshSoon.setSingleShot(true);
     m_refreshSoon.setInterval(0);
     connect(&m_refreshSoon, &QTimer::timeout, this, &PanelTopArea::refresh);
-    connect(m_id, &QLineEdit::textEdited, this, &PanelTopArea::markId);
-    connect(m_id, &QLineEdit::returnPressed, this, [this] { enterId(false); });
-    connect(m_id, &LineEdit::lostFocus, this, [this] { enterId(true); });
     refresh();
 }
 
@@ -109,6 +102,7 @@ void PanelTopArea::bind(DocumentImpl* document, const std::set<NodeImpl*>& nodes
         connect(document, &DocumentImpl::nodeValueChanged, this, &PanelTopArea::onNodeValueChanged);
     }
     refresh();
+    bindId();
 }
 
 void PanelTopArea::unbind()
@@ -117,7 +111,7 @@ void PanelTopArea::unbind()
         disconnect(m_document, nullptr, this, nullptr);
     m_refreshSoon.stop();
     const QPointer<PanelTopArea> alive = this;
-    enterId(true);
+    m_id->unbind(); // enters what was typed
     if (!alive)
         return;
     m_nodes.clear();
@@ -140,7 +134,24 @@ void PanelTopArea::refresh()
     std::erase_if(m_nodes, [](const Node& node) { return !node.valid(); });
     refreshHeading();
     refreshButtons();
-    showId();
+    if (m_nodes.empty())
+        m_id->hide();
+}
+
+void PanelTopArea::bindId()
+{
+    // Parts of several classes are not numbered together.
+    std::set<NodeImpl*> nodes;
+    for (const Node& node : m_nodes) {
+        NodeImpl* impl = node.impl();
+        if (impl->classId() != m_nodes.front().impl()->classId() || !impl->hasProperty(coreKeys::id()))
+            return m_id->hide();
+        nodes.insert(nodes.end(), impl);
+    }
+    const bool any = m_document && !nodes.empty();
+    m_id->setVisible(any);
+    if (any)
+        m_id->bind(m_document, nodes);
 }
 
 void PanelTopArea::refreshHeading()
@@ -212,77 +223,8 @@ void PanelTopArea::onShortcut(ShortcutButton::Type type)
 
 void PanelTopArea::onNodeValueChanged(NodeImpl* node, PropertyKey key)
 {
-    if (node != onlyNode())
-        return;
-    if (key == coreKeys::title())
+    if (key == coreKeys::title() && node == onlyNode())
         refreshHeading();
-    else if (key == coreKeys::id())
-        showId();
-}
-
-void PanelTopArea::showId()
-{
-    NodeImpl* node = onlyNode();
-    m_id->setVisible(node && node->hasProperty(coreKeys::id()));
-    const PropertyImpl* property = node ? node->getProperty(coreKeys::id()) : nullptr;
-    const QString id = property ? property->getValue().toQString() : QString();
-    m_id->setEnabled(property && property->userCanEdit());
-    const bool pending = m_id->text() != m_shownId;
-    if (pending && id == m_shownId && property)
-        return; // nothing new about the id: what is being typed stays
-    m_shownId = id;
-    m_id->setText(id);
-    markId();
-}
-
-void PanelTopArea::markId()
-{
-    NodeImpl* node = onlyNode();
-    const bool pending = m_id->text() != m_shownId;
-    const QString reason = node && pending ? IdProvider(node).reason(m_id->text()) : QString();
-    QPalette palette;
-    if (!reason.isEmpty())
-        palette.setColor(QPalette::Text, Qt::red);
-    m_id->setPalette(palette);
-    m_id->setToolTip(reason.isEmpty() ? tr("A short name without blanks by which other things refer to it.") : reason);
-    m_id->setAccessibleDescription(reason);
-}
-
-void PanelTopArea::enterId(bool restoreWhenWrong)
-{
-    const QString text = m_id->text();
-    if (m_enteringId || text == m_shownId)
-        return;
-    NodeImpl* node = onlyNode();
-    PropertyImpl* property = node ? node->getProperty(coreKeys::id()) : nullptr;
-    const bool allowed = m_document && property && property->userCanEdit() && IdProvider(node).isValidId(text);
-    if (!allowed && !restoreWhenWrong)
-        return;
-    if (allowed) {
-        const QPointer<PanelTopArea> alive = this;
-        m_enteringId = true;
-        m_document->executeCommand(new SetValueCommand(Property(property), Value(text), true));
-        if (!alive)
-            return;
-        m_enteringId = false;
-    }
-    m_shownId.clear();
-    m_id->clear(); // so that the model's id is shown again in any case
-    showId();
-}
-
-bool PanelTopArea::eventFilter(QObject* object, QEvent* event)
-{
-    const bool key = event->type() == QEvent::KeyPress || event->type() == QEvent::ShortcutOverride;
-    if (object == m_id && key && static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape && m_id->text() != m_shownId) {
-        event->accept();
-        if (event->type() == QEvent::KeyPress) {
-            m_id->setText(m_shownId);
-            markId();
-        }
-        return true;
-    }
-    return QWidget::eventFilter(object, event);
 }
 
 void PanelTopArea::resizeEvent(QResizeEvent* event)

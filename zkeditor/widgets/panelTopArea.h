@@ -12,11 +12,11 @@
 #include <set>
 #include <vector>
 
-class LineEdit;
+class PartIdLineEdit;
 class QLabel;
 
-/// The top of a pane: icon and name of what is selected (how many, when several), its id, and buttons for what is often
-/// done with it. The buttons only tell that they were clicked.
+/// The top of a pane: icon and name of what is selected (how many, when several), its id (for several of one class a
+/// pattern for their ids), and buttons for what is often done with it. The buttons only tell that they were clicked.
 class ZKEDITOR_EXPORT PanelTopArea : public QWidget, public PaneWidget
 {
     Q_OBJECT
@@ -36,7 +36,6 @@ Q_SIGNALS:
     void shortcutClicked(ShortcutButton::Type type);
 
 protected:
-    bool eventFilter(QObject* object, QEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
 
 private:
@@ -44,9 +43,7 @@ private:
     void refreshButtons();
     void refreshHeading();
     void showName();
-    void showId();
-    void enterId(bool restoreWhenWrong);
-    void markId();
+    void bindId();
     void onNodeValueChanged(NodeImpl* node, PropertyKey key);
     void onShortcut(ShortcutButton::Type type);
     NodeImpl* onlyNode() const;
@@ -56,9 +53,7 @@ private:
     QTimer m_refreshSoon; // merges bursts of lock changes
     QLabel* m_icon;
     QLabel* m_name;
-    LineEdit* m_id;
+    PartIdLineEdit* m_id;
     std::vector<ShortcutButton*> m_buttons;
     QString m_fullName;
-    QString m_shownId;
-    bool m_enteringId = false;
 };

@@ -72,7 +72,8 @@ PartIdLineEdit::PartIdLineEdit(QWidget* parent, const QString& name)
 void PartIdLineEdit::setupWidget()
 {
     m_nodes.clear();
-    setPlaceholderText(m_props.size() > 1 ? tr("%n part(s)", nullptr, static_cast<int>(m_props.size())) : QString());
+    setPlaceholderText(m_props.size() > 1 ? tr("Rename %n parts", nullptr, static_cast<int>(m_props.size()))
+                                          : QString());
     PropertyObserver::setupWidget();
 }
 

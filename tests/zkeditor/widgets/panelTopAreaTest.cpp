@@ -1,6 +1,7 @@
 #include "zkeditor/widgets/panelTopArea.h"
 
 #include "../paneFixture.h"
+#include "zkcore/commands/deleteNodeCommand.h"
 #include "zkcore/commands/setUILockedCommand.h"
 #include "zkeditor/widgets/lineEdit.h"
 
@@ -61,9 +62,10 @@ TEST_F(PanelTopAreaTest, NamesWhatIsSelectedAndOffersWhatCanBeDoneWithIt)
     EXPECT_EQ(enabled(), "Delete;Duplicate;Lock;Show Pop-up;Help;");
     bind({tool, other});
     EXPECT_EQ(name(), QString::fromUtf8("2 × Tool"));
-    EXPECT_FALSE(id->isVisible());
+    EXPECT_TRUE(id->isVisible());
     bind({tool, balloon});
     EXPECT_EQ(name(), "2 parts");
+    EXPECT_FALSE(id->isVisible());
     bind({tool->getChildAt(0)}); // prescribed by the class of its part
     EXPECT_EQ(enabled(), "Lock;Help;");
     bind({firstScene(*document)});
@@ -81,9 +83,9 @@ TEST_F(PanelTopAreaTest, EntersIdsThatAreFreeOnly)
     type(id, "tool2");
     EXPECT_TRUE(isRed());
     EXPECT_FALSE(id->accessibleDescription().isEmpty());
-    QTest::keyClick(id, Qt::Key_Return);
-    EXPECT_EQ(id->text(), "tool2"); // to be mended
-    area->button(ShortcutButton::Help)->setFocus();
+    ASSERT_TRUE(QApplication::activePopupWidget()); // offers a free one
+    QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Tab);
+    EXPECT_FALSE(id->hasFocus());
     EXPECT_EQ(id->text(), "tool1");
     EXPECT_FALSE(isRed());
     type(id, "saw");
@@ -102,6 +104,30 @@ TEST_F(PanelTopAreaTest, EntersIdsThatAreFreeOnly)
     type(id, "axe"); // still typing when something else gets selected
     bind({});
     EXPECT_EQ(text(tool, "id"), "axe");
+}
+
+TEST_F(PanelTopAreaTest, SeveralPartsAreNumberedInOneStep)
+{
+    PartImpl* tool = add("panes/tool");
+    PartImpl* other = add("panes/tool");
+    bind({tool, other});
+    const int steps = undoSteps();
+    type(id, "saw");
+    area->button(ShortcutButton::Help)->setFocus();
+    EXPECT_EQ(text(tool, "id"), "saw1");
+    EXPECT_EQ(text(other, "id"), "saw2");
+    EXPECT_EQ(undoSteps(), steps + 1);
+    document->undo();
+    EXPECT_EQ(text(tool, "id"), "tool1");
+
+    // Parts that go while something is typed for them take nothing along.
+    type(id, "axe");
+    run<DeleteNodeCommand>(*document, Node(other), Command::PushUndo);
+    QApplication::processEvents();
+    EXPECT_EQ(name(), "Tool");
+    bind({});
+    EXPECT_TRUE(text(tool, "id").startsWith("axe"));
+    EXPECT_FALSE(id->isVisible());
 }
 
 TEST_F(PanelTopAreaTest, TheLockButtonShowsWhatIsNotWhatWasAskedFor)
