@@ -3,6 +3,7 @@
 #include "zkauthor/aboutBox.h"
 #include "zkauthor/actions.h"
 #include "zkauthor/flowchartBar.h"
+#include "zkauthor/insertMenu.h"
 #include "zkauthor/palettes.h"
 #include "zkauthor/partEditor.h"
 #include "zkauthor/partHelp.h"
@@ -16,7 +17,6 @@
 #include "zkcore/commands/addNodesCommand.h"
 #include "zkcore/commands/deleteNodeCommand.h"
 #include "zkcore/commands/setUILockedCommand.h"
-#include "zkcore/media/imageCache.h"
 #include "zkcore/model/documentImpl.h"
 #include "zkcore/model/view.h"
 #include "zkcore/services/crashHandler.h"
@@ -290,28 +290,8 @@ void MainWindow::saveCustomPart()
 void MainWindow::fillInsertMenu()
 {
     QMenu* menu = m_actions->insertMenu;
-    menu->clear();
-    qDeleteAll(menu->findChildren<QMenu*>(QString(), Qt::FindDirectChildrenOnly));
-    for (const PartsTreeStructure::Folder& folder : m_document->getPartsTreeStructure().folders) {
-        QMenu* group = menu->addMenu(folder.label);
-        for (const ClassId cid : folder.classes) {
-            QAction* action = group->addAction(m_document->getMetaLabelForCID(cid));
-            const Resource icon = m_document->getMetaIconForCID(cid);
-            if (icon.isValid())
-                action->setIcon(QIcon(ImageCache::getPixmap(icon, true)));
-            action->setData(cid);
-            const NodePrototype* prototype = m_document->getNodeDb()->lookupPrototype(cid);
-            if (prototype && isConnection(*prototype)) {
-                action->setStatusTip(tr("Connect the two selected parts"));
-                action->setEnabled(m_editor->canConnect(m_tabs->currentSpace()));
-                connect(action, &QAction::triggered, this, [this, cid] {
-                    edit([this, cid](SpaceImpl* space) { return m_editor->connectSelection(space, cid); });
-                });
-            } else {
-                connect(action, &QAction::triggered, this, [this, cid] { addPart(cid); });
-            }
-        }
-    }
+    ::fillInsertMenu(menu, *m_document, m_editor->canConnect(m_tabs->currentSpace()),
+                     [this](ClassId cid) { addPart(cid); });
     menu->addSeparator();
     menu->addActions({m_actions->addScene, m_actions->removeScene});
 }

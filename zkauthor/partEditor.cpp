@@ -68,6 +68,13 @@ bool PartEditor::addPart(SpaceImpl* space, ClassId cid, zk::Point place)
 {
     if (!m_document || !NodeImpl::valid(space))
         return false;
+    const NodePrototype* prototype = m_document->getNodeDb()->lookupPrototype(cid);
+    if (prototype && isConnection(*prototype)) {
+        if (canConnect(space))
+            return connectSelection(space, cid);
+        Q_EMIT failed(tr("Select the two parts that it shall connect first."));
+        return false;
+    }
     for (int tries = 0; tries < 20 && stands(*space, place); ++tries)
         place = {place.x + copyOffset, place.y + copyOffset};
     Value result;
@@ -282,6 +289,11 @@ bool PartEditor::drop(SpaceImpl* space, const QMimeData* data, zk::Point place)
     if (!AddPartDrag::decode(data, *m_document->getNodeDb(), nodes) || nodes.empty()) {
         Q_EMIT failed(tr("What was dropped is not a part."));
         return false;
+    }
+    if (nodes.size() == 1) {
+        const NodePrototype* prototype = m_document->getNodeDb()->lookupPrototype(nodes.front().cid);
+        if (prototype && isConnection(*prototype))
+            return addPart(space, nodes.front().cid, place);
     }
     zk::Point first;
     for (const NodeSnapshot::ValueEntry& entry : nodes.front().values) {

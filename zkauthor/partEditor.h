@@ -27,6 +27,7 @@ public:
     void setDocument(DocumentImpl* document) { m_document = document; }
 
     /// Adds a part of the class near the place (in metres; beside a part that stands right there) and selects it.
+    /// A connection joins the two selected parts instead, and fails without them.
     bool addPart(SpaceImpl* space, ClassId cid, zk::Point place);
     bool deleteSelection();
     /// Turns each selected part that may be turned about its own centre, by quarters of a turn clockwise.

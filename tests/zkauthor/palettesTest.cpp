@@ -265,16 +265,32 @@ TEST_F(PalettesTest, PartsTreeAddsToTheSceneOnView)
 
     type(field, "battery");
     keys(Qt::Key_Down);
-    const QModelIndex row = rows->currentIndex();
-    ASSERT_TRUE(row.parent().isValid());
+    ASSERT_TRUE(rows->currentIndex().parent().isValid());
     keys(Qt::Key_Return);
     EXPECT_EQ(second->childCount(), 2u);
-    const QPoint place = rows->visualRect(row).center();
+    const QPoint place = rows->visualRect(rows->currentIndex()).center();
     QTest::mouseClick(rows->viewport(), Qt::LeftButton, Qt::NoModifier, place);
     EXPECT_EQ(second->childCount(), 2u);
     QTest::mouseDClick(rows->viewport(), Qt::LeftButton, Qt::NoModifier, place);
     EXPECT_EQ(second->childCount(), 3u);
     EXPECT_EQ(first->childCount(), count);
+    // A wire is nothing without its ends.
+    document().setSelection({});
+    type(field, "electronics/wire");
+    answer(QMessageBox::Ok);
+    keys(Qt::Key_Return);
+    EXPECT_EQ(boxText(), "That could not be done.\nSelect the two parts that it shall connect first.");
+    EXPECT_EQ(second->childCount(), 3u);
+    m_window->activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(m_window.get()));
+    document().setSelection(
+        {qobject_cast<ElementImpl*>(second->getChildAt(0)), qobject_cast<ElementImpl*>(second->getChildAt(1))});
+    type(field, "electronics/wire");
+    keys(Qt::Key_Return);
+    ASSERT_EQ(second->childCount(), 4u);
+    EXPECT_TRUE(second->getChildAt(3)->valueOfProperty(PropertyKey::fromString("from")).toNode().valid());
+    type(field, "battery");
+    const QModelIndex row = rows->currentIndex();
     // A group is opened and closed, not added.
     const QModelIndex group = row.parent();
     const bool open = rows->isExpanded(group);
@@ -282,8 +298,8 @@ TEST_F(PalettesTest, PartsTreeAddsToTheSceneOnView)
     QTest::mouseClick(rows->viewport(), Qt::LeftButton, Qt::NoModifier, rows->visualRect(group).center());
     QTest::mouseDClick(rows->viewport(), Qt::LeftButton, Qt::NoModifier, rows->visualRect(group).center());
     EXPECT_NE(rows->isExpanded(group), open);
-    EXPECT_EQ(second->childCount(), 3u);
-    EXPECT_EQ(undoSteps(), 4);
+    EXPECT_EQ(second->childCount(), 4u);
+    EXPECT_EQ(undoSteps(), 5);
 }
 
 TEST_F(PalettesTest, ShortcutButtonsDoWhatTheySay)
