@@ -59,6 +59,12 @@ protected:
     bool hasPreview(const char* name) const { return picture(name).pixelColor(36, 27).alpha() == 255; }
 
     QTemporaryDir folder;
+    /// Other tests of the process may have made the settings service, which would bring their folders along.
+    const struct OwnSettings
+    {
+        OwnSettings() { QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, place.path()); }
+        QTemporaryDir place;
+    } settings;
     ModelsBrowser browser;
     ModelsModel* model = browser.findChild<ModelsModel*>();
     QTreeView* view = browser.findChild<QTreeView*>();

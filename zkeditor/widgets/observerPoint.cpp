@@ -224,7 +224,14 @@ ObserverPoint::ObserverPoint(QWidget* parent, const QString& name)
                    static_cast<int>(std::lround(2 * m_x->minimumSizeHint().height() * heightFactor)));
 }
 
-ObserverPoint::~ObserverPoint() = default;
+ObserverPoint::~ObserverPoint()
+{
+    // A field that has the focus loses it while the widget is being destroyed, when the observer is gone already.
+    for (PrivatePointSpinBox* box : {m_x, m_y}) {
+        box->editor()->removeEventFilter(box);
+        box->controls()->removeEventFilter(box);
+    }
+}
 
 void ObserverPoint::setupWidget()
 {
