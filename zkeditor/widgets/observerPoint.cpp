@@ -206,6 +206,12 @@ bool PrivatePointSpinBox::eventFilter(QObject* object, QEvent* event)
     return DoubleSpinBox::eventFilter(object, event);
 }
 
+void PrivatePointSpinBox::letGo()
+{
+    editor()->removeEventFilter(this);
+    controls()->removeEventFilter(this);
+}
+
 ObserverPoint::ObserverPoint(QWidget* parent, const QString& name)
     : QWidget(parent), NumericalObserver(this, Value::POINT),
       m_x(new PrivatePointSpinBox(0, this, QStringLiteral("x"))),
@@ -227,10 +233,8 @@ ObserverPoint::ObserverPoint(QWidget* parent, const QString& name)
 ObserverPoint::~ObserverPoint()
 {
     // A field that has the focus loses it while the widget is being destroyed, when the observer is gone already.
-    for (PrivatePointSpinBox* box : {m_x, m_y}) {
-        box->editor()->removeEventFilter(box);
-        box->controls()->removeEventFilter(box);
-    }
+    m_x->letGo();
+    m_y->letGo();
 }
 
 void ObserverPoint::setupWidget()

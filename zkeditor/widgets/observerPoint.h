@@ -15,6 +15,8 @@ public:
     /// 0 for x, 1 for y.
     PrivatePointSpinBox(int coordinate, ObserverPoint* owner, const QString& name);
 
+    /// No event is looked at any more; for the time when the owner is being destroyed.
+    void letGo();
     void setPeer(PrivatePointSpinBox* peer) { m_peer = peer; }
     /// Blank, because the nodes have different points.
     void setNoValue(bool noValue);
