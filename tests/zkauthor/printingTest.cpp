@@ -175,7 +175,7 @@ TEST_F(PrintingTest, WithoutALicenceALineStandsAtTheFoot)
     }
     ASSERT_FALSE(changed.isEmpty());
     EXPECT_GT(changed.top(), licensed.height() * 9 / 10);
-    EXPECT_NEAR(changed.center().x(), licensed.width() / 2, 12);
+    EXPECT_NEAR(changed.center().x(), licensed.width() / 2.0, 12);
     EXPECT_TRUE(evaluation == page());
 }
 
