@@ -9,6 +9,7 @@
 #include "zkcore/printing/elementGeometry.h"
 #include "zkcore/storage/addPartDrag.h"
 #include "zkcore/storage/fragmentXmlWriter.h"
+#include "zkeditor/duplication.h"
 
 #include <QClipboard>
 #include <QGuiApplication>
@@ -172,14 +173,12 @@ bool PartEditor::duplicateSelection(SpaceImpl* space)
 {
     if (!m_document || !NodeImpl::valid(space))
         return false;
-    const std::vector<const ElementImpl*> elements = selectionWithConnections(space);
-    if (elements.empty())
+    if (selectionWithConnections(space).empty())
         return false;
-    std::vector<NodeSnapshot> nodes;
-    nodes.reserve(elements.size());
-    for (const ElementImpl* element : elements)
-        nodes.push_back(NodeSnapshot::of(*element));
-    return addNodes(space, std::move(nodes), {copyOffset, copyOffset});
+    if (duplicateSelectedParts(*m_document, 1, {copyOffset, copyOffset}))
+        return true;
+    Q_EMIT failed(m_document->lastError());
+    return false;
 }
 
 std::pair<ElementImpl*, ElementImpl*> PartEditor::pinsToConnect(const SpaceImpl* space) const
