@@ -2,6 +2,7 @@
 
 #include "zkauthor/partRules.h"
 #include "zkcore/model/elementImpl.h"
+#include "zkcore/printing/elementGeometry.h"
 #include "zkcore/printing/scenePainter.h"
 
 #include <QPainter>

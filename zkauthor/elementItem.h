@@ -31,7 +31,6 @@ public:
     void updateGeometry();
     /// The same when nothing but the element's position changed, which is much quicker: the labels keep their room.
     void followPosition();
-    bool isMarked() const { return m_marked; }
     /// Draws it as selected, or not.
     void setMarked(bool marked);
 

@@ -48,9 +48,6 @@ public:
     /// For all views: whether the wheel zooms, and scrolls with Ctrl, instead of the other way round. Off at first.
     static void setWheelZooms(bool zooms);
 
-    /// Whether a drag or a held arrow key is moving parts.
-    bool isMovingParts() const { return m_move.isActive(); }
-
 Q_SIGNALS:
     /// The mouse is at this place, in millimetres.
     void pointerMoved(const QPointF& place);

@@ -29,10 +29,7 @@ public:
     DocumentImpl* document() const { return m_document; }
     /// Null when the space is gone.
     SpaceImpl* space() const { return m_space.impl(); }
-    InstanceId spaceId() const { return m_space.instanceId(); }
 
-    /// The page in millimetres.
-    QRectF pageRect() const { return m_page; }
     /// Makes the scene's rectangle just hold the page and every part; otherwise it only grows. Linear in their number.
     void tightenExtent();
 

@@ -123,7 +123,6 @@ void PropertyTableModel::dropConnections()
 void PropertyTableModel::onNodeDeleted(Node)
 {
     setNode(Node());
-    Q_EMIT nodeGone();
 }
 
 void PropertyTableModel::refreshRow(int row)

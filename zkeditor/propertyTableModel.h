@@ -31,10 +31,6 @@ public:
     QVariant data(const QModelIndex& index, int role = Qt::DisplayRole) const override;
     QVariant headerData(int section, Qt::Orientation orientation, int role = Qt::DisplayRole) const override;
 
-Q_SIGNALS:
-    /// The node shown is about to be destroyed; the model is empty now.
-    void nodeGone();
-
 private:
     void addRow(PropertyImpl* property);
     void dropConnections();

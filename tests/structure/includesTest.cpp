@@ -3,6 +3,8 @@
 #include "sourceTree.h"
 
 #include <QFileInfo>
+#include <QHash>
+#include <QRegularExpression>
 #include <QSet>
 #include <gtest/gtest.h>
 
@@ -36,6 +38,33 @@ bool isPrivate(const QString& header)
 {
     const bool hasCode = sourceTree::exists(header.chopped(2) + QStringLiteral(".cpp"));
     return hasCode && !sourceTree::text(header).contains(QLatin1String("_EXPORT "));
+}
+
+/// A file's text without its comments and include lines.
+QString codeOf(const QString& file)
+{
+    static const QRegularExpression noise(QStringLiteral("//[^\n]*|^\\s*#\\s*include[^\n]*"),
+                                          QRegularExpression::MultilineOption);
+    return sourceTree::text(file).remove(noise);
+}
+
+QSet<QString> captured(const QString& text, const QRegularExpression& pattern)
+{
+    QSet<QString> result;
+    for (auto matches = pattern.globalMatch(text); matches.hasNext();)
+        result.insert(matches.next().captured(1));
+    return result;
+}
+
+/// The names that a header declares: types, functions, constants, macros. A few too many rather than too few.
+QSet<QString> declaredIn(const QString& code)
+{
+    static const QRegularExpression forward(QStringLiteral("\\b(?:class|struct)\\s+(\\w+);"));
+    static const QRegularExpression type(
+        QStringLiteral("\\b(?:class|struct|enum|namespace|using)\\s+(?:class\\s+)?(?:ZK\\w+_EXPORT\\s+)?(\\w+)"));
+    static const QRegularExpression macro(QStringLiteral("#\\s*define\\s+(\\w+)"));
+    static const QRegularExpression other(QStringLiteral("\\b(\\w+)\\s*(?:\\(|=|;|\\[\\])"));
+    return (captured(code, type) + captured(code, macro) + captured(code, other)) - captured(code, forward);
 }
 
 std::string place(const QString& file, const IncludeLine& include)
@@ -109,4 +138,29 @@ TEST(Includes, UseEveryHeader)
     used.insert(QStringLiteral("tests/support/qtPrinting.h")); // by the build
     for (const QString& header : sourceTree::files(codeFolders, {QStringLiteral("*.h")}))
         EXPECT_TRUE(used.contains(header)) << "nobody includes " << header.toStdString();
+}
+
+TEST(Includes, AreOfUse)
+{
+    static const QRegularExpression word(QStringLiteral("\\b(\\w+)\\b"));
+    QHash<QString, QSet<QString>> declared;
+    QHash<QString, QSet<QString>> words;
+    forEachInclude([&](const QString& file, const IncludeLine& include) {
+        const QString folder = file.section(QLatin1Char('/'), 0, -2) + QLatin1Char('/');
+        const QString header = sourceTree::exists(include.name) ? include.name : folder + include.name;
+        if (!include.quoted || !header.endsWith(QLatin1String(".h")) || file.chopped(4) == header.chopped(2))
+            return;
+        if (!declared.contains(header))
+            declared.insert(header, declaredIn(codeOf(header)));
+        if (!words.contains(file))
+            words.insert(file, captured(codeOf(file), word));
+        EXPECT_TRUE(words.value(file).intersects(declared.value(header)))
+            << "nothing of it is used: " << place(file, include);
+    });
+}
+
+TEST(Sources, StayBelowSixHundredLines)
+{
+    for (const QString& file : sourceTree::files(codeFolders, codeFiles))
+        EXPECT_LE(sourceTree::text(file).count(QLatin1Char('\n')), 600) << file.toStdString();
 }

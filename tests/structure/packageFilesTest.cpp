@@ -1,6 +1,9 @@
-// Forms and pictures of the packages: each one is named somewhere, and what packages name is there.
+// Forms and pictures of the packages, and pictures of the documentation: each one is named somewhere, and what is named
+// is there.
 #include "sourceTree.h"
 
+#include <QDir>
+#include <QFileInfo>
 #include <QRegularExpression>
 #include <QSet>
 #include <gtest/gtest.h>
@@ -63,4 +66,24 @@ TEST(PackageFiles, AreThereWhenNamed)
     EXPECT_FALSE(named.isEmpty());
     for (const QString& name : named)
         EXPECT_TRUE(present.contains(name)) << "a package names " << name.toStdString();
+}
+
+TEST(Documentation, ShowsItsPicturesAndNoOthers)
+{
+    QSet<QString> named;
+    const QRegularExpression reference(QStringLiteral("(?:\\]\\(|src=\"|srcset=\")([^)\"#:]+\\.(?:png|svg|md))"));
+    const QStringList pages = sourceTree::files({QStringLiteral("docs")}, {QStringLiteral("*.md")}) +
+                              QStringList{QStringLiteral("README.md")};
+    for (const QString& page : pages) {
+        const QString text = sourceTree::text(page);
+        for (auto matches = reference.globalMatch(text); matches.hasNext();) {
+            const QString file =
+                QDir::cleanPath(QFileInfo(page).path() + QLatin1Char('/') + matches.next().captured(1));
+            EXPECT_TRUE(sourceTree::exists(file)) << page.toStdString() << " names " << file.toStdString();
+            named.insert(file);
+        }
+    }
+    for (const QString& file : sourceTree::files(
+             {QStringLiteral("docs")}, {QStringLiteral("*.png"), QStringLiteral("*.svg"), QStringLiteral("*.md")}))
+        EXPECT_TRUE(named.contains(file)) << "no page leads to " << file.toStdString();
 }

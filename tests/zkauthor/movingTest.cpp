@@ -5,7 +5,6 @@
 #include "zkauthor/sceneView.h"
 #include "zkauthor/spaceScene.h"
 #include "zkcore/commands/setUILockedCommand.h"
-#include "zkcore/storage/addPartDrag.h"
 #include "zkcore/storage/fragmentXmlWriter.h"
 
 #include <QApplication>

@@ -5,7 +5,6 @@
 #include "zkauthor/sceneView.h"
 #include "zkauthor/spaceTabs.h"
 #include "zkcore/commands/addNodesCommand.h"
-#include "zkcore/commands/setValueCommand.h"
 #include "zkeditor/settingsService.h"
 
 #include <QAbstractButton>

@@ -4,7 +4,6 @@
 #include "zkcore/media/resourceEntry.h"
 #include "zkcore/model/coreKeys.h"
 #include "zkcore/model/modelMutator.h"
-#include "zkcore/model/nodeFactory.h"
 #include "zkcore/model/nodeRegistry.h"
 #include "zkcore/model/nodeSnapshot.h"
 #include "zkcore/model/undoStep.h"

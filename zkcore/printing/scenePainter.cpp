@@ -8,6 +8,7 @@
 #include "zkcore/model/elementImpl.h"
 #include "zkcore/model/role.h"
 #include "zkcore/model/spaceImpl.h"
+#include "zkcore/printing/elementGeometry.h"
 #include "zkcore/printing/paintKeys.h"
 #include "zkcore/printing/paintText.h"
 

@@ -1,7 +1,6 @@
 #pragma once
 
 #include "zkcore/base/export.h"
-#include "zkcore/printing/elementGeometry.h"
 
 #include <QRectF>
 

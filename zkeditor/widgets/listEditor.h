@@ -42,7 +42,6 @@ protected:
     void addMoveButtons(const std::function<void(int)>& move);
     QAction* moveUpAction() const { return m_up; }
     QAction* moveDownAction() const { return m_down; }
-    QHBoxLayout* buttonRow() const { return m_buttons; }
     EditDelegate* editDelegate() const { return m_delegate; }
 
     /// The rows that are selected, in rising order.

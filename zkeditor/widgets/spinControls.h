@@ -20,7 +20,6 @@ public:
 
     /// Becomes a child, placed between the frame and the buttons.
     void setEditWidget(QWidget* editor);
-    QWidget* editWidget() const { return m_editor; }
     /// Places the editor anew; after a change of style or direction.
     void arrange();
 

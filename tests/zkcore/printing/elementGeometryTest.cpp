@@ -1,7 +1,6 @@
 #include "zkcore/printing/elementGeometry.h"
 
 #include "tests/support/testDocument.h"
-#include "zkcore/commands/setValueCommand.h"
 #include "zkcore/printing/scenePainter.h"
 
 #include <QImage>
