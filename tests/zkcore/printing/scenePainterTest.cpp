@@ -1,4 +1,5 @@
 #include "zkcore/printing/scenePainter.h"
+#include "zkcore/printing/elementGeometry.h"
 
 #include "tests/support/messageCapture.h"
 #include "tests/support/testDocument.h"
