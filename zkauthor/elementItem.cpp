@@ -1,9 +1,9 @@
 #include "zkauthor/elementItem.h"
 
-#include "zkauthor/partRules.h"
 #include "zkcore/model/elementImpl.h"
 #include "zkcore/printing/elementGeometry.h"
 #include "zkcore/printing/scenePainter.h"
+#include "zkeditor/duplication.h"
 
 #include <QPainter>
 #include <QStyleOptionGraphicsItem>

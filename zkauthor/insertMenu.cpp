@@ -1,8 +1,8 @@
 #include "zkauthor/insertMenu.h"
 
-#include "zkauthor/partRules.h"
 #include "zkcore/media/imageCache.h"
 #include "zkcore/model/documentImpl.h"
+#include "zkeditor/duplication.h"
 
 #include <QCoreApplication>
 #include <QMenu>

@@ -6,6 +6,7 @@
 #include "zkcore/model/coreKeys.h"
 #include "zkcore/model/documentImpl.h"
 #include "zkcore/model/elementImpl.h"
+#include "zkeditor/duplication.h"
 
 #include <QCoreApplication>
 #include <cmath>

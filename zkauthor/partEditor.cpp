@@ -123,28 +123,7 @@ bool PartEditor::rotateSelection(const SpaceImpl* space, int quarters)
 
 std::vector<const ElementImpl*> PartEditor::selectionWithConnections(const SpaceImpl* space) const
 {
-    // A connection goes along exactly when both its ends do, whether it is selected itself or not.
-    const std::vector<ElementImpl*> selected = selectedParts(*m_document, space);
-    QSet<const ElementImpl*> parts;
-    for (const ElementImpl* part : selected) {
-        if (!isConnection(*part))
-            parts.insert(part);
-    }
-    std::vector<const ElementImpl*> result;
-    if (parts.isEmpty())
-        return result;
-    for (NodeImpl* child : space->children()) {
-        const auto* element = static_cast<const ElementImpl*>(child);
-        bool wanted = parts.contains(element);
-        if (isConnection(*element)) {
-            const ElementImpl* from = partInSpace(element->valueOfProperty(coreKeys::from()).toNode().impl(), space);
-            const ElementImpl* to = partInSpace(element->valueOfProperty(coreKeys::to()).toNode().impl(), space);
-            wanted = from && to && parts.contains(from) && parts.contains(to);
-        }
-        if (wanted)
-            result.push_back(element);
-    }
-    return result;
+    return partsToCopy(*m_document)[space->instanceId()];
 }
 
 bool PartEditor::addNodes(SpaceImpl* space, std::vector<NodeSnapshot> nodes, zk::Point offset)

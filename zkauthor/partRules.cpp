@@ -8,17 +8,6 @@
 #include <algorithm>
 #include <utility>
 
-bool isConnection(const ElementImpl& element)
-{
-    return isConnection(element.prototype());
-}
-
-bool isConnection(const NodePrototype& prototype)
-{
-    static const ClassId connection = getCidForString("core/connection");
-    return prototype.instanceOf(connection);
-}
-
 bool userMayChange(const ElementImpl& element, PropertyKey key)
 {
     if (const PropertyImpl* property = element.existingProperty(key))

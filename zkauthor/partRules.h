@@ -7,13 +7,8 @@
 class DocumentImpl;
 class ElementImpl;
 class NodeImpl;
-class NodePrototype;
 class PartImpl;
 class SpaceImpl;
-
-/// Whether the element is a connection between pins, which has no place of its own.
-bool isConnection(const ElementImpl& element);
-bool isConnection(const NodePrototype& prototype);
 
 /// Whether the user may change the property now, locks aside; answered without making the property object.
 bool userMayChange(const ElementImpl& element, PropertyKey key);

@@ -11,12 +11,6 @@
 
 namespace {
 
-bool isConnectionPart(const ElementImpl& element)
-{
-    static const ClassId connection = getCidForString("core/connection");
-    return element.instanceOf(connection);
-}
-
 /// Whether an end of a connection stands in one of the parts.
 bool endsIn(const Value& end, const std::set<InstanceId>& parts)
 {
@@ -26,7 +20,31 @@ bool endsIn(const Value& end, const std::set<InstanceId>& parts)
     return node;
 }
 
-/// The selected parts by the space in which they stand, back to front, each with the connections to copy along.
+void moveCopy(NodeSnapshot& node, const ElementImpl& original, zk::Point offset)
+{
+    if (isConnection(original))
+        return;
+    const zk::Point old = original.position();
+    std::erase_if(node.values, [](const NodeSnapshot::ValueEntry& entry) {
+        return entry.key == coreKeys::position() && entry.domain == INVALID_CID;
+    });
+    node.values.push_back(
+        {INVALID_CID, coreKeys::position(), Value(zk::Point{old.x + offset.x, old.y + offset.y}), {}});
+}
+
+} // namespace
+
+bool isConnection(const ElementImpl& element)
+{
+    return isConnection(element.prototype());
+}
+
+bool isConnection(const NodePrototype& prototype)
+{
+    static const ClassId connection = getCidForString("core/connection");
+    return prototype.instanceOf(connection);
+}
+
 std::map<InstanceId, std::vector<const ElementImpl*>> partsToCopy(const DocumentImpl& document)
 {
     std::set<InstanceId> ids;
@@ -36,7 +54,7 @@ std::map<InstanceId, std::vector<const ElementImpl*>> partsToCopy(const Document
         found[space->instanceId()].emplace_back(space->getIndexForChild(element), element);
     };
     for (const ElementImpl* element : document.getSelection()) {
-        if (element->kind() == NodeKind::Part && !isConnectionPart(*element)) {
+        if (element->kind() == NodeKind::Part && !isConnection(*element)) {
             ids.insert(element->instanceId());
             add(element);
         }
@@ -55,20 +73,6 @@ std::map<InstanceId, std::vector<const ElementImpl*>> partsToCopy(const Document
     }
     return parts;
 }
-
-void moveCopy(NodeSnapshot& node, const ElementImpl& original, zk::Point offset)
-{
-    if (isConnectionPart(original))
-        return;
-    const zk::Point old = original.position();
-    std::erase_if(node.values, [](const NodeSnapshot::ValueEntry& entry) {
-        return entry.key == coreKeys::position() && entry.domain == INVALID_CID;
-    });
-    node.values.push_back(
-        {INVALID_CID, coreKeys::position(), Value(zk::Point{old.x + offset.x, old.y + offset.y}), {}});
-}
-
-} // namespace
 
 bool duplicateSelectedParts(DocumentImpl& document, int count, zk::Point offset)
 {
@@ -100,7 +104,7 @@ bool duplicateSelectedParts(DocumentImpl& document, int count, zk::Point offset)
         first = false;
         for (const Value& value : added.toValueVector()) {
             auto* element = qobject_cast<ElementImpl*>(value.toNode().impl());
-            if (element && !isConnectionPart(*element))
+            if (element && !isConnection(*element))
                 copies.insert(element);
         }
     }

@@ -4,6 +4,7 @@
 #include "zkcore/model/coreKeys.h"
 #include "zkcore/model/documentImpl.h"
 #include "zkcore/model/propertyImpl.h"
+#include "zkeditor/duplication.h"
 #include "zkeditor/widgets/leadingLabel.h"
 #include "zkeditor/widgets/partIdLineEdit.h"
 
@@ -30,8 +31,7 @@ bool mayBeDeleted(const NodeImpl* node)
 
 bool mayBeDuplicated(const NodeImpl* node)
 {
-    static const ClassId connection = getCidForString("core/connection");
-    return node->kind() == NodeKind::Part && !node->instanceOf(connection);
+    return node->kind() == NodeKind::Part && !isConnection(static_cast<const ElementImpl&>(*node));
 }
 
 bool mayBeReflected(const NodeImpl* node)
