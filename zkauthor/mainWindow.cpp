@@ -2,6 +2,7 @@
 
 #include "zkauthor/aboutBox.h"
 #include "zkauthor/actions.h"
+#include "zkauthor/documentFiles.h"
 #include "zkauthor/flowchartBar.h"
 #include "zkauthor/insertMenu.h"
 #include "zkauthor/palettes.h"
@@ -19,7 +20,6 @@
 #include "zkcore/model/documentImpl.h"
 #include "zkcore/model/view.h"
 #include "zkcore/services/crashHandler.h"
-#include "zkcore/services/productPackage.h"
 #include "zkeditor/dialogs/addCustomPart.h"
 #include "zkeditor/duplication.h"
 #include "zkeditor/license/licenceDialog.h"
@@ -31,9 +31,6 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QCloseEvent>
-#include <QDir>
-#include <QFileDialog>
-#include <QFileInfo>
 #include <QLabel>
 #include <QLocale>
 #include <QMenu>
@@ -42,9 +39,9 @@
 #include <QStatusBar>
 #include <algorithm>
 
-MainWindow::MainWindow(QWidget* parent)
-    : QMainWindow(parent), m_views(new ViewManager(this)), m_editor(new PartEditor(this)),
-      m_recent(new RecentFiles(this)), m_tabs(new SpaceTabs(m_views, m_editor)),
+MainWindow::MainWindow(QWidget* parent, std::shared_ptr<DocumentFiles> files)
+    : QMainWindow(parent), m_files(files ? std::move(files) : std::make_shared<DocumentFiles>()),
+      m_views(new ViewManager(this)), m_editor(new PartEditor(this)), m_tabs(new SpaceTabs(m_views, m_editor)),
       m_palettes(new Palettes(this, m_views)), m_licence(new LicenceManager(this)),
       m_printing(new Printing(this, m_views, m_licence)), m_flowcharts(new FlowchartBar(this)),
       m_actions(std::make_unique<Actions>(this)), m_selectionText(new QLabel), m_pointerText(new QLabel),
@@ -63,33 +60,35 @@ MainWindow::MainWindow(QWidget* parent)
     }
     m_pointerText->setMinimumWidth(fontMetrics().horizontalAdvance(QStringLiteral("0000.0, 0000.0 mm")));
 
-    m_recent->attachTo(m_actions->recentMenu);
+    m_files->setWindow(this);
+    m_files->recent()->attachTo(m_actions->recentMenu);
     addToolBar(m_flowcharts);
     m_actions->addBadge(this);
     m_palettes->addEntriesTo(m_actions->viewMenu);
     connectActions();
-    setDocument(new DocumentImpl);
+    setDocument(m_files->document());
 }
 
 MainWindow::~MainWindow()
 {
-    // Everything lets go of the document before it goes.
+    // Everything lets go of the document, which may live on.
+    m_document->disconnect(this);
     m_flowcharts->setDocument(nullptr);
     m_palettes->close();
     m_tabs->setDocument(nullptr);
     m_editor->setDocument(nullptr);
-    delete m_document;
 }
 
 void MainWindow::connectActions()
 {
     const auto on = [this](QAction* action, auto function) { connect(action, &QAction::triggered, this, function); };
-    on(m_actions->newDocument, &MainWindow::newDocument);
-    on(m_actions->open, &MainWindow::open);
-    on(m_actions->save, &MainWindow::save);
-    on(m_actions->saveAs, &MainWindow::saveAs);
-    on(m_actions->revert, &MainWindow::revert);
-    on(m_actions->close, &MainWindow::closeDocument);
+    DocumentFiles* files = m_files.get();
+    on(m_actions->newDocument, [files] { files->newDocument(); });
+    on(m_actions->open, [files] { files->open(); });
+    on(m_actions->save, [files] { files->save(); });
+    on(m_actions->saveAs, [files] { files->saveAs(); });
+    on(m_actions->revert, [files] { files->revert(); });
+    on(m_actions->close, [files] { files->newDocument(); });
     on(m_actions->quit, &MainWindow::close);
 
     on(m_actions->undo, &MainWindow::undo);
@@ -147,6 +146,10 @@ void MainWindow::connectActions()
     m_tabs->addAction(m_actions->remove);
 
     const auto note = [this](const QString& text) { statusBar()->showMessage(text, 6000); };
+    connect(files, &DocumentFiles::documentReplaced, this, &MainWindow::setDocument);
+    connect(files, &DocumentFiles::pendingEditWanted, m_palettes, &Palettes::commitPendingEdit);
+    connect(files, &DocumentFiles::noticed, this, note);
+    connect(files, &DocumentFiles::failed, this, &MainWindow::showError);
     connect(m_printing, &Printing::done, this, note);
     connect(m_printing, &Printing::failed, this, &MainWindow::showError);
     connect(m_licence, &LicenceManager::statusChanged, this, &MainWindow::updateTitle);
@@ -156,12 +159,12 @@ void MainWindow::connectActions()
     connect(m_tabs, &SpaceTabs::partPressed, m_flowcharts, &FlowchartBar::pressPart);
     connect(m_tabs, &SpaceTabs::readerKey, m_flowcharts, &FlowchartBar::pressKey);
     connect(m_palettes, &Palettes::partChosen, this, &MainWindow::addPart);
-    connect(m_palettes, &Palettes::documentChosen, this, &MainWindow::openRecent);
+    connect(m_palettes, &Palettes::documentChosen, files, &DocumentFiles::openRecent);
     connect(m_palettes, &Palettes::shortcutClicked, this, &MainWindow::onShortcut);
     connect(m_palettes, &Palettes::nodeRequested, this, &MainWindow::showNode);
     connect(m_palettes, &Palettes::failed, this,
             [this](const QString& reason) { showError(tr("That could not be done."), reason); });
-    connect(m_recent, &RecentFiles::chosen, this, &MainWindow::openRecent);
+    connect(files->recent(), &RecentFiles::chosen, this, [files](const QString& file) { files->openRecent(file); });
     connect(m_editor, &PartEditor::failed, this,
             [this](const QString& reason) { showError(tr("That could not be done."), reason); });
     connect(m_tabs, &SpaceTabs::currentSpaceChanged, this, &MainWindow::onCurrentSpaceChanged);
@@ -184,9 +187,8 @@ template <typename Function> void MainWindow::edit(Function function)
 
 void MainWindow::setDocument(DocumentImpl* document)
 {
-    DocumentImpl* old = m_document;
-    if (old)
-        disconnect(old, nullptr, this, nullptr);
+    if (m_document)
+        m_document->disconnect(this);
     m_flowcharts->setDocument(nullptr);
     m_tabs->setDocument(nullptr);
 
@@ -202,7 +204,6 @@ void MainWindow::setDocument(DocumentImpl* document)
     m_printing->setDocument(document);
     m_flowcharts->setDocument(document);
     m_tabs->setDocument(document);
-    delete old;
     updateTitle();
     updateUndoActions();
     updateActions();
@@ -210,13 +211,13 @@ void MainWindow::setDocument(DocumentImpl* document)
 
 QString MainWindow::fileName() const
 {
-    return m_document->getUrl().toLocalFile();
+    return m_files->fileName();
 }
 
 void MainWindow::updateTitle()
 {
     const QString file = fileName();
-    const QString name = file.isEmpty() ? tr("Untitled") : QFileInfo(file).fileName();
+    const QString name = m_files->displayName();
     const QString licence = m_licence->captionText();
     setWindowTitle(licence.isEmpty() ? QStringLiteral("%1[*] - zkauthor").arg(name)
                                      : QStringLiteral("%1[*] - zkauthor (%2)").arg(name, licence));
@@ -417,23 +418,12 @@ void MainWindow::showSelection()
 
 bool MainWindow::openFile(const QString& fileName, QString& error)
 {
-    auto document = std::make_unique<DocumentImpl>();
-    if (!document->load(fileName)) {
-        error = document->lastError();
-        return false;
-    }
-    for (const QString& warning : document->loadWarnings())
-        qWarning("MainWindow: %s", qPrintable(warning));
-    setDocument(document.release());
-    return true;
+    return m_files->openFile(fileName, error);
 }
 
 bool MainWindow::openStartDocument(const QString& fileName, QString& error)
 {
-    if (!openFile(fileName, error))
-        return false;
-    m_recent->add(fileName);
-    return true;
+    return m_files->openStartDocument(fileName, error);
 }
 
 bool MainWindow::selectParts(const QStringList& ids, QString& error)
@@ -456,107 +446,9 @@ bool MainWindow::selectParts(const QStringList& ids, QString& error)
     return true;
 }
 
-void MainWindow::newDocument()
-{
-    if (mayDiscard())
-        setDocument(new DocumentImpl);
-}
-
-void MainWindow::open()
-{
-    if (!mayDiscard())
-        return;
-    const QString folder = fileName().isEmpty() ? QString() : QFileInfo(fileName()).path();
-    const QString file =
-        QFileDialog::getOpenFileName(this, tr("Open"), folder, ProductPackage::instance().getLoadFilters());
-    if (file.isEmpty())
-        return;
-    QString error;
-    if (!openStartDocument(file, error))
-        showError(tr("%1 cannot be opened.").arg(QFileInfo(file).fileName()), error);
-}
-
-void MainWindow::openRecent(const QString& file)
-{
-    if (!mayDiscard())
-        return;
-    QString error;
-    if (!openStartDocument(file, error)) {
-        m_recent->remove(file);
-        showError(tr("%1 cannot be opened.").arg(QFileInfo(file).fileName()), error);
-    }
-}
-
-bool MainWindow::save()
-{
-    return fileName().isEmpty() ? saveAs() : saveTo(fileName());
-}
-
-bool MainWindow::saveAs()
-{
-    m_palettes->commitPendingEdit();
-    QFileDialog dialog(this, tr("Save As"), QString(), ProductPackage::instance().getSaveFilter());
-    dialog.setAcceptMode(QFileDialog::AcceptSave);
-    dialog.setDefaultSuffix(ProductPackage::instance().documentExtension());
-    if (!fileName().isEmpty()) {
-        dialog.setDirectory(QFileInfo(fileName()).path());
-        dialog.selectFile(QFileInfo(fileName()).fileName());
-    }
-    if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty())
-        return false;
-    return saveTo(dialog.selectedFiles().constFirst());
-}
-
-bool MainWindow::saveTo(const QString& file)
-{
-    m_palettes->commitPendingEdit();
-    if (!m_document->save(file)) {
-        showError(tr("%1 could not be saved.").arg(QFileInfo(file).fileName()), m_document->lastError());
-        return false;
-    }
-    m_recent->add(file);
-    statusBar()->showMessage(tr("Saved %1").arg(QDir::toNativeSeparators(file)), 4000);
-    return true;
-}
-
-void MainWindow::revert()
-{
-    m_palettes->commitPendingEdit();
-    if (fileName().isEmpty() || !m_document->isModified())
-        return;
-    const auto answer = QMessageBox::question(
-        this, tr("Revert"), tr("Lose all changes made since %1 was last saved?").arg(QFileInfo(fileName()).fileName()),
-        QMessageBox::Discard | QMessageBox::Cancel, QMessageBox::Cancel);
-    if (answer != QMessageBox::Discard)
-        return;
-    const QString file = fileName();
-    QString error;
-    if (!openFile(file, error))
-        showError(tr("%1 cannot be opened.").arg(QFileInfo(file).fileName()), error);
-}
-
-void MainWindow::closeDocument()
-{
-    newDocument();
-}
-
-bool MainWindow::mayDiscard()
-{
-    m_palettes->commitPendingEdit();
-    if (!m_document->isModified())
-        return true;
-    const QString name = fileName().isEmpty() ? tr("Untitled") : QFileInfo(fileName()).fileName();
-    const auto answer =
-        QMessageBox::question(this, tr("Changes not saved"), tr("Save the changes to %1?").arg(name),
-                              QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel, QMessageBox::Save);
-    if (answer == QMessageBox::Save)
-        return save();
-    return answer == QMessageBox::Discard;
-}
-
 void MainWindow::closeEvent(QCloseEvent* event)
 {
-    if (!mayDiscard()) {
+    if (!m_files->mayDiscard()) {
         event->ignore();
         return;
     }

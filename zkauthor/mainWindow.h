@@ -6,6 +6,7 @@
 #include <memory>
 
 struct Actions;
+class DocumentFiles;
 class DocumentImpl;
 class FlowchartBar;
 class LicenceManager;
@@ -15,7 +16,6 @@ class PartEditor;
 class Printing;
 class QLabel;
 class QMenu;
-class RecentFiles;
 class SceneView;
 class SpaceTabs;
 class ViewManager;
@@ -26,11 +26,14 @@ class MainWindow : public QMainWindow
     Q_OBJECT
 
 public:
-    /// Begins with a new document.
-    explicit MainWindow(QWidget* parent = nullptr);
+    /// Shows the document of the files; without files, a new document. Of several windows for the same files, the last
+    /// one asks and tells the user; the ones before should go.
+    explicit MainWindow(QWidget* parent = nullptr, std::shared_ptr<DocumentFiles> files = nullptr);
     ~MainWindow() override;
 
     DocumentImpl* document() const { return m_document; }
+    /// The document and its file live on when a window made with these files follows this one.
+    const std::shared_ptr<DocumentFiles>& files() const { return m_files; }
     ViewManager* viewManager() const { return m_views; }
     SpaceTabs* spaceTabs() const { return m_tabs; }
     FlowchartBar* flowcharts() const { return m_flowcharts; }
@@ -57,16 +60,6 @@ private:
     void connectActions();
     void setDocument(DocumentImpl* document);
     void fillInsertMenu();
-    /// Enters what is being typed, then asks about changes that are not saved. True when the document may go.
-    bool mayDiscard();
-    void newDocument();
-    void open();
-    void openRecent(const QString& fileName);
-    bool save();
-    bool saveAs();
-    bool saveTo(const QString& fileName);
-    void revert();
-    void closeDocument();
     void showError(const QString& text, const QString& reason);
     void about();
     void editPreferences();
@@ -96,10 +89,10 @@ private:
     void showPointer(const QPointF& place);
     void onCurrentSpaceChanged();
 
+    std::shared_ptr<DocumentFiles> m_files;
     DocumentImpl* m_document = nullptr;
     ViewManager* m_views;
     PartEditor* m_editor;
-    RecentFiles* m_recent;
     SpaceTabs* m_tabs;
     Palettes* m_palettes;
     LicenceManager* m_licence;
