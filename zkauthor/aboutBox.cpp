@@ -13,12 +13,20 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+namespace {
+
+struct AboutTexts
+{
+    Q_DECLARE_TR_FUNCTIONS(AboutBox)
+};
+
+} // namespace
+
 void showAboutBox(QWidget* parent, const LicenceManager& licence)
 {
-    const auto tr = [](const char* text) { return QCoreApplication::translate("AboutBox", text); };
     QDialog dialog(parent);
     dialog.setObjectName(QStringLiteral("about"));
-    dialog.setWindowTitle(tr("About zkauthor"));
+    dialog.setWindowTitle(AboutTexts::tr("About zkauthor"));
     auto* layout = new QVBoxLayout(&dialog);
     auto* picture = new QLabel;
     picture->setPixmap(ImageCache::getPixmap(Resource("editor/app"), QSize(96, 96), dialog.devicePixelRatioF()));
@@ -31,11 +39,12 @@ void showAboutBox(QWidget* parent, const LicenceManager& licence)
         label->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
         layout->addWidget(label);
     };
-    addText(tr("zkauthor %1").arg(QStringLiteral(ZK_VERSION)));
-    addText(tr("Shows and edits interactive teaching models: scenes with parts, their connections and properties."));
+    addText(AboutTexts::tr("zkauthor %1").arg(QStringLiteral(ZK_VERSION)));
+    addText(AboutTexts::tr(
+        "Shows and edits interactive teaching models: scenes with parts, their connections and properties."));
     addText(licence.statusText());
     auto* folder = new HyperLink(Package::userFolder(), nullptr);
-    folder->setDisplayText(tr("Folder of your own parts"));
+    folder->setDisplayText(AboutTexts::tr("Folder of your own parts"));
     layout->addWidget(folder);
     auto* buttons = new QDialogButtonBox(QDialogButtonBox::Close);
     QObject::connect(buttons, &QDialogButtonBox::rejected, &dialog, &QDialog::reject);

@@ -15,11 +15,6 @@
 
 namespace {
 
-QString tr(const char* text)
-{
-    return QCoreApplication::translate("Actions", text);
-}
-
 QIcon actionIcon(const char* name)
 {
     const Resource resource(QStringLiteral("editor/actions/") + QLatin1String(name));

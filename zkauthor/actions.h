@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QCoreApplication>
 #include <QString>
 
 class QAction;
@@ -9,6 +10,9 @@ class QMenu;
 /// The actions, menus and tool bar of the main window. Owned by the window, which connects them.
 struct Actions
 {
+    Q_DECLARE_TR_FUNCTIONS(Actions)
+
+public:
     explicit Actions(QMainWindow* window);
     /// A tool bar of its own, to the right of all that are there, with the product's badge; a click shows the about
     /// box.

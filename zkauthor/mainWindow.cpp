@@ -255,7 +255,8 @@ void MainWindow::updateActions()
 void MainWindow::updateSelectionText()
 {
     const size_t count = m_document->getSelection().size();
-    m_selectionText->setText(count == 0 ? tr("Nothing selected") : tr("%1 selected").arg(count));
+    m_selectionText->setText(count == 0 ? tr("Nothing selected")
+                                        : tr("%Ln selected", nullptr, static_cast<int>(count)));
 }
 
 void MainWindow::showPointer(const QPointF& place)

@@ -46,9 +46,9 @@ void MoveGesture::moveTo(zk::Point offset)
     if (!isActive() || !m_document || offset == m_offset)
         return;
     if (!m_stepOpen) {
-        const QString text = m_parts.size() == 1
-                                 ? QCoreApplication::translate("MoveGesture", "Move part")
-                                 : QCoreApplication::translate("MoveGesture", "Move %1 parts").arg(m_parts.size());
+        const QString text = m_parts.size() == 1 ? QCoreApplication::translate("MoveGesture", "Move part")
+                                                 : QCoreApplication::translate("MoveGesture", "Move %n parts", nullptr,
+                                                                               static_cast<int>(m_parts.size()));
         m_document->executeCommand(new PushUndoCommand(text));
         m_stepOpen = true;
     }

@@ -6,6 +6,15 @@
 #include <string_view>
 #include <utility>
 
+namespace {
+
+struct StartTexts
+{
+    Q_DECLARE_TR_FUNCTIONS(StartOptions)
+};
+
+} // namespace
+
 bool StartOptions::needsNoDisplay(int argc, char** argv)
 {
     for (int i = 1; i < argc; ++i) {
@@ -40,49 +49,52 @@ bool StartOptions::parseLog(const QString& text, Log& log)
 
 bool StartOptions::parse(const QCoreApplication& application, StartOptions& options, QString& error)
 {
-    const auto tr = [](const char* text) { return QCoreApplication::translate("StartOptions", text); };
-
     QCommandLineParser parser;
-    parser.setApplicationDescription(tr("Shows and edits interactive teaching models."));
+    parser.setApplicationDescription(StartTexts::tr("Shows and edits interactive teaching models."));
     parser.addHelpOption();
     parser.addVersionOption();
     const QCommandLineOption logOption(
         QStringLiteral("log"),
-        tr("Where messages go: stdout, stderr, file (velmor.log in the current folder), console (a window) or none."),
+        StartTexts::tr(
+            "Where messages go: stdout, stderr, file (velmor.log in the current folder), console (a window) or none."),
         QStringLiteral("target"));
-    const QCommandLineOption screenshotOption(QStringLiteral("screenshot"),
-                                              tr("Write a picture of the main window into a PNG file and quit."),
-                                              QStringLiteral("file"));
+    const QCommandLineOption screenshotOption(
+        QStringLiteral("screenshot"), StartTexts::tr("Write a picture of the main window into a PNG file and quit."),
+        QStringLiteral("file"));
     const QCommandLineOption selectOption(
-        QStringLiteral("select"), tr("Select the part with this id for the picture. May be given several times."),
+        QStringLiteral("select"),
+        StartTexts::tr("Select the part with this id for the picture. May be given several times."),
         QStringLiteral("id"));
     parser.addOption(logOption);
     parser.addOption(screenshotOption);
     parser.addOption(selectOption);
     const QCommandLineOption formsOption(
-        QStringLiteral("forms"), tr("Let the picture show the forms of what is selected from top to bottom, alone."));
-    const QCommandLineOption darkOption(QStringLiteral("dark"), tr("Take the picture in dark colours."));
+        QStringLiteral("forms"),
+        StartTexts::tr("Let the picture show the forms of what is selected from top to bottom, alone."));
+    const QCommandLineOption darkOption(QStringLiteral("dark"), StartTexts::tr("Take the picture in dark colours."));
     parser.addOption(formsOption);
     parser.addOption(darkOption);
-    parser.addPositionalArgument(QStringLiteral("document"), tr("The document to open."), QStringLiteral("[document]"));
+    parser.addPositionalArgument(QStringLiteral("document"), StartTexts::tr("The document to open."),
+                                 QStringLiteral("[document]"));
     parser.process(application);
 
     if (parser.isSet(logOption)) {
         const QString text = parser.value(logOption);
         options.logGiven = true;
         if (!parseLog(text, options.log)) {
-            error = tr("--log takes stdout, stderr, file, console or none, not \"%1\".").arg(text);
+            error = StartTexts::tr("--log takes stdout, stderr, file, console or none, not \"%1\".").arg(text);
             return false;
         }
     }
     if (parser.positionalArguments().size() > 1) {
-        error = tr("Only one document can be opened, but %1 were given.").arg(parser.positionalArguments().size());
+        error = StartTexts::tr("Only one document can be opened, but %1 were given.")
+                    .arg(parser.positionalArguments().size());
         return false;
     }
     if (!parser.positionalArguments().isEmpty())
         options.document = parser.positionalArguments().constFirst();
     if (parser.isSet(screenshotOption) && parser.value(screenshotOption).isEmpty()) {
-        error = tr("--screenshot needs the name of a file.");
+        error = StartTexts::tr("--screenshot needs the name of a file.");
         return false;
     }
     options.screenshot = parser.value(screenshotOption);
@@ -91,7 +103,7 @@ bool StartOptions::parse(const QCoreApplication& application, StartOptions& opti
     options.dark = parser.isSet(darkOption);
     for (const QCommandLineOption& option : {selectOption, formsOption, darkOption}) {
         if (parser.isSet(option) && options.screenshot.isEmpty()) {
-            error = tr("--%1 only works together with --screenshot.").arg(option.names().constFirst());
+            error = StartTexts::tr("--%1 only works together with --screenshot.").arg(option.names().constFirst());
             return false;
         }
     }

@@ -9,10 +9,10 @@
 
 namespace {
 
-QString associationText(const char* source)
+struct AssociationTexts
 {
-    return QCoreApplication::translate("Associations", source);
-}
+    Q_DECLARE_TR_FUNCTIONS(Associations)
+};
 
 /// Whether a property of an element follows only because the element reflects another.
 bool followsAsReflection(const PropertyImpl& follower)
@@ -26,14 +26,15 @@ bool followsAsReflection(const PropertyImpl& follower)
 QString ownName(const PropertyImpl& property, const ElementImpl& element)
 {
     const QString label = property.getUserVisibleLabel();
-    return property.owner() == &element ? label : associationText("%1: %2").arg(property.owner()->displayName(), label);
+    return property.owner() == &element ? label
+                                        : AssociationTexts::tr("%1: %2").arg(property.owner()->displayName(), label);
 }
 
 QString foreignName(const PropertyImpl& property, const QString& ownLabel)
 {
     const QString label = property.getUserVisibleLabel();
     const QString node = property.owner()->displayName();
-    return label == ownLabel ? node : associationText("%1: %2").arg(node, label);
+    return label == ownLabel ? node : AssociationTexts::tr("%1: %2").arg(node, label);
 }
 
 Association linkOf(const PropertyImpl& follower, const PropertyImpl& subject, const ElementImpl& element, bool follows)
@@ -41,10 +42,10 @@ Association linkOf(const PropertyImpl& follower, const PropertyImpl& subject, co
     const PropertyImpl& own = follows ? follower : subject;
     const PropertyImpl& other = follows ? subject : follower;
     Association link;
-    link.group = follows ? associationText("Follows") : associationText("Followed by");
-    link.text = associationText(follows ? "%1 ← %2" : "%1 → %2")
+    link.group = follows ? AssociationTexts::tr("Follows") : AssociationTexts::tr("Followed by");
+    link.text = QString(follows ? QStringLiteral("%1 ← %2") : QStringLiteral("%1 → %2"))
                     .arg(ownName(own, element), foreignName(other, own.getUserVisibleLabel()));
-    link.sentence = associationText("%1 of %2 follows %3 of %4")
+    link.sentence = AssociationTexts::tr("%1 of %2 follows %3 of %4")
                         .arg(follower.getUserVisibleLabel(), follower.owner()->displayName(),
                              subject.getUserVisibleLabel(), subject.owner()->displayName());
     link.node = other.owner()->instanceId();
@@ -56,14 +57,14 @@ QString reflectionKindName(ReflectionKind kind)
 {
     switch (kind) {
     case ReflectionKind::Controls:
-        return associationText("Controls");
+        return AssociationTexts::tr("Controls");
     case ReflectionKind::Pads:
-        return associationText("Pads");
+        return AssociationTexts::tr("Pads");
     case ReflectionKind::Body:
     case ReflectionKind::None:
         break;
     }
-    return associationText("Body");
+    return AssociationTexts::tr("Body");
 }
 
 Association nodeEntry(const QString& group, const NodeImpl& node)
@@ -71,7 +72,7 @@ Association nodeEntry(const QString& group, const NodeImpl& node)
     Association entry;
     entry.group = group;
     entry.text = node.displayName();
-    entry.sentence = associationText("%1: %2").arg(group, entry.text);
+    entry.sentence = AssociationTexts::tr("%1: %2").arg(group, entry.text);
     entry.node = node.instanceId();
     return entry;
 }
@@ -92,16 +93,16 @@ Associations::Associations(const ElementImpl& element)
     for (const ElementImpl* subpart : element.allSubparts()) {
         addLinks(*subpart, element);
         const RoleSet roles = subpart->getRoles();
-        subparts.add(nodeEntry(roles.empty() ? associationText("Others") : roles.toString(), *subpart));
+        subparts.add(nodeEntry(roles.empty() ? AssociationTexts::tr("Others") : roles.toString(), *subpart));
     }
     std::stable_sort(subparts.entries.begin(), subparts.entries.end(),
                      [](const Association& a, const Association& b) { return a.group < b.group; });
     addReflections(element);
     const auto* part = qobject_cast<const PartImpl*>(&element);
     if (const PopupImpl* space = part ? part->popup() : nullptr) {
-        popup.add(nodeEntry(associationText("Pop-up"), *space));
+        popup.add(nodeEntry(AssociationTexts::tr("Pop-up"), *space));
         for (const PartImpl* inside : space->parts())
-            popup.add(nodeEntry(associationText("Parts in it"), *inside));
+            popup.add(nodeEntry(AssociationTexts::tr("Parts in it"), *inside));
     }
 }
 
@@ -112,9 +113,9 @@ void Associations::addLinks(const ElementImpl& owner, const ElementImpl& element
         if (definition.type == Value::NODE) {
             const Node other = owner.valueOfProperty(definition.key).toNode();
             if (other.valid()) {
-                Association entry = nodeEntry(associationText("Refers to"), *other.impl());
-                entry.text =
-                    associationText("%1: %2").arg(translateStringFromContext(&owner, definition.label), entry.text);
+                Association entry = nodeEntry(AssociationTexts::tr("Refers to"), *other.impl());
+                entry.text = AssociationTexts::tr("%1: %2").arg(translateStringFromContext(&owner, definition.label),
+                                                                entry.text);
                 links.add(std::move(entry));
             }
         }
@@ -134,11 +135,11 @@ void Associations::addLinks(const ElementImpl& owner, const ElementImpl& element
 void Associations::addReflections(const ElementImpl& element)
 {
     if (const ElementImpl* original = element.reflectionOriginal())
-        reflections.add(nodeEntry(associationText("Reflection of"), *original));
+        reflections.add(nodeEntry(AssociationTexts::tr("Reflection of"), *original));
     for (const ElementImpl* reflection : element.document()->reflectionsOf(&element)) {
         Association entry = nodeEntry(reflectionKindName(reflection->reflectionKind()), *reflection);
         if (const NodeImpl* place = reflection->parentNode())
-            entry.text = associationText("%1 in %2").arg(entry.text, place->displayName());
+            entry.text = AssociationTexts::tr("%1 in %2").arg(entry.text, place->displayName());
         if (reflection->kind() == NodeKind::Part)
             entry.reflection = reflection->instanceId();
         reflections.add(std::move(entry));

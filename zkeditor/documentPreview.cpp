@@ -20,10 +20,10 @@ namespace {
 constexpr int partsInPreview = 1500;
 constexpr qint64 charactersInPreview = 4'000'000;
 
-QString previewMessage(const char* text)
+struct PreviewTexts
 {
-    return QCoreApplication::translate("ModelsBrowser", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(ModelsBrowser)
+};
 
 /// Where to cut a document so that what stands before is one with its first scene.
 class ExcerptEnd
@@ -87,7 +87,7 @@ DocumentExcerpt readDocumentExcerpt(const QString& fileName, const std::atomic<b
         else if (token == QXmlStreamReader::EndElement)
             end.leave(xml);
         else if (token == QXmlStreamReader::DTD)
-            xml.raiseError(previewMessage("document type declarations are not allowed"));
+            xml.raiseError(PreviewTexts::tr("document type declarations are not allowed"));
     }
     if (cancelled)
         return {};

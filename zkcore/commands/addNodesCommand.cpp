@@ -11,10 +11,10 @@
 
 namespace {
 
-QString addText(const char* source, int n = -1)
+struct AddNodesTexts
 {
-    return QCoreApplication::translate("AddNodesCommand", source, nullptr, n);
-}
+    Q_DECLARE_TR_FUNCTIONS(AddNodesCommand)
+};
 
 bool mayStandIn(NodeKind child, NodeKind parent)
 {
@@ -108,7 +108,7 @@ AddNodesCommand::~AddNodesCommand() = default;
 
 QString AddNodesCommand::getUndoDescription() const
 {
-    return addText("Adding of %n object(s)", static_cast<int>(m_nodes.size()));
+    return AddNodesTexts::tr("Adding of %n object(s)", nullptr, static_cast<int>(m_nodes.size()));
 }
 
 QString AddNodesCommand::getXMLClass() const
@@ -120,11 +120,12 @@ Value AddNodesCommand::run(ModelMutator& mutator)
 {
     const NodeImpl* parent = mutator.node(m_parent);
     if (!parent)
-        return fail(addText("The place to add to is not there any more."));
+        return fail(AddNodesTexts::tr("The place to add to is not there any more."));
     size_t count = 0;
     for (const NodeSnapshot& node : m_nodes) {
         if (!mayStandIn(node.kind, parent->kind()))
-            return fail(addText("An object of the class \"%1\" cannot stand there.").arg(findStringForCid(node.cid)));
+            return fail(
+                AddNodesTexts::tr("An object of the class \"%1\" cannot stand there.").arg(findStringForCid(node.cid)));
         count += node.count();
     }
     if (!m_idsGiven)
@@ -138,7 +139,7 @@ Value AddNodesCommand::run(ModelMutator& mutator)
     for (NodeSnapshot& node : m_nodes) {
         NodeImpl* made = mutator.addNode(m_parent, index++, node);
         if (!made)
-            return fail(addText("An instance id is in use already."));
+            return fail(AddNodesTexts::tr("An instance id is in use already."));
         added.emplace_back(Node(made));
     }
     return Value(added);
@@ -195,7 +196,7 @@ AddPartCommand::AddPartCommand(const Space& space, ClassId cid, const zk::Point&
 
 QString AddPartCommand::getUndoDescription() const
 {
-    return addText("Adding of a part");
+    return AddNodesTexts::tr("Adding of a part");
 }
 
 QString AddPartCommand::getXMLClass() const
@@ -206,7 +207,7 @@ QString AddPartCommand::getXMLClass() const
 Value AddPartCommand::run(ModelMutator& mutator)
 {
     if (m_nodes.empty() || m_nodes.front().kind != NodeKind::Part)
-        return fail(addText("There is no such kind of part."));
+        return fail(AddNodesTexts::tr("There is no such kind of part."));
     return onlyNode(AddNodesCommand::run(mutator));
 }
 
@@ -219,7 +220,7 @@ AddSubpartCommand::AddSubpartCommand(const Node& element, ClassId cid, bool push
 
 QString AddSubpartCommand::getUndoDescription() const
 {
-    return addText("Adding of a subpart");
+    return AddNodesTexts::tr("Adding of a subpart");
 }
 
 QString AddSubpartCommand::getXMLClass() const
@@ -231,11 +232,11 @@ Value AddSubpartCommand::run(ModelMutator& mutator)
 {
     const auto* element = qobject_cast<const ElementImpl*>(mutator.node(m_parent));
     if (!element || m_nodes.empty())
-        return fail(addText("The part is not there any more."));
+        return fail(AddNodesTexts::tr("The part is not there any more."));
     const SubpartRule* rule = element->prototype().ruleFor(m_nodes.front().cid);
     if (!rule)
-        return fail(
-            addText("The part cannot have a subpart of the class \"%1\".").arg(findStringForCid(m_nodes.front().cid)));
+        return fail(AddNodesTexts::tr("The part cannot have a subpart of the class \"%1\".")
+                        .arg(findStringForCid(m_nodes.front().cid)));
     if (rule->maximum != 0) {
         const RoleSet role(rule->role);
         unsigned int present = 0;
@@ -244,7 +245,7 @@ Value AddSubpartCommand::run(ModelMutator& mutator)
                 ++present;
         }
         if (present >= rule->maximum)
-            return fail(addText("The part has all the subparts of that role that it can have."));
+            return fail(AddNodesTexts::tr("The part has all the subparts of that role that it can have."));
     }
     return onlyNode(AddNodesCommand::run(mutator));
 }
@@ -258,7 +259,7 @@ AddSceneCommand::AddSceneCommand(const Model& model) : AddNodesCommand(true)
 
 QString AddSceneCommand::getUndoDescription() const
 {
-    return addText("Adding of a scene");
+    return AddNodesTexts::tr("Adding of a scene");
 }
 
 QString AddSceneCommand::getXMLClass() const

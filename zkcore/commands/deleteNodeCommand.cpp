@@ -9,10 +9,10 @@
 
 namespace {
 
-QString deleteText(const char* source, int n = -1)
+struct DeleteNodeTexts
 {
-    return QCoreApplication::translate("DeleteNodeCommand", source, nullptr, n);
-}
+    Q_DECLARE_TR_FUNCTIONS(DeleteNodeCommand)
+};
 
 bool standsInOne(const NodeImpl* node, const std::set<InstanceId>& nodes)
 {
@@ -58,8 +58,8 @@ DeleteNodeCommand::DeleteNodeCommand(const std::vector<Node>& nodes, int flags) 
 QString DeleteNodeCommand::getUndoDescription() const
 {
     if (!m_label.isEmpty())
-        return deleteText("Deletion of %1").arg(m_label);
-    return deleteText("Deletion of %n object(s)", static_cast<int>(m_nodes.size()));
+        return DeleteNodeTexts::tr("Deletion of %1").arg(m_label);
+    return DeleteNodeTexts::tr("Deletion of %n object(s)", nullptr, static_cast<int>(m_nodes.size()));
 }
 
 QString DeleteNodeCommand::getXMLClass() const
@@ -75,15 +75,15 @@ Value DeleteNodeCommand::run(ModelMutator& mutator)
     for (const InstanceId id : m_nodes) {
         const NodeImpl* node = mutator.node(id);
         if (!node)
-            return fail(deleteText("The object is not there any more."));
+            return fail(DeleteNodeTexts::tr("The object is not there any more."));
         if (node->kind() == NodeKind::Model || node->kind() == NodeKind::Popup)
-            return fail(deleteText("The document itself and pop-ups cannot be deleted."));
+            return fail(DeleteNodeTexts::tr("The document itself and pop-ups cannot be deleted."));
         if (node->kind() == NodeKind::Subpart && !static_cast<const ElementImpl*>(node)->isAdhoc())
-            return fail(deleteText("The subpart belongs to its part and cannot be deleted."));
+            return fail(DeleteNodeTexts::tr("The subpart belongs to its part and cannot be deleted."));
         if (doomed.insert(id).second)
             order.push_back(id);
         if (node->kind() == NodeKind::Scene && --scenes == 0)
-            return fail(deleteText("The last scene cannot be deleted."));
+            return fail(DeleteNodeTexts::tr("The last scene cannot be deleted."));
     }
     std::vector<InstanceId> more;
     for (const InstanceId id : order)

@@ -8,10 +8,10 @@
 
 namespace {
 
-QString proxyText(const char* source)
+struct ProxyTexts
 {
-    return QCoreApplication::translate("ProxyCommands", source);
-}
+    Q_DECLARE_TR_FUNCTIONS(ProxyCommands)
+};
 
 PropertyAddress addressOf(const Property& property)
 {
@@ -37,7 +37,7 @@ SetProxyCommand::SetProxyCommand(const Property& property, const Property& targe
 
 QString SetProxyCommand::getUndoDescription() const
 {
-    return proxyText("Link of %1").arg(m_label.isEmpty() ? m_property.key.toString() : m_label);
+    return ProxyTexts::tr("Link of %1").arg(m_label.isEmpty() ? m_property.key.toString() : m_label);
 }
 
 QString SetProxyCommand::getXMLClass() const
@@ -50,11 +50,11 @@ Value SetProxyCommand::run(ModelMutator& mutator)
     PropertyImpl* property = mutator.document().propertyAt(m_property);
     PropertyImpl* target = mutator.document().propertyAt(m_target);
     if (!property || !target)
-        return fail(proxyText("One of the properties is not there any more."));
+        return fail(ProxyTexts::tr("One of the properties is not there any more."));
     if (const QString reason = property->acceptableProxyTypes().reason(Property(target)); !reason.isEmpty())
         return fail(reason);
     if (property->isComputed())
-        return fail(proxyText("A property that the program works out cannot follow another."));
+        return fail(ProxyTexts::tr("A property that the program works out cannot follow another."));
     mutator.setProxy(m_property, m_target);
     return Value(true);
 }
@@ -80,7 +80,7 @@ DetachProxyCommand::DetachProxyCommand(const Property& property, bool pushUndo)
 
 QString DetachProxyCommand::getUndoDescription() const
 {
-    return proxyText("Detaching of %1").arg(m_label.isEmpty() ? m_property.key.toString() : m_label);
+    return ProxyTexts::tr("Detaching of %1").arg(m_label.isEmpty() ? m_property.key.toString() : m_label);
 }
 
 QString DetachProxyCommand::getXMLClass() const
@@ -91,7 +91,7 @@ QString DetachProxyCommand::getXMLClass() const
 Value DetachProxyCommand::run(ModelMutator& mutator)
 {
     if (!mutator.document().propertyAt(m_property))
-        return fail(proxyText("The property is not there any more."));
+        return fail(ProxyTexts::tr("The property is not there any more."));
     mutator.detachProxy(m_property);
     return Value(true);
 }

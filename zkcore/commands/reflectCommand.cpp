@@ -10,10 +10,10 @@
 
 namespace {
 
-QString reflectText(const char* source)
+struct ReflectTexts
 {
-    return QCoreApplication::translate("ReflectCommand", source);
-}
+    Q_DECLARE_TR_FUNCTIONS(ReflectCommand)
+};
 
 /// Facts about the class, the same for every node of it.
 bool isClassProperty(const PropertyDefinition& definition)
@@ -72,7 +72,7 @@ ReflectCommand::ReflectCommand(ReflectionKind kind, const Part& original, const 
 
 QString ReflectCommand::getUndoDescription() const
 {
-    return m_reflect ? reflectText("Reflection") : reflectText("Removal of a reflection");
+    return m_reflect ? ReflectTexts::tr("Reflection") : ReflectTexts::tr("Removal of a reflection");
 }
 
 Value ReflectCommand::run(ModelMutator& mutator)
@@ -82,9 +82,9 @@ Value ReflectCommand::run(ModelMutator& mutator)
     if (auto* part = qobject_cast<PartImpl*>(container))
         container = part->popup();
     if (!original || !container)
-        return fail(reflectText("There is no such part, or no place for the reflection."));
+        return fail(ReflectTexts::tr("There is no such part, or no place for the reflection."));
     if (container->kind() != NodeKind::Scene && container->kind() != NodeKind::Popup)
-        return fail(reflectText("A reflection stands in a scene or a pop-up."));
+        return fail(ReflectTexts::tr("A reflection stands in a scene or a pop-up."));
 
     const ElementImpl* present = nullptr;
     for (const ElementImpl* reflection : mutator.document().reflectionsOf(original)) {
@@ -93,7 +93,7 @@ Value ReflectCommand::run(ModelMutator& mutator)
     }
     if (!m_reflect) {
         if (!present)
-            return fail(reflectText("There is no such reflection."));
+            return fail(ReflectTexts::tr("There is no such reflection."));
         mutator.removeNode(present->instanceId());
         return Value(true);
     }
@@ -103,7 +103,7 @@ Value ReflectCommand::run(ModelMutator& mutator)
     const RoleSet role(roleOfReflection(m_kind));
     const bool hasBody = m_kind == ReflectionKind::Body && original->prototype().body.isValid();
     if (!original->canReflect() || (!hasBody && original->getChildrenWithRole(role).empty()))
-        return fail(reflectText("The part has nothing of the kind to reflect."));
+        return fail(ReflectTexts::tr("The part has nothing of the kind to reflect."));
 
     NodeSnapshot node = reflectionOf(*original, m_kind, role, true);
     const bool recorded = m_firstId != 0;
@@ -125,7 +125,7 @@ Value ReflectCommand::run(ModelMutator& mutator)
         id = stem + QString::number(number);
     setOwnValue(node, coreKeys::id(), Value(id));
     NodeImpl* made = mutator.addNode(container->instanceId(), ~0u, node);
-    return made ? Value(Node(made)) : fail(reflectText("An instance id is in use already."));
+    return made ? Value(Node(made)) : fail(ReflectTexts::tr("An instance id is in use already."));
 }
 
 void ReflectCommand::writeContent(QXmlStreamWriter& writer) const

@@ -12,10 +12,10 @@
 
 namespace {
 
-QString setValueText(const char* source, int n = -1)
+struct SetValueTexts
 {
-    return QCoreApplication::translate("SetValueCommand", source, nullptr, n);
-}
+    Q_DECLARE_TR_FUNCTIONS(SetValueCommand)
+};
 
 } // namespace
 
@@ -44,8 +44,8 @@ QString SetValueCommand::getUndoDescription() const
 {
     const QString label = m_label.isEmpty() && !m_entries.empty() ? m_entries.front().address.key.toString() : m_label;
     if (m_entries.size() == 1)
-        return setValueText("Change of %1").arg(label);
-    return setValueText("Change of %1 (%n objects)", static_cast<int>(m_entries.size())).arg(label);
+        return SetValueTexts::tr("Change of %1").arg(label);
+    return SetValueTexts::tr("Change of %1 (%n objects)", nullptr, static_cast<int>(m_entries.size())).arg(label);
 }
 
 QString SetValueCommand::getXMLClass() const
@@ -63,7 +63,7 @@ Value SetValueCommand::run(ModelMutator& mutator)
     for (Entry& entry : m_entries) {
         const NodeImpl* owner = mutator.node(entry.address.node);
         if (!owner)
-            return fail(setValueText("The object is not there any more."));
+            return fail(SetValueTexts::tr("The object is not there any more."));
         if (entry.address.domain != INVALID_CID || &owner->prototype() != lastPrototype ||
             entry.address.key != lastKey) {
             const NodePrototype* prototype = entry.address.domain == INVALID_CID
@@ -74,9 +74,9 @@ Value SetValueCommand::run(ModelMutator& mutator)
             lastKey = entry.address.key;
         }
         if (!definition)
-            return fail(setValueText("There is no property \"%1\".").arg(entry.address.key.toString()));
+            return fail(SetValueTexts::tr("There is no property \"%1\".").arg(entry.address.key.toString()));
         if (definition->flags & PropertyDefinition::Computed)
-            return fail(setValueText("The property \"%1\" is worked out by the program and cannot be set.")
+            return fail(SetValueTexts::tr("The property \"%1\" is worked out by the program and cannot be set.")
                             .arg(entry.address.key.toString()));
         const PropertyImpl* property = entry.address.domain == INVALID_CID ? owner->existingProperty(entry.address.key)
                                                                            : document.propertyAt(entry.address);
@@ -86,12 +86,12 @@ Value SetValueCommand::run(ModelMutator& mutator)
             // Each link of the chain must let the value through.
             while (property->isProxy()) {
                 if (!property->isMutableProxy())
-                    return fail(setValueText("The property \"%1\" follows another one and cannot be set.")
+                    return fail(SetValueTexts::tr("The property \"%1\" follows another one and cannot be set.")
                                     .arg(entry.address.key.toString()));
                 property = property->proxySubject();
             }
             if (property->isComputed())
-                return fail(setValueText("The property \"%1\" is worked out by the program and cannot be set.")
+                return fail(SetValueTexts::tr("The property \"%1\" is worked out by the program and cannot be set.")
                                 .arg(property->key().toString()));
             entry.address = property->address();
             if (property->type() != entry.value.type() && entry.value.isNumeric())
@@ -101,7 +101,7 @@ Value SetValueCommand::run(ModelMutator& mutator)
             validator = property->getValidator();
         }
         if (entry.value.type() != type)
-            return fail(setValueText("The property \"%1\" cannot hold a value of the type %2.")
+            return fail(SetValueTexts::tr("The property \"%1\" cannot hold a value of the type %2.")
                             .arg(entry.address.key.toString(), Value::typeAsString(entry.value.type())));
         if (validator && !validator->isValid(entry.value))
             return fail(validator->reason(entry.value));

@@ -8,8 +8,15 @@
 #include <algorithm>
 
 namespace {
+
 constexpr int longestId = 100;
-}
+
+struct IdTexts
+{
+    Q_DECLARE_TR_FUNCTIONS(IdProvider)
+};
+
+} // namespace
 
 IdProvider::IdProvider(NodeImpl* node)
     : m_document(node->document()), m_node(node->instanceId()), m_id(node->valueOfProperty(coreKeys::id()).toQString())
@@ -28,24 +35,23 @@ bool IdProvider::isValidId(const QString& text) const
 
 QString IdProvider::reason(const QString& text) const
 {
-    const auto say = [](const char* source) { return QCoreApplication::translate("IdProvider", source); };
     if (text.isEmpty())
-        return say("The id must not be empty.");
+        return IdTexts::tr("The id must not be empty.");
     if (text.size() > longestId)
-        return say("The id is longer than 100 characters.");
+        return IdTexts::tr("The id is longer than 100 characters.");
     if (std::any_of(text.begin(), text.end(), [](QChar c) { return c.isSpace() || !c.isPrint(); }))
-        return say("The id must not contain blanks.");
+        return IdTexts::tr("The id must not contain blanks.");
     const NodeImpl* node = m_document->nodeById(m_node);
     if (node && !NodeRegistry::hasRegisteredId(node)) {
         for (const NodeImpl* sibling : node->parentNode()->children()) {
             if (sibling != node && sibling->valueOfProperty(coreKeys::id()).toQString() == text)
-                return say("Another subpart has this id.");
+                return IdTexts::tr("Another subpart has this id.");
         }
         return {};
     }
     const NodeImpl* holder = m_document->nodeWithId(text);
     if (holder && holder != node)
-        return say("Another part has this id.");
+        return IdTexts::tr("Another part has this id.");
     return {};
 }
 

@@ -4,6 +4,15 @@
 
 #include <QCoreApplication>
 
+namespace {
+
+struct FilterTexts
+{
+    Q_DECLARE_TR_FUNCTIONS(PropertyFilter)
+};
+
+} // namespace
+
 PropertyFilter::PropertyFilter(Property property) : m_property(property) {}
 
 bool PropertyFilter::isNodeFilter() const
@@ -18,21 +27,20 @@ bool PropertyFilter::isOkay(const Property& candidate) const
 
 QString PropertyFilter::reason(const Property& candidate) const
 {
-    const auto text = [](const char* source) { return QCoreApplication::translate("PropertyFilter", source); };
     const PropertyImpl* self = m_property.impl();
     const PropertyImpl* other = candidate.impl();
     if (!self || !other)
-        return text("One of the properties is gone.");
+        return FilterTexts::tr("One of the properties is gone.");
     if (self == other)
-        return text("A property cannot follow itself.");
+        return FilterTexts::tr("A property cannot follow itself.");
     if (self->document() != other->document())
-        return text("The properties belong to different documents.");
+        return FilterTexts::tr("The properties belong to different documents.");
     if (!other->isProxyTarget())
-        return text("This property cannot be followed.");
+        return FilterTexts::tr("This property cannot be followed.");
     const auto numeric = [](Value::Type type) { return type == Value::INT || type == Value::DOUBLE; };
     if (self->type() != other->type() && !(numeric(self->type()) && numeric(other->type())))
-        return text("The property is of another type.");
+        return FilterTexts::tr("The property is of another type.");
     if (other->isProxyDependantOn(self))
-        return text("The property follows this one already.");
+        return FilterTexts::tr("The property follows this one already.");
     return {};
 }

@@ -34,10 +34,10 @@ int pagesFor(double length, double pageLength)
     return static_cast<int>(std::clamp(std::ceil(length / pageLength - 1e-6), 1.0, most));
 }
 
-QString printMessage(const char* text)
+struct PrintTexts
 {
-    return QCoreApplication::translate("PrintCommand", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(PrintCommand)
+};
 
 bool printFailed(QString* error, const QString& reason)
 {
@@ -141,15 +141,15 @@ bool PrintCommand::exportPdf(const QString& fileName, QString* error) const
 {
     if (m_pageCount == 0)
         return printFailed(error,
-                           printMessage("There is nothing to print, or the margins leave no room on the paper."));
+                           PrintTexts::tr("There is nothing to print, or the margins leave no room on the paper."));
     if (m_pageCount > exportPageLimit)
         return printFailed(error,
-                           printMessage("At this scale the document needs %1 pages; no more than %2 are exported.")
-                               .arg(m_pageCount)
+                           PrintTexts::tr("At this scale the document needs %n pages; no more than %1 are exported.",
+                                          nullptr, m_pageCount)
                                .arg(exportPageLimit));
     QSaveFile file(fileName);
     if (!file.open(QIODevice::WriteOnly))
-        return printFailed(error, printMessage("%1 cannot be written: %2").arg(fileName, file.errorString()));
+        return printFailed(error, PrintTexts::tr("%1 cannot be written: %2").arg(fileName, file.errorString()));
 
     // The pages carry their margins themselves.
     QPdfWriter writer(&file);
@@ -169,7 +169,7 @@ bool PrintCommand::exportPdf(const QString& fileName, QString* error) const
     if (!ok)
         file.cancelWriting();
     if (!file.commit())
-        return printFailed(error, printMessage("%1 cannot be written: %2").arg(fileName, file.errorString()));
+        return printFailed(error, PrintTexts::tr("%1 cannot be written: %2").arg(fileName, file.errorString()));
     return true;
 }
 

@@ -105,7 +105,7 @@ void NodeXml::Reader::warnAt(const Position& position, const QString& sentence)
 void NodeXml::Reader::finishWarnings()
 {
     if (m_warningsLeftOut > 0)
-        m_warnings.append(m_name + tr(" %n more warning(s) left out", nullptr, m_warningsLeftOut));
+        m_warnings.append(tr("%1 %n more warning(s) left out", nullptr, m_warningsLeftOut).arg(m_name));
     m_warningsLeftOut = 0;
 }
 
@@ -251,7 +251,7 @@ bool NodeXml::Reader::readNode(NodeSnapshot& node)
     if (m_depth == maximumDepth)
         return fault(tr("nodes are nested deeper than %1").arg(maximumDepth));
     if (++m_nodeCount > maximumNodes)
-        return fault(tr("there are more than %1 nodes").arg(maximumNodes));
+        return fault(tr("there are more than %n nodes", nullptr, static_cast<int>(maximumNodes)));
     if (!kindOf(m_xml.qualifiedName(), node.kind))
         return fault(tr("<%1> is no node").arg(m_xml.qualifiedName()));
     ClassInfo* info = nullptr;

@@ -22,10 +22,10 @@ constexpr int mostSeats = 65535;
 constexpr qsizetype headLength = 2;
 const QDate firstDay(2000, 1, 1);
 
-QString licenceMessage(const char* text)
+struct LicenceTexts
 {
-    return QCoreApplication::translate("Licence", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(Licence)
+};
 
 bool sodiumIsReady()
 {
@@ -104,21 +104,21 @@ QString typingMessage(const licenceText::Reading& reading)
     using Reading = licenceText::Reading;
     switch (reading.fault) {
     case Reading::Empty:
-        return licenceMessage("Please enter the licence code.");
+        return LicenceTexts::tr("Please enter the licence code.");
     case Reading::WrongCharacter:
-        return licenceMessage("Typing error in group %1: \"%2\" does not occur in licence codes.")
+        return LicenceTexts::tr("Typing error in group %1: \"%2\" does not occur in licence codes.")
             .arg(reading.group)
             .arg(reading.character.isPrint() ? QString(reading.character) : QStringLiteral("?"));
     case Reading::WrongLength:
-        return licenceMessage("Typing error in group %1: it has %2 characters instead of %3.")
+        return LicenceTexts::tr("Typing error in group %1: it has %2 characters instead of %3.")
             .arg(reading.group)
             .arg(reading.found)
             .arg(licenceText::groupLength);
     case Reading::TooLong:
-        return licenceMessage("The code is too long: no licence code has so many groups.");
+        return LicenceTexts::tr("The code is too long: no licence code has so many groups.");
     default:
-        return licenceMessage("Typing error in group %1: please compare it letter by letter. "
-                              "Groups may also be missing, doubled or exchanged.")
+        return LicenceTexts::tr("Typing error in group %1: please compare it letter by letter. "
+                                "Groups may also be missing, doubled or exchanged.")
             .arg(reading.group);
     }
 }
@@ -149,21 +149,22 @@ licenceCode::KeyPair licenceCode::makeKeyPair()
 
 QString licenceCode::sign(const Licence& licence, const QByteArray& secretKey, QString* error)
 {
-    const auto fail = [&](const char* reason) {
+    const auto fail = [&](const QString& reason) {
         if (error)
-            *error = licenceMessage(reason);
+            *error = reason;
         return QString();
     };
     if (!sodiumIsReady() || secretKey.size() != qsizetype(crypto_sign_SECRETKEYBYTES))
-        return fail("The secret key cannot be used.");
+        return fail(LicenceTexts::tr("The secret key cannot be used."));
     if (licence.holder.trimmed().isEmpty() || licence.product.isEmpty())
-        return fail("A licence needs a holder and a product.");
+        return fail(LicenceTexts::tr("A licence needs a holder and a product."));
     const qint64 issued = licence.issued.isValid() ? firstDay.daysTo(licence.issued) : -1;
     const qint64 expires = licence.expires.isValid() ? firstDay.daysTo(licence.expires) : 0;
     if (!fitsTwoBytes(issued) || !fitsTwoBytes(expires) || (licence.expires.isValid() && expires < issued))
-        return fail("The dates of a licence lie between 2000 and 2179, and it does not expire before it is issued.");
+        return fail(LicenceTexts::tr(
+            "The dates of a licence lie between 2000 and 2179, and it does not expire before it is issued."));
     if (licence.seats < 1 || licence.seats > mostSeats)
-        return fail("A licence has from 1 to 65535 seats.");
+        return fail(LicenceTexts::tr("A licence has from 1 to 65535 seats."));
 
     QByteArray fields;
     appendNumber(fields, static_cast<int>(issued));
@@ -172,12 +173,12 @@ QString licenceCode::sign(const Licence& licence, const QByteArray& secretKey, Q
     for (const QString& text : {licence.holder, licence.product, licence.edition}) {
         const QByteArray utf8 = text.toUtf8();
         if (utf8.size() > longestLicenceText)
-            return fail("Holder, product and edition have at most 80 letters each.");
+            return fail(LicenceTexts::tr("Holder, product and edition have at most 80 letters each."));
         fields.append(static_cast<char>(utf8.size()));
         fields.append(utf8);
     }
     if (fields.size() > 255)
-        return fail("Holder, product and edition are too long together.");
+        return fail(LicenceTexts::tr("Holder, product and edition are too long together."));
     QByteArray content;
     content.append(codeFormat);
     content.append(static_cast<char>(fields.size()));
@@ -206,8 +207,8 @@ licenceCode::Check licenceCode::check(const QString& code, const QByteArray& pub
         return fail(Check::Typing, typingMessage(reading));
     }
 
-    const QString notMade = licenceMessage("This code was not made for this program: its signature is not right. "
-                                           "Please ask whoever gave it to you.");
+    const QString notMade = LicenceTexts::tr("This code was not made for this program: its signature is not right. "
+                                             "Please ask whoever gave it to you.");
     const QByteArray& bytes = reading.bytes;
     if (bytes.size() < headLength || bytes.at(0) != codeFormat)
         return fail(Check::Signature, notMade);
@@ -216,7 +217,7 @@ licenceCode::Check licenceCode::check(const QString& code, const QByteArray& pub
     const qsizetype groups = (wholeLength * 8 + 24) / 25;
     if (reading.groups != groups)
         return fail(Check::Length,
-                    licenceMessage("The code has %1 groups, but %2 were entered.").arg(groups).arg(reading.groups));
+                    LicenceTexts::tr("The code has %1 groups, but %2 were entered.").arg(groups).arg(reading.groups));
     const QByteArray content = bytes.left(contentLength);
     const QByteArray signature = bytes.mid(contentLength, qsizetype(crypto_sign_BYTES));
     const QByteArray message = signedBytes(content);
@@ -237,13 +238,13 @@ licenceCode::Check licenceCode::check(const QString& code, const QByteArray& pub
     if (licence->product != product)
         return fail(
             Check::Product,
-            licenceMessage("This code is for the product %1; this program is %2.").arg(licence->product, product));
+            LicenceTexts::tr("This code is for the product %1; this program is %2.").arg(licence->product, product));
     if (today < licence->issued)
         return fail(Check::NotYet,
-                    licenceMessage("This code was issued on %1, but the clock of this computer says that "
-                                   "today is %2. Please set the clock.")
+                    LicenceTexts::tr("This code was issued on %1, but the clock of this computer says that "
+                                     "today is %2. Please set the clock.")
                         .arg(shortDate(licence->issued), shortDate(today)));
     if (licence->expires.isValid() && today > licence->expires)
-        return fail(Check::Expired, licenceMessage("This licence expired on %1.").arg(shortDate(licence->expires)));
+        return fail(Check::Expired, LicenceTexts::tr("This licence expired on %1.").arg(shortDate(licence->expires)));
     return result;
 }

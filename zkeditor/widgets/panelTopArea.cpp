@@ -175,7 +175,7 @@ void PanelTopArea::refreshHeading()
             //: A number of parts of one kind: "3 × LED"
             m_fullName = tr("%1 × %2").arg(count, label);
         } else {
-            m_fullName = tr("%1 parts").arg(count);
+            m_fullName = tr("%Ln parts", nullptr, static_cast<int>(m_nodes.size()));
         }
     }
     m_icon->setVisible(icon.isValid());

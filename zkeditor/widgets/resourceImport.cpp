@@ -23,10 +23,10 @@ constexpr qint64 greatestFile = 64 * 1024 * 1024; // what a document takes
 
 constexpr qsizetype manyFiles = 20; // are worth a look at how far they are
 
-QString importText(const char* source)
+struct ImportTexts
 {
-    return QCoreApplication::translate("ResourceImport", source);
-}
+    Q_DECLARE_TR_FUNCTIONS(ResourceImport)
+};
 
 QString unreadableReason(Resource::Type type, const QString& fileName)
 {
@@ -34,14 +34,14 @@ QString unreadableReason(Resource::Type type, const QString& fileName)
     const QString name = QDir::toNativeSeparators(fileName);
     QFile file(fileName);
     if (!info.exists())
-        return importText("There is no file \"%1\".").arg(name);
+        return ImportTexts::tr("There is no file \"%1\".").arg(name);
     if (info.isDir())
-        return importText("\"%1\" is a folder.").arg(name);
+        return ImportTexts::tr("\"%1\" is a folder.").arg(name);
     if (!file.open(QIODevice::ReadOnly))
-        return importText("The file \"%1\" cannot be read: %2").arg(name, file.errorString());
+        return ImportTexts::tr("The file \"%1\" cannot be read: %2").arg(name, file.errorString());
     if (info.size() > greatestFile)
-        return importText("The file \"%1\" is larger than 64 MB.").arg(name);
-    return importText("The file \"%1\" cannot be used here: it does not hold data of the kind \"%2\".")
+        return ImportTexts::tr("The file \"%1\" is larger than 64 MB.").arg(name);
+    return ImportTexts::tr("The file \"%1\" cannot be used here: it does not hold data of the kind \"%2\".")
         .arg(name, Resource::typeAsString(type));
 }
 
@@ -61,10 +61,10 @@ std::vector<Resource> resourceImport::readFiles(Resource::Type type, const QStri
     std::vector<Resource> resources;
     resources.reserve(static_cast<size_t>(fileNames.size()));
     // While it lets the user press its button, anything can be deleted.
-    const QPointer<QProgressDialog> progress(new QProgressDialog(importText("Reading files..."), importText("Cancel"),
-                                                                 0, static_cast<int>(fileNames.size()), parent));
+    const QPointer<QProgressDialog> progress(new QProgressDialog(
+        ImportTexts::tr("Reading files..."), ImportTexts::tr("Cancel"), 0, static_cast<int>(fileNames.size()), parent));
     progress->setObjectName(QStringLiteral("importProgress"));
-    progress->setWindowTitle(importText("Import"));
+    progress->setWindowTitle(ImportTexts::tr("Import"));
     progress->setWindowModality(Qt::WindowModal);
     progress->setMinimumDuration(fileNames.size() > manyFiles ? 0 : 500);
     for (const QString& fileName : fileNames) {
@@ -118,7 +118,7 @@ bool resourceImport::writeFile(const Resource& resource, const QString& fileName
     if (file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.commit())
         return true;
     if (reason)
-        *reason = importText("The file \"%1\" cannot be written: %2")
+        *reason = ImportTexts::tr("The file \"%1\" cannot be written: %2")
                       .arg(QDir::toNativeSeparators(fileName), file.errorString());
     return false;
 }

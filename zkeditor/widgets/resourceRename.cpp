@@ -13,10 +13,10 @@
 
 namespace {
 
-QString renameText(const char* source)
+struct RenameTexts
 {
-    return QCoreApplication::translate("ResourceRename", source);
-}
+    Q_DECLARE_TR_FUNCTIONS(ResourceRename)
+};
 
 QString wholeName(const QString& name)
 {
@@ -109,11 +109,11 @@ QString resourceRename::reason(const DocumentImpl& document, const Resource& res
 {
     const QString word = name.trimmed();
     if (word.isEmpty())
-        return renameText("The name must not be empty.");
+        return RenameTexts::tr("The name must not be empty.");
     if (word.contains(QLatin1Char('/')))
-        return renameText("The name must not contain a slash.");
+        return RenameTexts::tr("The name must not contain a slash.");
     if (wholeName(word) != resource.toString() && document.resource(wholeName(word)).isValid())
-        return renameText("Another resource has this name.");
+        return RenameTexts::tr("Another resource has this name.");
     return {};
 }
 
