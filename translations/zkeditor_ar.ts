@@ -1177,6 +1177,49 @@ Please enter another id</source>
     </message>
 </context>
 <context>
+    <name>DocumentFiles</name>
+    <message>
+        <source>Untitled</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Changes not saved</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save the changes to %1?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 cannot be opened.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save As</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 could not be saved.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Saved %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Revert</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Lose all changes made since %1 was last saved?</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>DocumentImpl</name>
     <message>
         <source>There is no such part.</source>
@@ -1775,10 +1818,6 @@ Please enter another id</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Untitled</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>&amp;Undo %1</source>
         <translation type="unfinished"></translation>
     </message>
@@ -1815,42 +1854,6 @@ Please enter another id</source>
     </message>
     <message>
         <source>There is no part with the id &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Open</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>%1 cannot be opened.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Save As</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>%1 could not be saved.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Saved %1</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Revert</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Lose all changes made since %1 was last saved?</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Changes not saved</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Save the changes to %1?</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -1928,6 +1931,17 @@ Please enter another id</source>
     <message>
         <source>Move part</source>
         <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>Move %n parts</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
     </message>
 </context>
 <context>

@@ -5,9 +5,9 @@
     <name>AddNodesCommand</name>
     <message numerus="yes">
         <source>Adding of %n object(s)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Adding of %n object</numerusform>
+            <numerusform>Adding of %n objects</numerusform>
         </translation>
     </message>
 </context>
@@ -15,9 +15,9 @@
     <name>DeleteNodeCommand</name>
     <message numerus="yes">
         <source>Deletion of %n object(s)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Deletion of %n object</numerusform>
+            <numerusform>Deletion of %n objects</numerusform>
         </translation>
     </message>
 </context>
@@ -25,16 +25,16 @@
     <name>DocumentFile</name>
     <message numerus="yes">
         <source>%1 %n more warning(s) left out</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1 %n more warning left out</numerusform>
+            <numerusform>%1 %n more warnings left out</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>there are more than %n nodes</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>there is more than %n node</numerusform>
+            <numerusform>there are more than %n nodes</numerusform>
         </translation>
     </message>
 </context>
@@ -42,9 +42,9 @@
     <name>LicenceDialog</name>
     <message numerus="yes">
         <source>Right so far: %n groups.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Right so far: %n group.</numerusform>
+            <numerusform>Right so far: %n groups.</numerusform>
         </translation>
     </message>
 </context>
@@ -52,23 +52,23 @@
     <name>LicenceManager</name>
     <message numerus="yes">
         <source>For %n seats.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>For %n seat.</numerusform>
+            <numerusform>For %n seats.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>The licence expires in %n days.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>The licence expires in %n day.</numerusform>
+            <numerusform>The licence expires in %n days.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>licence expires in %n days</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>licence expires in %n day</numerusform>
+            <numerusform>licence expires in %n days</numerusform>
         </translation>
     </message>
 </context>
@@ -76,9 +76,19 @@
     <name>MainWindow</name>
     <message numerus="yes">
         <source>%Ln selected</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%Ln selected</numerusform>
+            <numerusform>%Ln selected</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>MoveGesture</name>
+    <message numerus="yes">
+        <source>Move %n parts</source>
+        <translation>
+            <numerusform>Move %n part</numerusform>
+            <numerusform>Move %n parts</numerusform>
         </translation>
     </message>
 </context>
@@ -86,9 +96,9 @@
     <name>PanelTopArea</name>
     <message numerus="yes">
         <source>%Ln parts</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%Ln part</numerusform>
+            <numerusform>%Ln parts</numerusform>
         </translation>
     </message>
 </context>
@@ -96,9 +106,9 @@
     <name>PartIdLineEdit</name>
     <message numerus="yes">
         <source>Rename %n parts</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Rename %n part</numerusform>
+            <numerusform>Rename %n parts</numerusform>
         </translation>
     </message>
 </context>
@@ -106,9 +116,9 @@
     <name>PrintCommand</name>
     <message numerus="yes">
         <source>At this scale the document needs %n pages; no more than %1 are exported.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>At this scale the document needs %n page; no more than %1 are exported.</numerusform>
+            <numerusform>At this scale the document needs %n pages; no more than %1 are exported.</numerusform>
         </translation>
     </message>
 </context>
@@ -116,16 +126,16 @@
     <name>SetUILockedCommand</name>
     <message numerus="yes">
         <source>Locking of %n object(s)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Locking of %n object</numerusform>
+            <numerusform>Locking of %n objects</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>Unlocking of %n object(s)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Unlocking of %n object</numerusform>
+            <numerusform>Unlocking of %n objects</numerusform>
         </translation>
     </message>
 </context>
@@ -133,9 +143,9 @@
     <name>SetValueCommand</name>
     <message numerus="yes">
         <source>Change of %1 (%n objects)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Change of %1 (%n object)</numerusform>
+            <numerusform>Change of %1 (%n objects)</numerusform>
         </translation>
     </message>
 </context>

@@ -13,6 +13,11 @@
 
 namespace {
 
+struct MoveTexts
+{
+    Q_DECLARE_TR_FUNCTIONS(MoveGesture)
+};
+
 // Sums of steps leave no tails of digits in the document.
 double toNanometre(double metres)
 {
@@ -46,9 +51,8 @@ void MoveGesture::moveTo(zk::Point offset)
     if (!isActive() || !m_document || offset == m_offset)
         return;
     if (!m_stepOpen) {
-        const QString text = m_parts.size() == 1 ? QCoreApplication::translate("MoveGesture", "Move part")
-                                                 : QCoreApplication::translate("MoveGesture", "Move %n parts", nullptr,
-                                                                               static_cast<int>(m_parts.size()));
+        const int count = static_cast<int>(m_parts.size());
+        const QString text = count == 1 ? MoveTexts::tr("Move part") : MoveTexts::tr("Move %n parts", nullptr, count);
         m_document->executeCommand(new PushUndoCommand(text));
         m_stepOpen = true;
     }
