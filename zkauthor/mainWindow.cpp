@@ -54,7 +54,7 @@ MainWindow::MainWindow(QWidget* parent, std::shared_ptr<DocumentFiles> files)
     for (const auto& [label, name] :
          {std::pair{m_selectionText, tr("Selection")}, std::pair{m_pointerText, tr("Place of the mouse pointer")},
           std::pair{m_zoomText, tr("Zoom")}}) {
-        label->setAccessibleName(name);
+        label->setAccessibleDescription(name); // the text is what a screen reader shall read
         label->setToolTip(name);
         statusBar()->addPermanentWidget(label);
     }
