@@ -5,1364 +5,1364 @@
     <name>BatteryForm</name>
     <message>
         <source>Battery</source>
-        <translation type="unfinished"></translation>
+        <translation>Batterie</translation>
     </message>
     <message>
         <source>The voltage of the fresh battery.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Spannung der frischen Batterie.</translation>
     </message>
     <message>
         <source>V</source>
-        <translation type="unfinished"></translation>
+        <translation>V</translation>
     </message>
     <message>
         <source>How many cells the battery is made of.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aus wie vielen Zellen die Batterie besteht.</translation>
     </message>
     <message>
         <source>The resistance of the battery itself.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Widerstand der Batterie selbst.</translation>
     </message>
     <message>
         <source>The unit shown; a click offers others.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die gezeigte Einheit; ein Klick bietet andere an.</translation>
     </message>
     <message>
         <source>How wires are joined to the battery.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wie Drähte mit der Batterie verbunden werden.</translation>
     </message>
     <message>
         <source>Draws the signs of the poles at the pins.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeichnet die Zeichen der Pole an die Anschlüsse.</translation>
     </message>
     <message>
         <source>Show &amp;plus and minus</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Plus und Minus zeigen</translation>
     </message>
     <message>
         <source>The battery can be charged again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Batterie kann wieder aufgeladen werden.</translation>
     </message>
     <message>
         <source>Re&amp;chargeable</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Wiederaufladbar</translation>
     </message>
     <message>
         <source>Case and pins</source>
-        <translation type="unfinished"></translation>
+        <translation>Gehäuse und Anschlüsse</translation>
     </message>
     <message>
         <source>Shows the cells inside the case.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeigt die Zellen im Inneren des Gehäuses.</translation>
     </message>
     <message>
         <source>See-&amp;through case</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Durchsichtiges Gehäuse</translation>
     </message>
     <message>
         <source>Writes the name of each pin beside it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Schreibt den Namen jedes Anschlusses daneben.</translation>
     </message>
     <message>
         <source>&amp;Names at the pins</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Namen an den Anschlüssen</translation>
     </message>
 </context>
 <context>
     <name>BeltForm</name>
     <message>
         <source>Belt</source>
-        <translation type="unfinished"></translation>
+        <translation>Riemen</translation>
     </message>
     <message>
         <source>The wheels turn against each other.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Räder drehen sich gegeneinander.</translation>
     </message>
     <message>
         <source>&amp;Crossed</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Gekreuzt</translation>
     </message>
     <message>
         <source>The belt cannot slip.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Riemen kann nicht rutschen.</translation>
     </message>
     <message>
         <source>&amp;Toothed</source>
-        <translation type="unfinished"></translation>
+        <translation>Ge&amp;zahnt</translation>
     </message>
     <message>
         <source>A cord does not stretch; otherwise the belt is made of rubber.</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine Schnur dehnt sich nicht; sonst ist der Riemen aus Gummi.</translation>
     </message>
     <message>
         <source>C&amp;ord</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Schnur</translation>
     </message>
 </context>
 <context>
     <name>BlockForm</name>
     <message>
         <source>Logic block</source>
-        <translation type="unfinished"></translation>
+        <translation>Logikblock</translation>
     </message>
     <message>
         <source>Logic</source>
-        <translation type="unfinished"></translation>
+        <translation>Logik</translation>
     </message>
     <message>
         <source>How the block works out its output from its inputs.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wie der Block seinen Ausgang aus seinen Eingängen bestimmt.</translation>
     </message>
     <message>
         <source>How long the output takes to follow the inputs.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wie lange der Ausgang braucht, um den Eingängen zu folgen.</translation>
     </message>
     <message>
         <source>The unit shown; a click offers others.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die gezeigte Einheit; ein Klick bietet andere an.</translation>
     </message>
     <message>
         <source>Turns the output round.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kehrt den Ausgang um.</translation>
     </message>
     <message>
         <source>&amp;Inverted output</source>
-        <translation type="unfinished"></translation>
+        <translation>Ausgang &amp;umgekehrt</translation>
     </message>
     <message>
         <source>Draws the truth table below the block.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeichnet die Wahrheitstabelle unter den Block.</translation>
     </message>
     <message>
         <source>Show the &amp;truth table</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Wahrheitstabelle zeigen</translation>
     </message>
     <message>
         <source>Drawing</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeichnung</translation>
     </message>
     <message>
         <source>Draws the curved shape instead of the box.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeichnet die geschwungene Form statt des Kastens.</translation>
     </message>
     <message>
         <source>&amp;American symbol</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Amerikanisches Zeichen</translation>
     </message>
     <message>
         <source>Writes the name of each pin beside it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Schreibt den Namen jedes Anschlusses daneben.</translation>
     </message>
     <message>
         <source>&amp;Names at the pins</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Namen an den Anschlüssen</translation>
     </message>
     <message>
         <source>Truth table</source>
-        <translation type="unfinished"></translation>
+        <translation>Wahrheitstabelle</translation>
     </message>
     <message>
         <source>The output for every combination of the inputs.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Ausgang für jede Kombination der Eingänge.</translation>
     </message>
     <message>
         <source>Pins</source>
-        <translation type="unfinished"></translation>
+        <translation>Anschlüsse</translation>
     </message>
     <message>
         <source>The pins of the block. The fields below belong to the selected ones.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Anschlüsse des Blocks. Die Felder darunter gehören zu den ausgewählten.</translation>
     </message>
     <message>
         <source>Which pole of the supply belongs to the pin.</source>
-        <translation type="unfinished"></translation>
+        <translation>Welcher Pol der Versorgung zu dem Anschluss gehört.</translation>
     </message>
     <message>
         <source>Writes the name of the pin beside it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Schreibt den Namen des Anschlusses daneben.</translation>
     </message>
     <message>
         <source>Name beside the pin</source>
-        <translation type="unfinished"></translation>
+        <translation>Name am Anschluss</translation>
     </message>
     <message>
         <source>Flowchart block</source>
-        <translation type="unfinished"></translation>
+        <translation>Ablaufblock</translation>
     </message>
     <message>
         <source>Block</source>
-        <translation type="unfinished"></translation>
+        <translation>Block</translation>
     </message>
     <message>
         <source>A remark for the readers of the chart.</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine Bemerkung für die Leser des Plans.</translation>
     </message>
     <message>
         <source>The colour inside the block.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Farbe im Inneren des Blocks.</translation>
     </message>
     <message>
         <source>Shows where the chart is.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeigt, wo der Plan gerade ist.</translation>
     </message>
     <message>
         <source>Lights &amp;up while it runs</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Leuchtet, während er läuft</translation>
     </message>
     <message>
         <source>Writes the remark beside the block.</source>
-        <translation type="unfinished"></translation>
+        <translation>Schreibt die Bemerkung neben den Block.</translation>
     </message>
     <message>
         <source>Show the co&amp;mment</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Bemerkung zeigen</translation>
     </message>
     <message>
         <source>The chart halts before this block until it is stepped on.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Plan hält vor diesem Block, bis er weitergeführt wird.</translation>
     </message>
     <message>
         <source>Stops &amp;here</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Hält hier</translation>
     </message>
     <message>
         <source>The chart will halt before this block each time. Stop here?</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Plan wird jedes Mal vor diesem Block halten. Hier halten?</translation>
     </message>
 </context>
 <context>
     <name>BuzzerForm</name>
     <message>
         <source>Buzzer</source>
-        <translation type="unfinished"></translation>
+        <translation>Summer</translation>
     </message>
     <message>
         <source>Sound</source>
-        <translation type="unfinished"></translation>
+        <translation>Klang</translation>
     </message>
     <message>
         <source>The buzzer sounds as soon as the model starts.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Summer ertönt, sobald das Modell startet.</translation>
     </message>
     <message>
         <source>&amp;Sounds at the start</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ertönt beim Start</translation>
     </message>
     <message>
         <source>The sound goes on and off.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Ton geht an und aus.</translation>
     </message>
     <message>
         <source>&amp;Pulsed</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Unterbrochen</translation>
     </message>
     <message>
         <source>&amp;Loudness:</source>
-        <translation type="unfinished"></translation>
+        <translation>Lau&amp;tstärke:</translation>
     </message>
     <message>
         <source>Sounds loudly while pressed in, softly otherwise.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ertönt eingedrückt laut, sonst leise.</translation>
     </message>
     <message>
         <source>Loud</source>
-        <translation type="unfinished"></translation>
+        <translation>Laut</translation>
     </message>
     <message>
         <source>How high the tone is.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wie hoch der Ton ist.</translation>
     </message>
     <message>
         <source>The unit shown; a click offers others.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die gezeigte Einheit; ein Klick bietet andere an.</translation>
     </message>
     <message>
         <source>Looks</source>
-        <translation type="unfinished"></translation>
+        <translation>Aussehen</translation>
     </message>
     <message>
         <source>The picture that stands for the sound.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Bild, das für den Klang steht.</translation>
     </message>
     <message>
         <source>Pictures shown in turn while the buzzer sounds.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bilder, die nacheinander gezeigt werden, während der Summer ertönt.</translation>
     </message>
 </context>
 <context>
     <name>CamForm</name>
     <message>
         <source>Cam</source>
-        <translation type="unfinished"></translation>
+        <translation>Nocken</translation>
     </message>
     <message>
         <source>Follower</source>
-        <translation type="unfinished"></translation>
+        <translation>Stößel</translation>
     </message>
     <message>
         <source>How far the cam moves its follower.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wie weit der Nocken seinen Stößel bewegt.</translation>
     </message>
     <message>
         <source>The unit shown; a click offers others.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die gezeigte Einheit; ein Klick bietet andere an.</translation>
     </message>
     <message>
         <source>The follower ends in a roller; otherwise in a flat foot.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Stößel endet in einer Rolle; sonst in einem flachen Fuß.</translation>
     </message>
     <message>
         <source>&amp;Roller</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Rolle</translation>
     </message>
     <message>
         <source>A spring presses the follower on the cam.</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine Feder drückt den Stößel auf den Nocken.</translation>
     </message>
     <message>
         <source>Return &amp;spring</source>
-        <translation type="unfinished"></translation>
+        <translation>Rückstell&amp;feder</translation>
     </message>
     <message>
         <source>Profile</source>
-        <translation type="unfinished"></translation>
+        <translation>Profil</translation>
     </message>
     <message>
         <source>The outline of the cam.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Umriss des Nockens.</translation>
     </message>
 </context>
 <context>
     <name>CollectionsForm</name>
     <message>
         <source>Collections</source>
-        <translation type="unfinished"></translation>
+        <translation>Sammlungen</translation>
     </message>
     <message>
         <source>Subparts</source>
-        <translation type="unfinished"></translation>
+        <translation>Unterteile</translation>
     </message>
     <message>
         <source>Pins</source>
-        <translation type="unfinished"></translation>
+        <translation>Anschlüsse</translation>
     </message>
     <message>
         <source>The pins of the part.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Anschlüsse des Teils.</translation>
     </message>
     <message>
         <source>The text shown with the selected pin.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Text, der mit dem ausgewählten Anschluss gezeigt wird.</translation>
     </message>
     <message>
         <source>Whether the selected pin is seen.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ob der ausgewählte Anschluss zu sehen ist.</translation>
     </message>
     <message>
         <source>Visible</source>
-        <translation type="unfinished"></translation>
+        <translation>Sichtbar</translation>
     </message>
     <message>
         <source>Controls</source>
-        <translation type="unfinished"></translation>
+        <translation>Bedienelemente</translation>
     </message>
     <message>
         <source>The control whose place stands below.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Bedienelement, dessen Ort darunter steht.</translation>
     </message>
     <message>
         <source>Where the chosen control is.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wo das gewählte Bedienelement ist.</translation>
     </message>
     <message>
         <source>Resources</source>
-        <translation type="unfinished"></translation>
+        <translation>Ressourcen</translation>
     </message>
     <message>
         <source>One picture.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein Bild.</translation>
     </message>
     <message>
         <source>One of a few resources.</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine von wenigen Ressourcen.</translation>
     </message>
     <message>
         <source>Any number of pictures.</source>
-        <translation type="unfinished"></translation>
+        <translation>Beliebig viele Bilder.</translation>
     </message>
     <message>
         <source>Values</source>
-        <translation type="unfinished"></translation>
+        <translation>Werte</translation>
     </message>
     <message>
         <source>Keys and values.</source>
-        <translation type="unfinished"></translation>
+        <translation>Schlüssel und Werte.</translation>
     </message>
     <message>
         <source>The font of a text.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Schrift eines Texts.</translation>
     </message>
     <message>
         <source>Links</source>
-        <translation type="unfinished"></translation>
+        <translation>Verknüpfungen</translation>
     </message>
     <message>
         <source>A number that can follow another.</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine Zahl, die einer anderen folgen kann.</translation>
     </message>
     <message>
         <source>What the level can follow.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wem der Pegel folgen kann.</translation>
     </message>
 </context>
 <context>
     <name>ComponentForm</name>
     <message>
         <source>Component</source>
-        <translation type="unfinished"></translation>
+        <translation>Bauteil</translation>
     </message>
     <message>
         <source>Label and state</source>
-        <translation type="unfinished"></translation>
+        <translation>Beschriftung und Zustand</translation>
     </message>
     <message>
         <source>Letters and a number, for example R1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Buchstaben und eine Zahl, zum Beispiel R1.</translation>
     </message>
     <message>
         <source>The name by which flowcharts switch the part; empty when none does.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Name, unter dem Ablaufpläne das Teil schalten; leer, wenn keiner es tut.</translation>
     </message>
     <message>
         <source>Written beside the part</source>
-        <translation type="unfinished"></translation>
+        <translation>Neben das Teil geschrieben</translation>
     </message>
     <message>
         <source>Writes the reference, such as R1, beside the part.</source>
-        <translation type="unfinished"></translation>
+        <translation>Schreibt das Kurzzeichen, etwa R1, neben das Teil.</translation>
     </message>
     <message>
         <source>&amp;Reference</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Kurzzeichen</translation>
     </message>
     <message>
         <source>Writes the main value, such as 330 Ω, beside the part.</source>
-        <translation type="unfinished"></translation>
+        <translation>Schreibt den Hauptwert, etwa 330 Ω, neben das Teil.</translation>
     </message>
     <message>
         <source>Val&amp;ue</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Wert</translation>
     </message>
     <message>
         <source>Where the label stands, seen from the part.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wo die Beschriftung steht, vom Teil aus gesehen.</translation>
     </message>
     <message>
         <source>Place of the label</source>
-        <translation type="unfinished"></translation>
+        <translation>Ort der Beschriftung</translation>
     </message>
     <message>
         <source>Above</source>
-        <translation type="unfinished"></translation>
+        <translation>Darüber</translation>
     </message>
     <message>
         <source>Below</source>
-        <translation type="unfinished"></translation>
+        <translation>Darunter</translation>
     </message>
     <message>
         <source>On the left</source>
-        <translation type="unfinished"></translation>
+        <translation>Links</translation>
     </message>
     <message>
         <source>On the right</source>
-        <translation type="unfinished"></translation>
+        <translation>Rechts</translation>
     </message>
     <message>
         <source>A broken part lets no current through. Learners can look for the fault.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein defektes Teil lässt keinen Strom durch. Lernende können den Fehler suchen.</translation>
     </message>
     <message>
         <source>Brok&amp;en</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Defekt</translation>
     </message>
     <message>
         <source>A broken part lets no current through. Break it?</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein defektes Teil lässt keinen Strom durch. Soll es defekt sein?</translation>
     </message>
 </context>
 <context>
     <name>ConnectionForm</name>
     <message>
         <source>Connection</source>
-        <translation type="unfinished"></translation>
+        <translation>Verbindung</translation>
     </message>
     <message>
         <source>Line</source>
-        <translation type="unfinished"></translation>
+        <translation>Linie</translation>
     </message>
     <message>
         <source>How thick the line is drawn.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wie dick die Linie gezeichnet wird.</translation>
     </message>
     <message>
         <source>The unit shown; a click offers others.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die gezeigte Einheit; ein Klick bietet andere an.</translation>
     </message>
     <message>
         <source>The colour of the line.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Farbe der Linie.</translation>
     </message>
     <message>
         <source>General</source>
-        <translation type="unfinished"></translation>
+        <translation>Allgemein</translation>
     </message>
     <message>
         <source>A short name without blanks by which other things refer to it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein kurzer Name ohne Leerzeichen, mit dem andere Dinge auf das Teil verweisen.</translation>
     </message>
     <message>
         <source>The text shown with it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Text, der dazu gezeigt wird.</translation>
     </message>
     <message>
         <source>Parts that are not visible still work, but the reader does not see them.</source>
-        <translation type="unfinished"></translation>
+        <translation>Teile, die nicht sichtbar sind, wirken weiter, aber der Leser sieht sie nicht.</translation>
     </message>
     <message>
         <source>&amp;Visible while the model runs</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Sichtbar, während das Modell läuft</translation>
     </message>
 </context>
 <context>
     <name>DecisionForm</name>
     <message>
         <source>Decision</source>
-        <translation type="unfinished"></translation>
+        <translation>Entscheidung</translation>
     </message>
     <message>
         <source>The output name of the switch or sensor that is asked.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Ausgangsname des Schalters oder Fühlers, der gefragt wird.</translation>
     </message>
     <message>
         <source>What is asked about the input.</source>
-        <translation type="unfinished"></translation>
+        <translation>Was über den Eingang gefragt wird.</translation>
     </message>
     <message>
         <source>The number that the input is compared with.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Zahl, mit der der Eingang verglichen wird.</translation>
     </message>
     <message>
         <source>Goes on at the right when the answer is yes; otherwise downwards.</source>
-        <translation type="unfinished"></translation>
+        <translation>Geht rechts weiter, wenn die Antwort ja ist; sonst nach unten.</translation>
     </message>
     <message>
         <source>&amp;Yes branch to the right</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ja-Zweig nach rechts</translation>
     </message>
     <message>
         <source>The chart waits here.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Plan wartet hier.</translation>
     </message>
     <message>
         <source>&amp;Asks until the answer is yes</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Fragt, bis die Antwort ja ist</translation>
     </message>
     <message>
         <source>Writes Yes and No at the branches.</source>
-        <translation type="unfinished"></translation>
+        <translation>Schreibt Ja und Nein an die Zweige.</translation>
     </message>
     <message>
         <source>&amp;Write the answers</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Antworten schreiben</translation>
     </message>
 </context>
 <context>
     <name>ElementForm</name>
     <message>
         <source>Element</source>
-        <translation type="unfinished"></translation>
+        <translation>Element</translation>
     </message>
     <message>
         <source>General</source>
-        <translation type="unfinished"></translation>
+        <translation>Allgemein</translation>
     </message>
     <message>
         <source>A short name without blanks by which other things refer to it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein kurzer Name ohne Leerzeichen, mit dem andere Dinge auf das Teil verweisen.</translation>
     </message>
     <message>
         <source>The text shown with it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Text, der dazu gezeigt wird.</translation>
     </message>
     <message>
         <source>Where the centre is.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wo die Mitte ist.</translation>
     </message>
     <message>
         <source>The unit shown; a click offers others.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die gezeigte Einheit; ein Klick bietet andere an.</translation>
     </message>
     <message>
         <source>Width and height.</source>
-        <translation type="unfinished"></translation>
+        <translation>Breite und Höhe.</translation>
     </message>
     <message>
         <source>How far it is turned clockwise.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wie weit es im Uhrzeigersinn gedreht ist.</translation>
     </message>
     <message>
         <source>Parts that are not visible still work, but the reader does not see them.</source>
-        <translation type="unfinished"></translation>
+        <translation>Teile, die nicht sichtbar sind, wirken weiter, aber der Leser sieht sie nicht.</translation>
     </message>
     <message>
         <source>&amp;Visible while the model runs</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Sichtbar, während das Modell läuft</translation>
     </message>
 </context>
 <context>
     <name>FlowchartsSpaceForm</name>
     <message>
         <source>Flowcharts</source>
-        <translation type="unfinished"></translation>
+        <translation>Ablaufpläne</translation>
     </message>
     <message>
         <source>How fast the flowcharts of the space run.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wie schnell die Ablaufpläne des Raums laufen.</translation>
     </message>
 </context>
 <context>
     <name>GalleryForm</name>
     <message>
         <source>Gallery of controls</source>
-        <translation type="unfinished"></translation>
+        <translation>Galerie der Bedienelemente</translation>
     </message>
     <message>
         <source>Controls</source>
-        <translation type="unfinished"></translation>
+        <translation>Bedienelemente</translation>
     </message>
     <message>
         <source>Check boxes and buttons</source>
-        <translation type="unfinished"></translation>
+        <translation>Kästchen und Knöpfe</translation>
     </message>
     <message>
         <source>Checked while the property is true.</source>
-        <translation type="unfinished"></translation>
+        <translation>Angekreuzt, während die Eigenschaft wahr ist.</translation>
     </message>
     <message>
         <source>&amp;Switched on</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Eingeschaltet</translation>
     </message>
     <message>
         <source>Asks before it writes.</source>
-        <translation type="unfinished"></translation>
+        <translation>Fragt, bevor geschrieben wird.</translation>
     </message>
     <message>
         <source>Trusted, as&amp;ked first</source>
-        <translation type="unfinished"></translation>
+        <translation>Vertraut, mit &amp;Rückfrage</translation>
     </message>
     <message>
         <source>Do you really trust this part?</source>
-        <translation type="unfinished"></translation>
+        <translation>Vertrauen Sie diesem Teil wirklich?</translation>
     </message>
     <message>
         <source>Do you no longer trust this part?</source>
-        <translation type="unfinished"></translation>
+        <translation>Vertrauen Sie diesem Teil nicht mehr?</translation>
     </message>
     <message>
         <source>Switches between two words.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wechselt zwischen zwei Wörtern.</translation>
     </message>
     <message>
         <source>&amp;Loud</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Laut</translation>
     </message>
     <message>
         <source>The property is true for as long as the button is held down.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Eigenschaft ist wahr, solange der Knopf gehalten wird.</translation>
     </message>
     <message>
         <source>Hold &amp;down</source>
-        <translation type="unfinished"></translation>
+        <translation>Ge&amp;drückt halten</translation>
     </message>
     <message>
         <source>The property is true while the button is pressed in.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Eigenschaft ist wahr, während der Knopf eingedrückt ist.</translation>
     </message>
     <message>
         <source>&amp;Press in</source>
-        <translation type="unfinished"></translation>
+        <translation>E&amp;indrücken</translation>
     </message>
     <message>
         <source>The same word as the check box above.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dasselbe Wort wie das Kästchen oben.</translation>
     </message>
     <message>
         <source>L&amp;oud</source>
-        <translation type="unfinished"></translation>
+        <translation>La&amp;ut</translation>
     </message>
     <message>
         <source>Choices</source>
-        <translation type="unfinished"></translation>
+        <translation>Auswahlen</translation>
     </message>
     <message>
         <source>A yes or no in words.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein Ja oder Nein in Worten.</translation>
     </message>
     <message>
         <source>Forwards</source>
-        <translation type="unfinished"></translation>
+        <translation>Vorwärts</translation>
     </message>
     <message>
         <source>Backwards</source>
-        <translation type="unfinished"></translation>
+        <translation>Rückwärts</translation>
     </message>
     <message>
         <source>Pictures and texts in the place of words.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bilder und Texte anstelle von Wörtern.</translation>
     </message>
     <message>
         <source>Three colours.</source>
-        <translation type="unfinished"></translation>
+        <translation>Drei Farben.</translation>
     </message>
     <message>
         <source>Whole numbers.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ganze Zahlen.</translation>
     </message>
     <message>
         <source>Numbers.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zahlen.</translation>
     </message>
     <message>
         <source>Points.</source>
-        <translation type="unfinished"></translation>
+        <translation>Punkte.</translation>
     </message>
     <message>
         <source>Wind</source>
-        <translation type="unfinished"></translation>
+        <translation>Wind</translation>
     </message>
     <message>
         <source>Windy</source>
-        <translation type="unfinished"></translation>
+        <translation>Windig</translation>
     </message>
     <message>
         <source>Enabled while the weather is windy.</source>
-        <translation type="unfinished"></translation>
+        <translation>Verfügbar, während das Wetter windig ist.</translation>
     </message>
     <message>
         <source>Texts</source>
-        <translation type="unfinished"></translation>
+        <translation>Texte</translation>
     </message>
     <message>
         <source>Any text.</source>
-        <translation type="unfinished"></translation>
+        <translation>Beliebiger Text.</translation>
     </message>
     <message>
         <source>A capital letter and a digit; red while it is none.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein Großbuchstabe und eine Ziffer; rot, solange es das nicht ist.</translation>
     </message>
     <message>
         <source>A whole number or a sum such as 1900+87.</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine ganze Zahl oder eine Summe wie 1900+87.</translation>
     </message>
     <message>
         <source>Looks like a link until it is edited.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sieht aus wie ein Link, bis es bearbeitet wird.</translation>
     </message>
     <message>
         <source>The unit shown; a click offers others.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die gezeigte Einheit; ein Klick bietet andere an.</translation>
     </message>
     <message>
         <source>Disabled, because nobody can edit the property.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nicht verfügbar, weil niemand die Eigenschaft ändern kann.</translation>
     </message>
     <message>
         <source>Numbers</source>
-        <translation type="unfinished"></translation>
+        <translation>Zahlen</translation>
     </message>
     <message>
         <source>A whole number; the longer a button is held, the faster it runs.</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine ganze Zahl; je länger ein Knopf gehalten wird, desto schneller läuft sie.</translation>
     </message>
     <message>
         <source>A number in the unit beside it; other units can be typed as well.</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine Zahl in der Einheit daneben; andere Einheiten können auch getippt werden.</translation>
     </message>
     <message>
         <source>The step follows from the range and the unit.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Schrittweite folgt aus dem Bereich und der Einheit.</translation>
     </message>
     <message>
         <source>x above y, in the unit beside them.</source>
-        <translation type="unfinished"></translation>
+        <translation>x über y, in der Einheit daneben.</translation>
     </message>
     <message>
         <source>A whole number, written while you drag.</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine ganze Zahl, geschrieben, während Sie ziehen.</translation>
     </message>
     <message>
         <source>The range follows the unit beside it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Bereich folgt der Einheit daneben.</translation>
     </message>
     <message>
         <source>Colours</source>
-        <translation type="unfinished"></translation>
+        <translation>Farben</translation>
     </message>
     <message>
         <source>Any colour: chosen, typed by name or dropped.</source>
-        <translation type="unfinished"></translation>
+        <translation>Jede Farbe: gewählt, als Name getippt oder hergezogen.</translation>
     </message>
     <message>
         <source>A button alone, without the system&apos;s dialog.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein Knopf allein, ohne den Dialog des Systems.</translation>
     </message>
     <message>
         <source>One of several</source>
-        <translation type="unfinished"></translation>
+        <translation>Eines von mehreren</translation>
     </message>
     <message>
         <source>Each button stands for one word.</source>
-        <translation type="unfinished"></translation>
+        <translation>Jeder Knopf steht für ein Wort.</translation>
     </message>
     <message>
         <source>Format</source>
-        <translation type="unfinished"></translation>
+        <translation>Format</translation>
     </message>
     <message>
         <source>S&amp;mall</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Klein</translation>
     </message>
     <message>
         <source>Med&amp;ium</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Mittel</translation>
     </message>
     <message>
         <source>Lar&amp;ge</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Groß</translation>
     </message>
     <message>
         <source>What belongs to this choice is enabled while it is chosen.</source>
-        <translation type="unfinished"></translation>
+        <translation>Was zu dieser Wahl gehört, ist verfügbar, während sie gewählt ist.</translation>
     </message>
     <message>
         <source>O&amp;wn width</source>
-        <translation type="unfinished"></translation>
+        <translation>Ei&amp;gene Breite</translation>
     </message>
     <message>
         <source>The width of your own format.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Breite Ihres eigenen Formats.</translation>
     </message>
     <message>
         <source>Groups</source>
-        <translation type="unfinished"></translation>
+        <translation>Gruppen</translation>
     </message>
     <message>
         <source>What is in the box is enabled while it is checked.</source>
-        <translation type="unfinished"></translation>
+        <translation>Was in dem Kasten ist, ist verfügbar, während er angekreuzt ist.</translation>
     </message>
     <message>
         <source>Guarded &amp;by</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Bewacht von</translation>
     </message>
     <message>
         <source>Who keeps watch.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wer Wache hält.</translation>
     </message>
     <message>
         <source>Labels</source>
-        <translation type="unfinished"></translation>
+        <translation>Beschriftungen</translation>
     </message>
     <message>
         <source>The text itself.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Text selbst.</translation>
     </message>
     <message>
         <source>The number as the spin box above shows it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Zahl, wie sie das Drehfeld oben zeigt.</translation>
     </message>
     <message>
         <source>Both coordinates.</source>
-        <translation type="unfinished"></translation>
+        <translation>Beide Koordinaten.</translation>
     </message>
     <message>
         <source>The colour as documents write it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Farbe, wie Dokumente sie schreiben.</translation>
     </message>
 </context>
 <context>
     <name>GearForm</name>
     <message>
         <source>Gear</source>
-        <translation type="unfinished"></translation>
+        <translation>Zahnrad</translation>
     </message>
     <message>
         <source>Teeth</source>
-        <translation type="unfinished"></translation>
+        <translation>Zähne</translation>
     </message>
     <message>
         <source>The number of teeth.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Zahl der Zähne.</translation>
     </message>
     <message>
         <source>The angle at which the teeth press on each other.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Winkel, in dem die Zähne aufeinander drücken.</translation>
     </message>
     <message>
         <source>The pitch diameter divided by the number of teeth; gears that mesh have the same.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Teilkreisdurchmesser geteilt durch die Zahl der Zähne; Räder, die ineinandergreifen, haben denselben.</translation>
     </message>
     <message>
         <source>Module</source>
-        <translation type="unfinished"></translation>
+        <translation>Modul</translation>
     </message>
     <message>
         <source>0.5 mm</source>
-        <translation type="unfinished"></translation>
+        <translation>0,5 mm</translation>
     </message>
     <message>
         <source>1 mm</source>
-        <translation type="unfinished"></translation>
+        <translation>1 mm</translation>
     </message>
     <message>
         <source>1.5 mm</source>
-        <translation type="unfinished"></translation>
+        <translation>1,5 mm</translation>
     </message>
     <message>
         <source>2 mm</source>
-        <translation type="unfinished"></translation>
+        <translation>2 mm</translation>
     </message>
     <message>
         <source>Otherwise only the pitch circle is drawn.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sonst wird nur der Teilkreis gezeichnet.</translation>
     </message>
     <message>
         <source>&amp;Draw the teeth</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Zähne zeichnen</translation>
     </message>
     <message>
         <source>Slanting teeth run more quietly.</source>
-        <translation type="unfinished"></translation>
+        <translation>Schräge Zähne laufen leiser.</translation>
     </message>
     <message>
         <source>&amp;Slanting teeth</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Schräge Zähne</translation>
     </message>
     <message>
         <source>Slanting teeth lean to the left; otherwise to the right.</source>
-        <translation type="unfinished"></translation>
+        <translation>Schräge Zähne neigen sich nach links; sonst nach rechts.</translation>
     </message>
     <message>
         <source>&amp;Left-handed</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Linkssteigend</translation>
     </message>
     <message>
         <source>Wheel</source>
-        <translation type="unfinished"></translation>
+        <translation>Rad</translation>
     </message>
     <message>
         <source>How wide the teeth are along the axle.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wie breit die Zähne entlang der Achse sind.</translation>
     </message>
     <message>
         <source>The unit shown; a click offers others.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die gezeigte Einheit; ein Klick bietet andere an.</translation>
     </message>
     <message>
         <source>How far the hub is from the middle of the wheel.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wie weit die Nabe von der Mitte des Rads entfernt ist.</translation>
     </message>
 </context>
 <context>
     <name>InfoForm</name>
     <message>
         <source>Explanation</source>
-        <translation type="unfinished"></translation>
+        <translation>Erklärung</translation>
     </message>
     <message>
         <source>Opens the pop-up without a click.</source>
-        <translation type="unfinished"></translation>
+        <translation>Öffnet das Pop-up ohne Klick.</translation>
     </message>
     <message>
         <source>Opens when the &amp;mouse rests on it</source>
-        <translation type="unfinished"></translation>
+        <translation>Öffnet sich, wenn die &amp;Maus darauf ruht</translation>
     </message>
     <message>
         <source>Hides the button once its pop-up has been closed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Verbirgt den Knopf, sobald sein Pop-up geschlossen wurde.</translation>
     </message>
     <message>
         <source>Goes away &amp;after reading</source>
-        <translation type="unfinished"></translation>
+        <translation>Verschwindet &amp;nach dem Lesen</translation>
     </message>
 </context>
 <context>
     <name>LedForm</name>
     <message>
         <source>LED</source>
-        <translation type="unfinished"></translation>
+        <translation>LED</translation>
     </message>
     <message>
         <source>Light</source>
-        <translation type="unfinished"></translation>
+        <translation>Leicht</translation>
     </message>
     <message>
         <source>The colour of the light.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Farbe des Lichts.</translation>
     </message>
     <message>
         <source>How brightly the LED shines, in percent.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wie hell die LED leuchtet, in Prozent.</translation>
     </message>
     <message>
         <source>The LED shines as soon as the model starts.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die LED leuchtet, sobald das Modell startet.</translation>
     </message>
     <message>
         <source>&amp;Lit at the start</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Leuchtet beim Start</translation>
     </message>
     <message>
         <source>The LED goes on and off by itself.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die LED geht von selbst an und aus.</translation>
     </message>
     <message>
         <source>&amp;Blinking</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Blinkt</translation>
     </message>
     <message>
         <source>The time from one flash to the next.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Zeit von einem Blinken zum nächsten.</translation>
     </message>
     <message>
         <source>The unit shown; a click offers others.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die gezeigte Einheit; ein Klick bietet andere an.</translation>
     </message>
     <message>
         <source>Shines all round; a clear lens throws a narrow beam.</source>
-        <translation type="unfinished"></translation>
+        <translation>Leuchtet nach allen Seiten; eine klare Linse wirft einen schmalen Strahl.</translation>
     </message>
     <message>
         <source>&amp;Milky lens</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Milchige Linse</translation>
     </message>
     <message>
         <source>Electrical</source>
-        <translation type="unfinished"></translation>
+        <translation>Elektrisch</translation>
     </message>
     <message>
         <source>The voltage at which the LED begins to shine.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Spannung, bei der die LED zu leuchten beginnt.</translation>
     </message>
     <message>
         <source>A greater current destroys the LED.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein größerer Strom zerstört die LED.</translation>
     </message>
     <message>
         <source>How wide the lens is.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wie breit die Linse ist.</translation>
     </message>
     <message>
         <source>Diameter of the lens</source>
-        <translation type="unfinished"></translation>
+        <translation>Durchmesser der Linse</translation>
     </message>
     <message>
         <source>3 mm</source>
-        <translation type="unfinished"></translation>
+        <translation>3 mm</translation>
     </message>
     <message>
         <source>5 mm</source>
-        <translation type="unfinished"></translation>
+        <translation>5 mm</translation>
     </message>
     <message>
         <source>10 mm</source>
-        <translation type="unfinished"></translation>
+        <translation>10 mm</translation>
     </message>
     <message>
         <source>Legs and pads</source>
-        <translation type="unfinished"></translation>
+        <translation>Beine und Lötpunkte</translation>
     </message>
     <message>
         <source>Writes anode and cathode beside the pins.</source>
-        <translation type="unfinished"></translation>
+        <translation>Schreibt Anode und Kathode neben die Anschlüsse.</translation>
     </message>
     <message>
         <source>&amp;Names at the pins</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Namen an den Anschlüssen</translation>
     </message>
     <message>
         <source>Lines the holes of the solder pads with metal.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kleidet die Löcher der Lötpunkte mit Metall aus.</translation>
     </message>
     <message>
         <source>&amp;Plated through</source>
-        <translation type="unfinished"></translation>
+        <translation>Durch&amp;kontaktiert</translation>
     </message>
     <message>
         <source>Shows what lies behind the lens.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeigt, was hinter der Linse liegt.</translation>
     </message>
     <message>
         <source>See-&amp;through lens</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Durchsichtige Linse</translation>
     </message>
 </context>
 <context>
     <name>LightSensorForm</name>
     <message>
         <source>Light sensor</source>
-        <translation type="unfinished"></translation>
+        <translation>Lichtsensor</translation>
     </message>
     <message>
         <source>How bright it is at the start, in percent.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wie hell es am Anfang ist, in Prozent.</translation>
     </message>
     <message>
         <source>The brightness at which the sensor counts as dark.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Helligkeit, von der an es für den Sensor dunkel ist.</translation>
     </message>
     <message>
         <source>The resistance when no light falls on the sensor.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Widerstand, wenn kein Licht auf den Sensor fällt.</translation>
     </message>
     <message>
         <source>The unit shown; a click offers others.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die gezeigte Einheit; ein Klick bietet andere an.</translation>
     </message>
     <message>
         <source>The resistance in full light.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Widerstand bei vollem Licht.</translation>
     </message>
     <message>
         <source>Gives its signal when it is dark; otherwise when it is bright.</source>
-        <translation type="unfinished"></translation>
+        <translation>Gibt sein Signal, wenn es dunkel ist; sonst, wenn es hell ist.</translation>
     </message>
     <message>
         <source>Signal in the &amp;dark</source>
-        <translation type="unfinished"></translation>
+        <translation>Signal im &amp;Dunkeln</translation>
     </message>
     <message>
         <source>The reader sets the brightness with the slider below the sensor.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Leser stellt die Helligkeit mit dem Schieber unter dem Sensor ein.</translation>
     </message>
     <message>
         <source>&amp;Follows its slider</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Folgt seinem Schieber</translation>
     </message>
     <message>
         <source>Slider</source>
-        <translation type="unfinished"></translation>
+        <translation>Schieber</translation>
     </message>
     <message>
         <source>Otherwise only the model itself moves the slider.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sonst bewegt nur das Modell selbst den Schieber.</translation>
     </message>
     <message>
         <source>Can be &amp;worked by the reader</source>
-        <translation type="unfinished"></translation>
+        <translation>Kann vom Leser bedien&amp;t werden</translation>
     </message>
 </context>
 <context>
     <name>LinkForm</name>
     <message>
         <source>Link</source>
-        <translation type="unfinished"></translation>
+        <translation>Verknüpfung</translation>
     </message>
     <message>
         <source>Line</source>
-        <translation type="unfinished"></translation>
+        <translation>Linie</translation>
     </message>
     <message>
         <source>Draws an arrow head at the end.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeichnet eine Pfeilspitze an das Ende.</translation>
     </message>
     <message>
         <source>&amp;Arrow head</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Pfeilspitze</translation>
     </message>
     <message>
         <source>Draws a dashed line.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeichnet eine gestrichelte Linie.</translation>
     </message>
     <message>
         <source>&amp;Dashed</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Gestrichelt</translation>
     </message>
     <message>
         <source>Runs along right angles; otherwise straight from block to block.</source>
-        <translation type="unfinished"></translation>
+        <translation>Läuft in rechten Winkeln; sonst gerade von Block zu Block.</translation>
     </message>
     <message>
         <source>&amp;Right angles only</source>
-        <translation type="unfinished"></translation>
+        <translation>Nur &amp;rechte Winkel</translation>
     </message>
 </context>
 <context>
     <name>MachinePartForm</name>
     <message>
         <source>Machine part</source>
-        <translation type="unfinished"></translation>
+        <translation>Maschinenteil</translation>
     </message>
     <message>
         <source>Movement</source>
-        <translation type="unfinished"></translation>
+        <translation>Bewegung</translation>
     </message>
     <message>
         <source>A part that is not free is fixed to the base.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein Teil, das nicht frei ist, sitzt auf der Grundplatte fest.</translation>
     </message>
     <message>
         <source>&amp;Free to turn</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Frei drehbar</translation>
     </message>
     <message>
         <source>An arrow shows the way the part turns.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein Pfeil zeigt, wie herum sich das Teil dreht.</translation>
     </message>
     <message>
         <source>Show the direct&amp;ion</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Richtung zeigen</translation>
     </message>
     <message>
         <source>Writes the turning speed on the part.</source>
-        <translation type="unfinished"></translation>
+        <translation>Schreibt die Drehzahl auf das Teil.</translation>
     </message>
     <message>
         <source>Show the sp&amp;eed</source>
-        <translation type="unfinished"></translation>
+        <translation>D&amp;rehzahl zeigen</translation>
     </message>
     <message>
         <source>Material</source>
-        <translation type="unfinished"></translation>
+        <translation>Werkstoff</translation>
     </message>
     <message>
         <source>What the part is made of.</source>
-        <translation type="unfinished"></translation>
+        <translation>Woraus das Teil gemacht ist.</translation>
     </message>
     <message>
         <source>The mass of the part.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Masse des Teils.</translation>
     </message>
     <message>
         <source>The unit shown; a click offers others.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die gezeigte Einheit; ein Klick bietet andere an.</translation>
     </message>
     <message>
         <source>The colour of the part.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Farbe des Teils.</translation>
     </message>
 </context>
 <context>
     <name>MeterForm</name>
     <message>
         <source>Meter</source>
-        <translation type="unfinished"></translation>
+        <translation>Messgerät</translation>
     </message>
     <message>
         <source>Display</source>
-        <translation type="unfinished"></translation>
+        <translation>Anzeige</translation>
     </message>
     <message>
         <source>What the meter measures.</source>
-        <translation type="unfinished"></translation>
+        <translation>Was das Messgerät misst.</translation>
     </message>
     <message>
         <source>The colour of the needle.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Farbe des Zeigers.</translation>
     </message>
     <message>
         <source>&amp;Display:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Anzeige:</translation>
     </message>
     <message>
         <source>Shows figures while pressed in, a needle over a scale otherwise.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeigt eingedrückt Ziffern, sonst einen Zeiger über einer Skala.</translation>
     </message>
     <message>
         <source>Figures</source>
-        <translation type="unfinished"></translation>
+        <translation>Ziffern</translation>
     </message>
     <message>
         <source>The reading stays as it is.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Messwert bleibt stehen.</translation>
     </message>
     <message>
         <source>&amp;Hold the reading</source>
-        <translation type="unfinished"></translation>
+        <translation>Messwert &amp;halten</translation>
     </message>
     <message>
         <source>Shows the greatest reading so far as well.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeigt auch den bisher größten Messwert.</translation>
     </message>
     <message>
         <source>Show the &amp;peak</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Spitzenwert zeigen</translation>
     </message>
     <message>
         <source>Handling</source>
-        <translation type="unfinished"></translation>
+        <translation>Bedienung</translation>
     </message>
     <message>
         <source>Otherwise only the model itself turns the range knob.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sonst dreht nur das Modell selbst den Bereichsknopf.</translation>
     </message>
     <message>
         <source>Range can be &amp;worked by the reader</source>
-        <translation type="unfinished"></translation>
+        <translation>Bereich kann vom Leser bedien&amp;t werden</translation>
     </message>
 </context>
 <context>
     <name>MotorForm</name>
     <message>
         <source>Motor</source>
-        <translation type="unfinished"></translation>
+        <translation>Motor</translation>
     </message>
     <message>
         <source>&amp;Drive:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Antrieb:</translation>
     </message>
     <message>
         <source>The motor turns as soon as the model starts.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Motor dreht sich, sobald das Modell startet.</translation>
     </message>
     <message>
         <source>Runs at the start</source>
-        <translation type="unfinished"></translation>
+        <translation>Läuft beim Start</translation>
     </message>
     <message>
         <source>How fast the motor turns without load.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wie schnell sich der Motor ohne Last dreht.</translation>
     </message>
     <message>
         <source>The unit shown; a click offers others.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die gezeigte Einheit; ein Klick bietet andere an.</translation>
     </message>
     <message>
         <source>The voltage for which the motor is made.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Spannung, für die der Motor gebaut ist.</translation>
     </message>
     <message>
         <source>The name by which flowcharts switch the motor; empty when none does.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Name, unter dem Ablaufpläne den Motor schalten; leer, wenn keiner es tut.</translation>
     </message>
     <message>
         <source>Otherwise the motor turns clockwise.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sonst dreht sich der Motor im Uhrzeigersinn.</translation>
     </message>
     <message>
         <source>Turns &amp;counterclockwise</source>
-        <translation type="unfinished"></translation>
+        <translation>Dreht sich &amp;gegen den Uhrzeigersinn</translation>
     </message>
     <message>
         <source>A gear box makes the shaft turn more slowly and more strongly.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein Getriebe lässt die Welle langsamer und kräftiger drehen.</translation>
     </message>
     <message>
         <source>With &amp;gear box</source>
-        <translation type="unfinished"></translation>
+        <translation>Mit Ge&amp;triebe</translation>
     </message>
     <message>
         <source>How many turns of the motor make one turn of the shaft.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wie viele Umdrehungen des Motors eine Umdrehung der Welle ergeben.</translation>
     </message>
 </context>
 <context>
@@ -1370,3453 +1370,3453 @@
     <message>
         <source>Basics</source>
         <extracomment>Name of a package of parts</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Grundlagen</translation>
     </message>
     <message>
         <source>Electronics</source>
-        <translation type="unfinished"></translation>
+        <translation>Elektronik</translation>
     </message>
     <message>
         <source>Flowcharts</source>
-        <translation type="unfinished"></translation>
+        <translation>Ablaufpläne</translation>
     </message>
     <message>
         <source>Mechanics</source>
-        <translation type="unfinished"></translation>
+        <translation>Mechanik</translation>
     </message>
 </context>
 <context>
     <name>PartsTree</name>
     <message>
         <source>Explanations</source>
-        <translation type="unfinished"></translation>
+        <translation>Erklärungen</translation>
     </message>
     <message>
         <source>Demonstration</source>
-        <translation type="unfinished"></translation>
+        <translation>Vorführung</translation>
     </message>
     <message>
         <source>Supply</source>
-        <translation type="unfinished"></translation>
+        <translation>Versorgung</translation>
     </message>
     <message>
         <source>Inputs</source>
-        <translation type="unfinished"></translation>
+        <translation>Eingänge</translation>
     </message>
     <message>
         <source>Components</source>
-        <translation type="unfinished"></translation>
+        <translation>Bauteile</translation>
     </message>
     <message>
         <source>Outputs</source>
-        <translation type="unfinished"></translation>
+        <translation>Ausgänge</translation>
     </message>
     <message>
         <source>Measuring</source>
-        <translation type="unfinished"></translation>
+        <translation>Messen</translation>
     </message>
     <message>
         <source>Wiring</source>
-        <translation type="unfinished"></translation>
+        <translation>Verdrahtung</translation>
     </message>
     <message>
         <source>Flow</source>
-        <translation type="unfinished"></translation>
+        <translation>Ablauf</translation>
     </message>
     <message>
         <source>Drives</source>
-        <translation type="unfinished"></translation>
+        <translation>Antriebe</translation>
     </message>
     <message>
         <source>Wheels</source>
-        <translation type="unfinished"></translation>
+        <translation>Räder</translation>
     </message>
 </context>
 <context>
     <name>PictureForm</name>
     <message>
         <source>Picture</source>
-        <translation type="unfinished"></translation>
+        <translation>Bild</translation>
     </message>
     <message>
         <source>The picture shown.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das gezeigte Bild.</translation>
     </message>
     <message>
         <source>Keeps the ratio of width and height when the picture is resized.</source>
-        <translation type="unfinished"></translation>
+        <translation>Behält das Verhältnis von Breite und Höhe, wenn die Größe des Bilds geändert wird.</translation>
     </message>
     <message>
         <source>Keep &amp;proportions</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Seitenverhältnis behalten</translation>
     </message>
     <message>
         <source>Exchanges left and right.</source>
-        <translation type="unfinished"></translation>
+        <translation>Vertauscht links und rechts.</translation>
     </message>
     <message>
         <source>&amp;Mirrored</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Gespiegelt</translation>
     </message>
     <message>
         <source>Draws a thin frame round the picture.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeichnet einen dünnen Rahmen um das Bild.</translation>
     </message>
     <message>
         <source>Draw a &amp;frame</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Rahmen zeichnen</translation>
     </message>
     <message>
         <source>Where the picture comes from and who made it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Woher das Bild kommt und wer es gemacht hat.</translation>
     </message>
     <message>
         <source>More pictures</source>
-        <translation type="unfinished"></translation>
+        <translation>Weitere Bilder</translation>
     </message>
     <message>
         <source>Pictures shown in turn after the first one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bilder, die nacheinander nach dem ersten gezeigt werden.</translation>
     </message>
 </context>
 <context>
     <name>PopupForm</name>
     <message>
         <source>Pop-up</source>
-        <translation type="unfinished"></translation>
+        <translation>Pop-up</translation>
     </message>
     <message>
         <source>A short name without blanks by which other things refer to it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein kurzer Name ohne Leerzeichen, mit dem andere Dinge auf das Teil verweisen.</translation>
     </message>
     <message>
         <source>The heading shown above the pop-up.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Überschrift über dem Pop-up.</translation>
     </message>
     <message>
         <source>The pop-up is open from the start; otherwise its part opens it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Pop-up ist von Anfang an offen; sonst öffnet es sein Teil.</translation>
     </message>
     <message>
         <source>&amp;Open when the model starts</source>
-        <translation type="unfinished"></translation>
+        <translation>Beim &amp;Start des Modells offen</translation>
     </message>
     <message>
         <source>Appearance</source>
-        <translation type="unfinished"></translation>
+        <translation>Erscheinung</translation>
     </message>
     <message>
         <source>Width and height of the space.</source>
-        <translation type="unfinished"></translation>
+        <translation>Breite und Höhe des Raums.</translation>
     </message>
     <message>
         <source>The unit shown; a click offers others.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die gezeigte Einheit; ein Klick bietet andere an.</translation>
     </message>
     <message>
         <source>The colour behind the parts.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Farbe hinter den Teilen.</translation>
     </message>
     <message>
         <source>Draws a grid of 5 mm behind the parts.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeichnet ein Raster von 5 mm hinter die Teile.</translation>
     </message>
     <message>
         <source>Show a &amp;grid</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Raster zeigen</translation>
     </message>
 </context>
 <context>
     <name>ProcedureForm</name>
     <message>
         <source>Procedure</source>
-        <translation type="unfinished"></translation>
+        <translation>Unterprogramm</translation>
     </message>
     <message>
         <source>How often the chart in the pop-up is run.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wie oft der Plan im Pop-up ausgeführt wird.</translation>
     </message>
     <message>
         <source>Opens the pop-up with its chart while the procedure runs.</source>
-        <translation type="unfinished"></translation>
+        <translation>Öffnet das Pop-up mit seinem Plan, während das Unterprogramm läuft.</translation>
     </message>
     <message>
         <source>&amp;Opens while it runs</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Öffnet sich, während es läuft</translation>
     </message>
     <message>
         <source>Otherwise a stop block inside ends the whole chart.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sonst beendet ein Stoppblock darin den ganzen Plan.</translation>
     </message>
     <message>
         <source>Stop ends only the &amp;procedure</source>
-        <translation type="unfinished"></translation>
+        <translation>Stopp beendet nur das &amp;Unterprogramm</translation>
     </message>
 </context>
 <context>
     <name>PulleyForm</name>
     <message>
         <source>Pulley</source>
-        <translation type="unfinished"></translation>
+        <translation>Riemenscheibe</translation>
     </message>
     <message>
         <source>Groove</source>
-        <translation type="unfinished"></translation>
+        <translation>Rille</translation>
     </message>
     <message>
         <source>The diameter at which the belt runs.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Durchmesser, auf dem der Riemen läuft.</translation>
     </message>
     <message>
         <source>The unit shown; a click offers others.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die gezeigte Einheit; ein Klick bietet andere an.</translation>
     </message>
     <message>
         <source>For belts with a V section; otherwise the groove is round.</source>
-        <translation type="unfinished"></translation>
+        <translation>Für Riemen mit V-Querschnitt; sonst ist die Rille rund.</translation>
     </message>
     <message>
         <source>V-&amp;shaped groove</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;V-förmige Rille</translation>
     </message>
     <message>
         <source>Rims keep the belt in the groove.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ränder halten den Riemen in der Rille.</translation>
     </message>
     <message>
         <source>With &amp;rims</source>
-        <translation type="unfinished"></translation>
+        <translation>Mit &amp;Rändern</translation>
     </message>
     <message>
         <source>The belt slips when the load is too great.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Riemen rutscht, wenn die Last zu groß ist.</translation>
     </message>
     <message>
         <source>&amp;Belt may slip</source>
-        <translation type="unfinished"></translation>
+        <translation>Riemen kann r&amp;utschen</translation>
     </message>
 </context>
 <context>
     <name>PushButtonForm</name>
     <message>
         <source>Push button</source>
-        <translation type="unfinished"></translation>
+        <translation>Drucktaster</translation>
     </message>
     <message>
         <source>The colour of the cap.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Farbe der Kappe.</translation>
     </message>
     <message>
         <source>A lamp shines in the cap while the button is held down.</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine Lampe leuchtet in der Kappe, während der Taster gehalten wird.</translation>
     </message>
     <message>
         <source>Cap &amp;lights up</source>
-        <translation type="unfinished"></translation>
+        <translation>Kappe &amp;leuchtet</translation>
     </message>
     <message>
         <source>&amp;Try it:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ausprobieren:</translation>
     </message>
     <message>
         <source>Closes the contact for as long as this button is held down.</source>
-        <translation type="unfinished"></translation>
+        <translation>Schließt den Kontakt, solange dieser Knopf gehalten wird.</translation>
     </message>
     <message>
         <source>Hold down</source>
-        <translation type="unfinished"></translation>
+        <translation>Gedrückt halten</translation>
     </message>
 </context>
 <context>
     <name>ResistorForm</name>
     <message>
         <source>Resistor</source>
-        <translation type="unfinished"></translation>
+        <translation>Widerstand</translation>
     </message>
     <message>
         <source>The resistance as it is printed on the part.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Widerstand, wie er auf das Teil gedruckt ist.</translation>
     </message>
     <message>
         <source>The unit shown; a click offers others.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die gezeigte Einheit; ein Klick bietet andere an.</translation>
     </message>
     <message>
         <source>How far the true resistance may be from the printed one, in percent.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wie weit der wirkliche Widerstand vom aufgedruckten abweichen darf, in Prozent.</translation>
     </message>
     <message>
         <source>The power that the part stands without burning.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Leistung, die das Teil aushält, ohne zu verbrennen.</translation>
     </message>
     <message>
         <source>W</source>
-        <translation type="unfinished"></translation>
+        <translation>W</translation>
     </message>
     <message>
         <source>Drawing</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeichnung</translation>
     </message>
     <message>
         <source>Draws the coloured bands that tell the resistance.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeichnet die farbigen Ringe, die den Widerstand angeben.</translation>
     </message>
     <message>
         <source>Colour &amp;bands</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Farbringe</translation>
     </message>
     <message>
         <source>Draws the American zigzag line instead of the box.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeichnet die amerikanische Zickzacklinie statt des Kastens.</translation>
     </message>
     <message>
         <source>&amp;Zigzag symbol</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Zickzackzeichen</translation>
     </message>
     <message>
         <source>Solder pads</source>
-        <translation type="unfinished"></translation>
+        <translation>Lötpunkte</translation>
     </message>
     <message>
         <source>Square pads mark a place on the board; otherwise they are round.</source>
-        <translation type="unfinished"></translation>
+        <translation>Eckige Lötpunkte kennzeichnen eine Stelle auf der Platine; sonst sind sie rund.</translation>
     </message>
     <message>
         <source>S&amp;quare pads</source>
-        <translation type="unfinished"></translation>
+        <translation>Eckige Löt&amp;punkte</translation>
     </message>
     <message>
         <source>Lines the holes with metal.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kleidet die Löcher mit Metall aus.</translation>
     </message>
     <message>
         <source>&amp;Plated through</source>
-        <translation type="unfinished"></translation>
+        <translation>Durch&amp;kontaktiert</translation>
     </message>
 </context>
 <context>
     <name>SceneForm</name>
     <message>
         <source>Scene</source>
-        <translation type="unfinished"></translation>
+        <translation>Szene</translation>
     </message>
     <message>
         <source>General</source>
-        <translation type="unfinished"></translation>
+        <translation>Allgemein</translation>
     </message>
     <message>
         <source>A short name without blanks by which other things refer to it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein kurzer Name ohne Leerzeichen, mit dem andere Dinge auf das Teil verweisen.</translation>
     </message>
     <message>
         <source>The heading shown above the scene.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Überschrift über der Szene.</translation>
     </message>
     <message>
         <source>Appearance</source>
-        <translation type="unfinished"></translation>
+        <translation>Erscheinung</translation>
     </message>
     <message>
         <source>Width and height of the space.</source>
-        <translation type="unfinished"></translation>
+        <translation>Breite und Höhe des Raums.</translation>
     </message>
     <message>
         <source>The unit shown; a click offers others.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die gezeigte Einheit; ein Klick bietet andere an.</translation>
     </message>
     <message>
         <source>The colour behind the parts.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Farbe hinter den Teilen.</translation>
     </message>
     <message>
         <source>Draws a grid of 5 mm behind the parts.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeichnet ein Raster von 5 mm hinter die Teile.</translation>
     </message>
     <message>
         <source>Show a &amp;grid</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Raster zeigen</translation>
     </message>
 </context>
 <context>
     <name>ShaftForm</name>
     <message>
         <source>Shaft</source>
-        <translation type="unfinished"></translation>
+        <translation>Welle</translation>
     </message>
     <message>
         <source>The diameter of the shaft.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Durchmesser der Welle.</translation>
     </message>
     <message>
         <source>The unit shown; a click offers others.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die gezeigte Einheit; ein Klick bietet andere an.</translation>
     </message>
     <message>
         <source>How far the shaft twists under full load.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wie weit sich die Welle unter voller Last verdreht.</translation>
     </message>
     <message>
         <source>The shaft is a tube.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Welle ist ein Rohr.</translation>
     </message>
     <message>
         <source>&amp;Hollow</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Hohl</translation>
     </message>
     <message>
         <source>A key makes the wheels turn with the shaft.</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine Passfeder lässt die Räder mit der Welle drehen.</translation>
     </message>
     <message>
         <source>With &amp;key</source>
-        <translation type="unfinished"></translation>
+        <translation>Mit &amp;Passfeder</translation>
     </message>
     <message>
         <source>Otherwise the ends are plain.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sonst sind die Enden glatt.</translation>
     </message>
     <message>
         <source>&amp;Rounded ends</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Runde Enden</translation>
     </message>
     <message>
         <source>Wheels</source>
-        <translation type="unfinished"></translation>
+        <translation>Räder</translation>
     </message>
     <message>
         <source>The wheels turn on the shaft rather than with it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Räder drehen sich auf der Welle statt mit ihr.</translation>
     </message>
     <message>
         <source>&amp;Wheels run freely</source>
-        <translation type="unfinished"></translation>
+        <translation>Räder &amp;laufen frei</translation>
     </message>
 </context>
 <context>
     <name>StartForm</name>
     <message>
         <source>Start</source>
-        <translation type="unfinished"></translation>
+        <translation>Start</translation>
     </message>
     <message>
         <source>The chart runs as soon as the model starts.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Plan läuft, sobald das Modell startet.</translation>
     </message>
     <message>
         <source>Starts by itsel&amp;f</source>
-        <translation type="unfinished"></translation>
+        <translation>Startet von sel&amp;bst</translation>
     </message>
     <message>
         <source>One input that is on starts the chart; otherwise all must be on.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein Eingang, der an ist, startet den Plan; sonst müssen es alle sein.</translation>
     </message>
     <message>
         <source>&amp;Any input is enough</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein &amp;Eingang genügt</translation>
     </message>
     <message>
         <source>How long the chart waits before its first block.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wie lange der Plan vor seinem ersten Block wartet.</translation>
     </message>
     <message>
         <source>The unit shown; a click offers others.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die gezeigte Einheit; ein Klick bietet andere an.</translation>
     </message>
 </context>
 <context>
     <name>StepForm</name>
     <message>
         <source>Step</source>
-        <translation type="unfinished"></translation>
+        <translation>Schritt</translation>
     </message>
     <message>
         <source>What the block does with its output.</source>
-        <translation type="unfinished"></translation>
+        <translation>Was der Block mit seinem Ausgang tut.</translation>
     </message>
     <message>
         <source>The output name of the components that the block switches.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Ausgangsname der Bauteile, die der Block schaltet.</translation>
     </message>
     <message>
         <source>How long the step lasts.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wie lange der Schritt dauert.</translation>
     </message>
     <message>
         <source>The unit shown; a click offers others.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die gezeigte Einheit; ein Klick bietet andere an.</translation>
     </message>
     <message>
         <source>How strongly the output is switched on, in percent.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wie stark der Ausgang eingeschaltet wird, in Prozent.</translation>
     </message>
     <message>
         <source>Switches the output on; otherwise it is switched off.</source>
-        <translation type="unfinished"></translation>
+        <translation>Schaltet den Ausgang ein; sonst wird er ausgeschaltet.</translation>
     </message>
     <message>
         <source>Switches &amp;on</source>
-        <translation type="unfinished"></translation>
+        <translation>Schaltet &amp;ein</translation>
     </message>
     <message>
         <source>The chart goes on only when the time is over.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Plan geht erst weiter, wenn die Zeit um ist.</translation>
     </message>
     <message>
         <source>&amp;Waits for the end</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Wartet auf das Ende</translation>
     </message>
     <message>
         <source>Leaves just this output on.</source>
-        <translation type="unfinished"></translation>
+        <translation>Lässt nur diesen Ausgang an.</translation>
     </message>
     <message>
         <source>Switches all o&amp;ther outputs off</source>
-        <translation type="unfinished"></translation>
+        <translation>Schaltet alle an&amp;deren Ausgänge aus</translation>
     </message>
 </context>
 <context>
     <name>StopForm</name>
     <message>
         <source>Stop</source>
-        <translation type="unfinished"></translation>
+        <translation>Stopp</translation>
     </message>
     <message>
         <source>The chart begins again from its start.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Plan beginnt wieder bei seinem Start.</translation>
     </message>
     <message>
         <source>&amp;Starts again</source>
-        <translation type="unfinished"></translation>
+        <translation>Beginnt &amp;wieder</translation>
     </message>
     <message>
         <source>A chart that starts again never ends by itself. Start again?</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein Plan, der wieder beginnt, endet nie von selbst. Wieder beginnen?</translation>
     </message>
     <message>
         <source>The chart will end here. End it?</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Plan wird hier enden. Beenden?</translation>
     </message>
     <message>
         <source>Otherwise they stay as they are.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sonst bleiben sie, wie sie sind.</translation>
     </message>
     <message>
         <source>Switches all &amp;outputs off</source>
-        <translation type="unfinished"></translation>
+        <translation>Schaltet alle &amp;Ausgänge aus</translation>
     </message>
     <message>
         <source>What is shown to the reader at the end.</source>
-        <translation type="unfinished"></translation>
+        <translation>Was dem Leser am Ende gezeigt wird.</translation>
     </message>
 </context>
 <context>
     <name>SwitchForm</name>
     <message>
         <source>Switch</source>
-        <translation type="unfinished"></translation>
+        <translation>Schalter</translation>
     </message>
     <message>
         <source>&amp;Contact:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Kontakt:</translation>
     </message>
     <message>
         <source>Lets current through as soon as the model starts.</source>
-        <translation type="unfinished"></translation>
+        <translation>Lässt Strom durch, sobald das Modell startet.</translation>
     </message>
     <message>
         <source>Closed at the start</source>
-        <translation type="unfinished"></translation>
+        <translation>Beim Start geschlossen</translation>
     </message>
     <message>
         <source>&amp;Kind:</source>
-        <translation type="unfinished"></translation>
+        <translation>A&amp;rt:</translation>
     </message>
     <message>
         <source>Whether the contact stays as it is set, or opens again when it is let go.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ob der Kontakt bleibt, wie er gestellt ist, oder sich wieder öffnet, wenn er losgelassen wird.</translation>
     </message>
     <message>
         <source>Springs back</source>
-        <translation type="unfinished"></translation>
+        <translation>Springt zurück</translation>
     </message>
     <message>
         <source>Stays where it is put</source>
-        <translation type="unfinished"></translation>
+        <translation>Bleibt, wie er gestellt ist</translation>
     </message>
     <message>
         <source>The resistance of the closed contact.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Widerstand des geschlossenen Kontakts.</translation>
     </message>
     <message>
         <source>The unit shown; a click offers others.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die gezeigte Einheit; ein Klick bietet andere an.</translation>
     </message>
     <message>
         <source>How long the contact chatters when it closes.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wie lange der Kontakt beim Schließen prellt.</translation>
     </message>
     <message>
         <source>Draws the lever with its hinge on the right; otherwise on the left.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeichnet den Hebel mit seinem Gelenk rechts; sonst links.</translation>
     </message>
     <message>
         <source>&amp;Hinge on the right</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Gelenk rechts</translation>
     </message>
     <message>
         <source>Handling</source>
-        <translation type="unfinished"></translation>
+        <translation>Bedienung</translation>
     </message>
     <message>
         <source>The key that works the switch while the model runs; one capital letter or digit.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Taste, die den Schalter bedient, während das Modell läuft; ein Großbuchstabe oder eine Ziffer.</translation>
     </message>
     <message>
         <source>Otherwise only the model itself works the switch.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sonst bedient nur das Modell selbst den Schalter.</translation>
     </message>
     <message>
         <source>Can be &amp;worked by the reader</source>
-        <translation type="unfinished"></translation>
+        <translation>Kann vom Leser bedien&amp;t werden</translation>
     </message>
     <message>
         <source>Writes the name of each pin beside it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Schreibt den Namen jedes Anschlusses daneben.</translation>
     </message>
     <message>
         <source>&amp;Names at the pins</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Namen an den Anschlüssen</translation>
     </message>
 </context>
 <context>
     <name>TextForm</name>
     <message>
         <source>Text</source>
-        <translation type="unfinished"></translation>
+        <translation>Text</translation>
     </message>
     <message>
         <source>Letters</source>
-        <translation type="unfinished"></translation>
+        <translation>Buchstaben</translation>
     </message>
     <message>
         <source>What is written; it is wrapped at the width of the part.</source>
-        <translation type="unfinished"></translation>
+        <translation>Was geschrieben ist; es wird auf die Breite des Teils umbrochen.</translation>
     </message>
     <message>
         <source>Height of a line of the text.</source>
-        <translation type="unfinished"></translation>
+        <translation>Höhe einer Zeile des Texts.</translation>
     </message>
     <message>
         <source>The unit shown; a click offers others.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die gezeigte Einheit; ein Klick bietet andere an.</translation>
     </message>
     <message>
         <source>Where the lines stand within the width.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wo die Zeilen innerhalb der Breite stehen.</translation>
     </message>
     <message>
         <source>The colour of the letters.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Farbe der Buchstaben.</translation>
     </message>
     <message>
         <source>&amp;Weight:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Strichstärke:</translation>
     </message>
     <message>
         <source>Writes the text in bold letters.</source>
-        <translation type="unfinished"></translation>
+        <translation>Schreibt den Text in fetten Buchstaben.</translation>
     </message>
     <message>
         <source>Bold</source>
-        <translation type="unfinished"></translation>
+        <translation>Fett</translation>
     </message>
     <message>
         <source>&amp;Slant:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Neigung:</translation>
     </message>
     <message>
         <source>Writes the text in sloping letters.</source>
-        <translation type="unfinished"></translation>
+        <translation>Schreibt den Text in schrägen Buchstaben.</translation>
     </message>
     <message>
         <source>Italic</source>
-        <translation type="unfinished"></translation>
+        <translation>Kursiv</translation>
     </message>
     <message>
         <source>Frame</source>
-        <translation type="unfinished"></translation>
+        <translation>Rahmen</translation>
     </message>
     <message>
         <source>Draws a thin frame round the text.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeichnet einen dünnen Rahmen um den Text.</translation>
     </message>
     <message>
         <source>Draw a &amp;frame</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Rahmen zeichnen</translation>
     </message>
 </context>
 <context>
     <name>WireForm</name>
     <message>
         <source>Wire</source>
-        <translation type="unfinished"></translation>
+        <translation>Draht</translation>
     </message>
     <message>
         <source>The cross-section of the copper.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Querschnitt des Kupfers.</translation>
     </message>
     <message>
         <source>The wire has a coloured cover.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Draht hat eine farbige Hülle.</translation>
     </message>
     <message>
         <source>&amp;Insulated</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Isoliert</translation>
     </message>
     <message>
         <source>Many thin wires make it easy to bend.</source>
-        <translation type="unfinished"></translation>
+        <translation>Viele dünne Drähte machen ihn biegsam.</translation>
     </message>
     <message>
         <source>&amp;Stranded</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Litze</translation>
     </message>
     <message>
         <source>Runs along right angles; otherwise straight from pin to pin.</source>
-        <translation type="unfinished"></translation>
+        <translation>Läuft in rechten Winkeln; sonst gerade von Anschluss zu Anschluss.</translation>
     </message>
     <message>
         <source>&amp;Right angles only</source>
-        <translation type="unfinished"></translation>
+        <translation>Nur &amp;rechte Winkel</translation>
     </message>
 </context>
 <context>
     <name>core/body</name>
     <message>
         <source>Body</source>
-        <translation type="unfinished"></translation>
+        <translation>Körper</translation>
     </message>
 </context>
 <context>
     <name>core/collections</name>
     <message>
         <source>Gallery of collections</source>
-        <translation type="unfinished"></translation>
+        <translation>Galerie der Sammlungen</translation>
     </message>
     <message>
         <source>Picture</source>
-        <translation type="unfinished"></translation>
+        <translation>Bild</translation>
     </message>
     <message>
         <source>One picture.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein Bild.</translation>
     </message>
     <message>
         <source>Weather</source>
-        <translation type="unfinished"></translation>
+        <translation>Wetter</translation>
     </message>
     <message>
         <source>One of a few pictures.</source>
-        <translation type="unfinished"></translation>
+        <translation>Eines von wenigen Bildern.</translation>
     </message>
     <message>
         <source>Sun</source>
-        <translation type="unfinished"></translation>
+        <translation>Sonne</translation>
     </message>
     <message>
         <source>Rain</source>
-        <translation type="unfinished"></translation>
+        <translation>Regen</translation>
     </message>
     <message>
         <source>Album</source>
-        <translation type="unfinished"></translation>
+        <translation>Album</translation>
     </message>
     <message>
         <source>Any number of pictures.</source>
-        <translation type="unfinished"></translation>
+        <translation>Beliebig viele Bilder.</translation>
     </message>
     <message>
         <source>Table</source>
-        <translation type="unfinished"></translation>
+        <translation>Tabelle</translation>
     </message>
     <message>
         <source>Keys and values.</source>
-        <translation type="unfinished"></translation>
+        <translation>Schlüssel und Werte.</translation>
     </message>
     <message>
         <source>Lettering</source>
-        <translation type="unfinished"></translation>
+        <translation>Beschriftung</translation>
     </message>
     <message>
         <source>The font of a text.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Schrift eines Texts.</translation>
     </message>
     <message>
         <source>Level</source>
-        <translation type="unfinished"></translation>
+        <translation>Pegel</translation>
     </message>
     <message>
         <source>A number that can follow another.</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine Zahl, die einer anderen folgen kann.</translation>
     </message>
 </context>
 <context>
     <name>core/connection</name>
     <message>
         <source>Connection</source>
-        <translation type="unfinished"></translation>
+        <translation>Verbindung</translation>
     </message>
     <message>
         <source>From</source>
-        <translation type="unfinished"></translation>
+        <translation>Von</translation>
     </message>
     <message>
         <source>The pin at which the connection begins.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Anschluss, an dem die Verbindung beginnt.</translation>
     </message>
     <message>
         <source>To</source>
-        <translation type="unfinished"></translation>
+        <translation>Nach</translation>
     </message>
     <message>
         <source>The pin at which the connection ends.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Anschluss, an dem die Verbindung endet.</translation>
     </message>
     <message>
         <source>Line width</source>
-        <translation type="unfinished"></translation>
+        <translation>Linienbreite</translation>
     </message>
     <message>
         <source>How thick the line is drawn.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wie dick die Linie gezeichnet wird.</translation>
     </message>
     <message>
         <source>Colour</source>
-        <translation type="unfinished"></translation>
+        <translation>Farbe</translation>
     </message>
     <message>
         <source>The colour of the line.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Farbe der Linie.</translation>
     </message>
 </context>
 <context>
     <name>core/control</name>
     <message>
         <source>Control</source>
-        <translation type="unfinished"></translation>
+        <translation>Bedienelement</translation>
     </message>
 </context>
 <context>
     <name>core/domain</name>
     <message>
         <source>Domain</source>
-        <translation type="unfinished"></translation>
+        <translation>Domäne</translation>
     </message>
 </context>
 <context>
     <name>core/element</name>
     <message>
         <source>Element</source>
-        <translation type="unfinished"></translation>
+        <translation>Element</translation>
     </message>
     <message>
         <source>Name</source>
-        <translation type="unfinished"></translation>
+        <translation>Name</translation>
     </message>
     <message>
         <source>A short name without blanks by which other things refer to the element.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein kurzer Name ohne Leerzeichen, mit dem andere Dinge auf das Element verweisen.</translation>
     </message>
     <message>
         <source>Title</source>
-        <translation type="unfinished"></translation>
+        <translation>Titel</translation>
     </message>
     <message>
         <source>The text shown with the element.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Text, der mit dem Element gezeigt wird.</translation>
     </message>
     <message>
         <source>Position</source>
-        <translation type="unfinished"></translation>
+        <translation>Position</translation>
     </message>
     <message>
         <source>Where the centre of the element is.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wo die Mitte des Elements ist.</translation>
     </message>
     <message>
         <source>Size</source>
-        <translation type="unfinished"></translation>
+        <translation>Größe</translation>
     </message>
     <message>
         <source>Width and height of the element.</source>
-        <translation type="unfinished"></translation>
+        <translation>Breite und Höhe des Elements.</translation>
     </message>
     <message>
         <source>Orientation</source>
-        <translation type="unfinished"></translation>
+        <translation>Ausrichtung</translation>
     </message>
     <message>
         <source>How far the element is turned clockwise.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wie weit das Element im Uhrzeigersinn gedreht ist.</translation>
     </message>
     <message>
         <source>Turning</source>
-        <translation type="unfinished"></translation>
+        <translation>Drehen</translation>
     </message>
     <message>
         <source>How the element may be turned: freely, by right angles, or not at all.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wie das Element gedreht werden darf: frei, um rechte Winkel oder gar nicht.</translation>
     </message>
     <message>
         <source>free</source>
-        <translation type="unfinished"></translation>
+        <translation>frei</translation>
     </message>
     <message>
         <source>quarter</source>
-        <translation type="unfinished"></translation>
+        <translation>rechtwinklig</translation>
     </message>
     <message>
         <source>fixed</source>
-        <translation type="unfinished"></translation>
+        <translation>fest</translation>
     </message>
     <message>
         <source>Visible</source>
-        <translation type="unfinished"></translation>
+        <translation>Sichtbar</translation>
     </message>
     <message>
         <source>Whether the element is seen while the model runs.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ob das Element zu sehen ist, während das Modell läuft.</translation>
     </message>
 </context>
 <context>
     <name>core/gallery</name>
     <message>
         <source>Gallery of controls</source>
-        <translation type="unfinished"></translation>
+        <translation>Galerie der Bedienelemente</translation>
     </message>
     <message>
         <source>Switched on</source>
-        <translation type="unfinished"></translation>
+        <translation>Eingeschaltet</translation>
     </message>
     <message>
         <source>A yes or no.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein Ja oder Nein.</translation>
     </message>
     <message>
         <source>Trusted</source>
-        <translation type="unfinished"></translation>
+        <translation>Vertraut</translation>
     </message>
     <message>
         <source>A yes or no that is asked about before it changes.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein Ja oder Nein, bei dem vor der Änderung gefragt wird.</translation>
     </message>
     <message>
         <source>Loudness</source>
-        <translation type="unfinished"></translation>
+        <translation>Lautstärke</translation>
     </message>
     <message>
         <source>One of two words.</source>
-        <translation type="unfinished"></translation>
+        <translation>Eines von zwei Wörtern.</translation>
     </message>
     <message>
         <source>quiet</source>
-        <translation type="unfinished"></translation>
+        <translation>leise</translation>
     </message>
     <message>
         <source>loud</source>
-        <translation type="unfinished"></translation>
+        <translation>laut</translation>
     </message>
     <message>
         <source>Held down</source>
-        <translation type="unfinished"></translation>
+        <translation>Gehalten</translation>
     </message>
     <message>
         <source>True for as long as a button is held down.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wahr, solange ein Knopf gehalten wird.</translation>
     </message>
     <message>
         <source>Latched</source>
-        <translation type="unfinished"></translation>
+        <translation>Eingerastet</translation>
     </message>
     <message>
         <source>True while a button is pressed in.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wahr, während ein Knopf eingedrückt ist.</translation>
     </message>
     <message>
         <source>Direction</source>
-        <translation type="unfinished"></translation>
+        <translation>Richtung</translation>
     </message>
     <message>
         <source>A yes or no with words of its own.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein Ja oder Nein mit eigenen Wörtern.</translation>
     </message>
     <message>
         <source>Weather</source>
-        <translation type="unfinished"></translation>
+        <translation>Wetter</translation>
     </message>
     <message>
         <source>One of several words, shown as pictures and texts.</source>
-        <translation type="unfinished"></translation>
+        <translation>Eines von mehreren Wörtern, als Bilder und Texte gezeigt.</translation>
     </message>
     <message>
         <source>sun</source>
-        <translation type="unfinished"></translation>
+        <translation>Sonne</translation>
     </message>
     <message>
         <source>rain</source>
-        <translation type="unfinished"></translation>
+        <translation>Regen</translation>
     </message>
     <message>
         <source>wind</source>
-        <translation type="unfinished"></translation>
+        <translation>Wind</translation>
     </message>
     <message>
         <source>fog</source>
-        <translation type="unfinished"></translation>
+        <translation>Nebel</translation>
     </message>
     <message>
         <source>Force</source>
-        <translation type="unfinished"></translation>
+        <translation>Stärke</translation>
     </message>
     <message>
         <source>How strongly the wind blows, from 0 to 12.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wie stark der Wind weht, von 0 bis 12.</translation>
     </message>
     <message>
         <source>Signal</source>
-        <translation type="unfinished"></translation>
+        <translation>Signal</translation>
     </message>
     <message>
         <source>One of a few colours.</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine von wenigen Farben.</translation>
     </message>
     <message>
         <source>Players</source>
-        <translation type="unfinished"></translation>
+        <translation>Spieler</translation>
     </message>
     <message>
         <source>One of a few whole numbers.</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine von wenigen ganzen Zahlen.</translation>
     </message>
     <message>
         <source>Ratio</source>
-        <translation type="unfinished"></translation>
+        <translation>Verhältnis</translation>
     </message>
     <message>
         <source>One of a few numbers.</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine von wenigen Zahlen.</translation>
     </message>
     <message>
         <source>Corner</source>
-        <translation type="unfinished"></translation>
+        <translation>Ecke</translation>
     </message>
     <message>
         <source>One of a few points.</source>
-        <translation type="unfinished"></translation>
+        <translation>Einer von wenigen Punkten.</translation>
     </message>
     <message>
         <source>Remark</source>
-        <translation type="unfinished"></translation>
+        <translation>Bemerkung</translation>
     </message>
     <message>
         <source>Any text.</source>
-        <translation type="unfinished"></translation>
+        <translation>Beliebiger Text.</translation>
     </message>
     <message>
         <source>Code</source>
-        <translation type="unfinished"></translation>
+        <translation>Code</translation>
     </message>
     <message>
         <source>A capital letter and a digit.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein Großbuchstabe und eine Ziffer.</translation>
     </message>
     <message>
         <source>Year</source>
-        <translation type="unfinished"></translation>
+        <translation>Jahr</translation>
     </message>
     <message>
         <source>A whole number.</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine ganze Zahl.</translation>
     </message>
     <message>
         <source>Distance</source>
-        <translation type="unfinished"></translation>
+        <translation>Abstand</translation>
     </message>
     <message>
         <source>A length in the unit that you choose.</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine Länge in der Einheit, die Sie wählen.</translation>
     </message>
     <message>
         <source>Serial number</source>
-        <translation type="unfinished"></translation>
+        <translation>Seriennummer</translation>
     </message>
     <message>
         <source>A text that nobody can change.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein Text, den niemand ändern kann.</translation>
     </message>
     <message>
         <source>Pieces</source>
-        <translation type="unfinished"></translation>
+        <translation>Stück</translation>
     </message>
     <message>
         <source>Weight</source>
-        <translation type="unfinished"></translation>
+        <translation>Gewicht</translation>
     </message>
     <message>
         <source>A weight in the unit that you choose.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein Gewicht in der Einheit, die Sie wählen.</translation>
     </message>
     <message>
         <source>Slope</source>
-        <translation type="unfinished"></translation>
+        <translation>Neigung</translation>
     </message>
     <message>
         <source>An angle; the step follows from what is allowed, in the unit shown.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein Winkel; die Schrittweite folgt aus dem, was erlaubt ist, in der gezeigten Einheit.</translation>
     </message>
     <message>
         <source>Place</source>
-        <translation type="unfinished"></translation>
+        <translation>Ort</translation>
     </message>
     <message>
         <source>A point in the unit that you choose.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein Punkt in der Einheit, die Sie wählen.</translation>
     </message>
     <message>
         <source>Level</source>
-        <translation type="unfinished"></translation>
+        <translation>Pegel</translation>
     </message>
     <message>
         <source>A whole number from 0 to 100.</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine ganze Zahl von 0 bis 100.</translation>
     </message>
     <message>
         <source>Depth</source>
-        <translation type="unfinished"></translation>
+        <translation>Tiefe</translation>
     </message>
     <message>
         <source>Paint</source>
-        <translation type="unfinished"></translation>
+        <translation>Anstrich</translation>
     </message>
     <message>
         <source>Any colour.</source>
-        <translation type="unfinished"></translation>
+        <translation>Beliebige Farbe.</translation>
     </message>
     <message>
         <source>Trim</source>
-        <translation type="unfinished"></translation>
+        <translation>Zuschnitt</translation>
     </message>
     <message>
         <source>Format</source>
-        <translation type="unfinished"></translation>
+        <translation>Format</translation>
     </message>
     <message>
         <source>One of several words, or a width of its own.</source>
-        <translation type="unfinished"></translation>
+        <translation>Eines von mehreren Wörtern oder eine eigene Breite.</translation>
     </message>
     <message>
         <source>small</source>
-        <translation type="unfinished"></translation>
+        <translation>klein</translation>
     </message>
     <message>
         <source>medium</source>
-        <translation type="unfinished"></translation>
+        <translation>mittel</translation>
     </message>
     <message>
         <source>large</source>
-        <translation type="unfinished"></translation>
+        <translation>groß</translation>
     </message>
     <message>
         <source>own</source>
-        <translation type="unfinished"></translation>
+        <translation>eigener</translation>
     </message>
     <message>
         <source>Width</source>
-        <translation type="unfinished"></translation>
+        <translation>Breite</translation>
     </message>
     <message>
         <source>The width of a format of its own.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Breite eines eigenen Formats.</translation>
     </message>
     <message>
         <source>Guarded</source>
-        <translation type="unfinished"></translation>
+        <translation>Bewacht</translation>
     </message>
     <message>
         <source>Whether what belongs to a guard is in use.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ob benutzt wird, was zu einem Wächter gehört.</translation>
     </message>
     <message>
         <source>Name of the guard</source>
-        <translation type="unfinished"></translation>
+        <translation>Name des Wächters</translation>
     </message>
     <message>
         <source>Who keeps watch.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wer Wache hält.</translation>
     </message>
     <message>
         <source>Windy</source>
-        <translation type="unfinished"></translation>
+        <translation>Windig</translation>
     </message>
     <message>
         <source>Fog, &lt;i&gt;fine&lt;/i&gt; H&lt;sub&gt;2&lt;/sub&gt;O</source>
-        <translation type="unfinished"></translation>
+        <translation>Nebel, &lt;i&gt;feines&lt;/i&gt; H&lt;sub&gt;2&lt;/sub&gt;O</translation>
     </message>
 </context>
 <context>
     <name>core/info</name>
     <message>
         <source>Explanation</source>
-        <translation type="unfinished"></translation>
+        <translation>Erklärung</translation>
     </message>
     <message>
         <source>Opens on</source>
-        <translation type="unfinished"></translation>
+        <translation>Öffnet sich bei</translation>
     </message>
     <message>
         <source>What the reader does to open the explanation.</source>
-        <translation type="unfinished"></translation>
+        <translation>Was der Leser tut, um die Erklärung zu öffnen.</translation>
     </message>
     <message>
         <source>click</source>
-        <translation type="unfinished"></translation>
+        <translation>Klick</translation>
     </message>
     <message>
         <source>hover</source>
-        <translation type="unfinished"></translation>
+        <translation>Überfahren</translation>
     </message>
     <message>
         <source>Only once</source>
-        <translation type="unfinished"></translation>
+        <translation>Nur einmal</translation>
     </message>
     <message>
         <source>Whether the button goes away when the explanation has been read.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ob der Knopf verschwindet, wenn die Erklärung gelesen wurde.</translation>
     </message>
 </context>
 <context>
     <name>core/model</name>
     <message>
         <source>Model</source>
-        <translation type="unfinished"></translation>
+        <translation>Modell</translation>
     </message>
     <message>
         <source>Title</source>
-        <translation type="unfinished"></translation>
+        <translation>Titel</translation>
     </message>
     <message>
         <source>The name of the model, as people read it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Name des Modells, wie Menschen ihn lesen.</translation>
     </message>
     <message>
         <source>Author</source>
-        <translation type="unfinished"></translation>
+        <translation>Verfasser</translation>
     </message>
     <message>
         <source>Who made the model.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wer das Modell gemacht hat.</translation>
     </message>
     <message>
         <source>Notes</source>
-        <translation type="unfinished"></translation>
+        <translation>Hinweise</translation>
     </message>
     <message>
         <source>What a teacher should know before using the model.</source>
-        <translation type="unfinished"></translation>
+        <translation>Was eine Lehrkraft wissen sollte, bevor sie das Modell benutzt.</translation>
     </message>
     <message>
         <source>Paused</source>
-        <translation type="unfinished"></translation>
+        <translation>Angehalten</translation>
     </message>
     <message>
         <source>Whether the running model stands still for a moment.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ob das laufende Modell einen Augenblick stillsteht.</translation>
     </message>
 </context>
 <context>
     <name>core/pad</name>
     <message>
         <source>Pad</source>
-        <translation type="unfinished"></translation>
+        <translation>Lötpunkt</translation>
     </message>
 </context>
 <context>
     <name>core/part</name>
     <message>
         <source>Part</source>
-        <translation type="unfinished"></translation>
+        <translation>Teil</translation>
     </message>
     <message>
         <source>Click</source>
-        <translation type="unfinished"></translation>
+        <translation>Klick</translation>
     </message>
     <message>
         <source>What a click on the part does while the model runs, besides what the part itself does.</source>
-        <translation type="unfinished"></translation>
+        <translation>Was ein Klick auf das Teil tut, während das Modell läuft, außer dem, was das Teil selbst tut.</translation>
     </message>
     <message>
         <source>nothing</source>
-        <translation type="unfinished"></translation>
+        <translation>nichts</translation>
     </message>
     <message>
         <source>show pop-up</source>
-        <translation type="unfinished"></translation>
+        <translation>Pop-up zeigen</translation>
     </message>
     <message>
         <source>open link</source>
-        <translation type="unfinished"></translation>
+        <translation>Link öffnen</translation>
     </message>
     <message>
         <source>show scene</source>
-        <translation type="unfinished"></translation>
+        <translation>Szene zeigen</translation>
     </message>
     <message>
         <source>Link</source>
-        <translation type="unfinished"></translation>
+        <translation>Verknüpfung</translation>
     </message>
     <message>
         <source>The address that a click opens.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Adresse, die ein Klick öffnet.</translation>
     </message>
     <message>
         <source>Scene</source>
-        <translation type="unfinished"></translation>
+        <translation>Szene</translation>
     </message>
     <message>
         <source>The scene that a click shows.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Szene, die ein Klick zeigt.</translation>
     </message>
 </context>
 <context>
     <name>core/picture</name>
     <message>
         <source>Picture</source>
-        <translation type="unfinished"></translation>
+        <translation>Bild</translation>
     </message>
     <message>
         <source>The picture shown.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das gezeigte Bild.</translation>
     </message>
     <message>
         <source>More pictures</source>
-        <translation type="unfinished"></translation>
+        <translation>Weitere Bilder</translation>
     </message>
     <message>
         <source>Pictures shown in turn after the first one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bilder, die nacheinander nach dem ersten gezeigt werden.</translation>
     </message>
     <message>
         <source>Keep proportions</source>
-        <translation type="unfinished"></translation>
+        <translation>Seitenverhältnis behalten</translation>
     </message>
     <message>
         <source>Whether the picture keeps the ratio of width and height.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ob das Bild das Verhältnis von Breite und Höhe behält.</translation>
     </message>
     <message>
         <source>Mirrored</source>
-        <translation type="unfinished"></translation>
+        <translation>Gespiegelt</translation>
     </message>
     <message>
         <source>Whether left and right are exchanged.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ob links und rechts vertauscht sind.</translation>
     </message>
     <message>
         <source>Framed</source>
-        <translation type="unfinished"></translation>
+        <translation>Gerahmt</translation>
     </message>
     <message>
         <source>Whether a thin frame is drawn round the picture.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ob ein dünner Rahmen um das Bild gezeichnet wird.</translation>
     </message>
     <message>
         <source>Source</source>
-        <translation type="unfinished"></translation>
+        <translation>Quelle</translation>
     </message>
     <message>
         <source>Where the picture comes from and who made it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Woher das Bild kommt und wer es gemacht hat.</translation>
     </message>
 </context>
 <context>
     <name>core/pin</name>
     <message>
         <source>Pin</source>
-        <translation type="unfinished"></translation>
+        <translation>Anschluss</translation>
     </message>
 </context>
 <context>
     <name>core/popup</name>
     <message>
         <source>Pop-up</source>
-        <translation type="unfinished"></translation>
+        <translation>Pop-up</translation>
     </message>
     <message>
         <source>Open</source>
-        <translation type="unfinished"></translation>
+        <translation>Öffnen</translation>
     </message>
     <message>
         <source>Whether the pop-up is shown now.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ob das Pop-up jetzt gezeigt wird.</translation>
     </message>
     <message>
         <source>Open at the start</source>
-        <translation type="unfinished"></translation>
+        <translation>Am Anfang offen</translation>
     </message>
     <message>
         <source>Whether the pop-up is open when the model starts.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ob das Pop-up offen ist, wenn das Modell startet.</translation>
     </message>
 </context>
 <context>
     <name>core/scene</name>
     <message>
         <source>Scene</source>
-        <translation type="unfinished"></translation>
+        <translation>Szene</translation>
     </message>
 </context>
 <context>
     <name>core/space</name>
     <message>
         <source>Space</source>
-        <translation type="unfinished"></translation>
+        <translation>Raum</translation>
     </message>
     <message>
         <source>Name</source>
-        <translation type="unfinished"></translation>
+        <translation>Name</translation>
     </message>
     <message>
         <source>A short name without blanks by which other things refer to the space.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein kurzer Name ohne Leerzeichen, mit dem andere Dinge auf den Raum verweisen.</translation>
     </message>
     <message>
         <source>Title</source>
-        <translation type="unfinished"></translation>
+        <translation>Titel</translation>
     </message>
     <message>
         <source>The heading shown above the space.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Überschrift über dem Raum.</translation>
     </message>
     <message>
         <source>Size</source>
-        <translation type="unfinished"></translation>
+        <translation>Größe</translation>
     </message>
     <message>
         <source>Width and height of the space.</source>
-        <translation type="unfinished"></translation>
+        <translation>Breite und Höhe des Raums.</translation>
     </message>
     <message>
         <source>Background</source>
-        <translation type="unfinished"></translation>
+        <translation>Hintergrund</translation>
     </message>
     <message>
         <source>The colour behind the parts.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Farbe hinter den Teilen.</translation>
     </message>
     <message>
         <source>Grid shown</source>
-        <translation type="unfinished"></translation>
+        <translation>Raster gezeigt</translation>
     </message>
     <message>
         <source>Whether a grid of 5 mm is drawn behind the parts.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ob ein Raster von 5 mm hinter die Teile gezeichnet wird.</translation>
     </message>
 </context>
 <context>
     <name>core/subpart</name>
     <message>
         <source>Subpart</source>
-        <translation type="unfinished"></translation>
+        <translation>Unterteil</translation>
     </message>
     <message>
         <source>Roles</source>
-        <translation type="unfinished"></translation>
+        <translation>Rollen</translation>
     </message>
     <message>
         <source>What the subpart is to its part, where that differs from its class.</source>
-        <translation type="unfinished"></translation>
+        <translation>Was das Unterteil für sein Teil ist, wo das von seiner Klasse abweicht.</translation>
     </message>
 </context>
 <context>
     <name>core/text</name>
     <message>
         <source>Text</source>
-        <translation type="unfinished"></translation>
+        <translation>Text</translation>
     </message>
     <message>
         <source>What is written; it is wrapped at the width of the part.</source>
-        <translation type="unfinished"></translation>
+        <translation>Was geschrieben ist; es wird auf die Breite des Teils umbrochen.</translation>
     </message>
     <message>
         <source>Letter height</source>
-        <translation type="unfinished"></translation>
+        <translation>Buchstabenhöhe</translation>
     </message>
     <message>
         <source>Height of a line of the text.</source>
-        <translation type="unfinished"></translation>
+        <translation>Höhe einer Zeile des Texts.</translation>
     </message>
     <message>
         <source>Bold</source>
-        <translation type="unfinished"></translation>
+        <translation>Fett</translation>
     </message>
     <message>
         <source>Whether the letters are bold.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ob die Buchstaben fett sind.</translation>
     </message>
     <message>
         <source>Italic</source>
-        <translation type="unfinished"></translation>
+        <translation>Kursiv</translation>
     </message>
     <message>
         <source>Whether the letters slope.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ob die Buchstaben schräg sind.</translation>
     </message>
     <message>
         <source>Framed</source>
-        <translation type="unfinished"></translation>
+        <translation>Gerahmt</translation>
     </message>
     <message>
         <source>Whether a thin frame is drawn round the text.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ob ein dünner Rahmen um den Text gezeichnet wird.</translation>
     </message>
     <message>
         <source>Alignment</source>
-        <translation type="unfinished"></translation>
+        <translation>Ausrichtung im Feld</translation>
     </message>
     <message>
         <source>Where the lines stand within the width.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wo die Zeilen innerhalb der Breite stehen.</translation>
     </message>
     <message>
         <source>left</source>
-        <translation type="unfinished"></translation>
+        <translation>links</translation>
     </message>
     <message>
         <source>center</source>
-        <translation type="unfinished"></translation>
+        <translation>mittig</translation>
     </message>
     <message>
         <source>right</source>
-        <translation type="unfinished"></translation>
+        <translation>rechts</translation>
     </message>
     <message>
         <source>Colour</source>
-        <translation type="unfinished"></translation>
+        <translation>Farbe</translation>
     </message>
     <message>
         <source>The colour of the letters.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Farbe der Buchstaben.</translation>
     </message>
 </context>
 <context>
     <name>electronics/*</name>
     <message>
         <source>Electronics</source>
-        <translation type="unfinished"></translation>
+        <translation>Elektronik</translation>
     </message>
     <message>
         <source>Current shown</source>
-        <translation type="unfinished"></translation>
+        <translation>Strom gezeigt</translation>
     </message>
     <message>
         <source>Whether moving dots show the current in the wires.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ob laufende Punkte den Strom in den Drähten zeigen.</translation>
     </message>
     <message>
         <source>Symbols</source>
-        <translation type="unfinished"></translation>
+        <translation>Schaltzeichen</translation>
     </message>
     <message>
         <source>Which family of circuit symbols is drawn.</source>
-        <translation type="unfinished"></translation>
+        <translation>Welche Familie von Schaltzeichen gezeichnet wird.</translation>
     </message>
     <message>
         <source>European</source>
-        <translation type="unfinished"></translation>
+        <translation>Europäisch</translation>
     </message>
     <message>
         <source>American</source>
-        <translation type="unfinished"></translation>
+        <translation>Amerikanisch</translation>
     </message>
 </context>
 <context>
     <name>electronics/battery</name>
     <message>
         <source>Battery</source>
-        <translation type="unfinished"></translation>
+        <translation>Batterie</translation>
     </message>
     <message>
         <source>Voltage</source>
-        <translation type="unfinished"></translation>
+        <translation>Spannung</translation>
     </message>
     <message>
         <source>The voltage of the fresh battery.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Spannung der frischen Batterie.</translation>
     </message>
     <message>
         <source>Cells</source>
-        <translation type="unfinished"></translation>
+        <translation>Zellen</translation>
     </message>
     <message>
         <source>How many cells the battery is made of.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aus wie vielen Zellen die Batterie besteht.</translation>
     </message>
     <message>
         <source>Internal resistance</source>
-        <translation type="unfinished"></translation>
+        <translation>Innenwiderstand</translation>
     </message>
     <message>
         <source>The resistance of the battery itself.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Widerstand der Batterie selbst.</translation>
     </message>
     <message>
         <source>Terminals</source>
-        <translation type="unfinished"></translation>
+        <translation>Klemmen</translation>
     </message>
     <message>
         <source>How wires are joined to the battery.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wie Drähte mit der Batterie verbunden werden.</translation>
     </message>
     <message>
         <source>Snap</source>
-        <translation type="unfinished"></translation>
+        <translation>Druckknopf</translation>
     </message>
     <message>
         <source>Clip</source>
-        <translation type="unfinished"></translation>
+        <translation>Klammer</translation>
     </message>
     <message>
         <source>Wire</source>
-        <translation type="unfinished"></translation>
+        <translation>Draht</translation>
     </message>
     <message>
         <source>Polarity shown</source>
-        <translation type="unfinished"></translation>
+        <translation>Polung gezeigt</translation>
     </message>
     <message>
         <source>Whether plus and minus are drawn at the pins.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ob Plus und Minus an die Anschlüsse gezeichnet werden.</translation>
     </message>
     <message>
         <source>Rechargeable</source>
-        <translation type="unfinished"></translation>
+        <translation>Wiederaufladbar</translation>
     </message>
     <message>
         <source>Whether the battery can be charged again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ob die Batterie wieder aufgeladen werden kann.</translation>
     </message>
 </context>
 <context>
     <name>electronics/block</name>
     <message>
         <source>Logic block</source>
-        <translation type="unfinished"></translation>
+        <translation>Logikblock</translation>
     </message>
     <message>
         <source>Operation</source>
-        <translation type="unfinished"></translation>
+        <translation>Verknüpfungsart</translation>
     </message>
     <message>
         <source>How the block works out its output from its inputs.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wie der Block seinen Ausgang aus seinen Eingängen bestimmt.</translation>
     </message>
     <message>
         <source>AND</source>
-        <translation type="unfinished"></translation>
+        <translation>UND</translation>
     </message>
     <message>
         <source>OR</source>
-        <translation type="unfinished"></translation>
+        <translation>ODER</translation>
     </message>
     <message>
         <source>NOT</source>
-        <translation type="unfinished"></translation>
+        <translation>NICHT</translation>
     </message>
     <message>
         <source>NAND</source>
-        <translation type="unfinished"></translation>
+        <translation>NAND</translation>
     </message>
     <message>
         <source>NOR</source>
-        <translation type="unfinished"></translation>
+        <translation>NOR</translation>
     </message>
     <message>
         <source>XOR</source>
-        <translation type="unfinished"></translation>
+        <translation>XOR</translation>
     </message>
     <message>
         <source>Inverted output</source>
-        <translation type="unfinished"></translation>
+        <translation>Ausgang umgekehrt</translation>
     </message>
     <message>
         <source>Whether the output is turned round.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ob der Ausgang umgekehrt ist.</translation>
     </message>
     <message>
         <source>Truth table shown</source>
-        <translation type="unfinished"></translation>
+        <translation>Wahrheitstabelle gezeigt</translation>
     </message>
     <message>
         <source>Whether the truth table is drawn below the block.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ob die Wahrheitstabelle unter den Block gezeichnet wird.</translation>
     </message>
     <message>
         <source>Symbols</source>
-        <translation type="unfinished"></translation>
+        <translation>Schaltzeichen</translation>
     </message>
     <message>
         <source>A box with a sign, or the curved shapes.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein Kasten mit Zeichen oder die geschwungenen Formen.</translation>
     </message>
     <message>
         <source>European</source>
-        <translation type="unfinished"></translation>
+        <translation>Europäisch</translation>
     </message>
     <message>
         <source>American</source>
-        <translation type="unfinished"></translation>
+        <translation>Amerikanisch</translation>
     </message>
     <message>
         <source>Delay</source>
-        <translation type="unfinished"></translation>
+        <translation>Verzögerung</translation>
     </message>
     <message>
         <source>How long the output takes to follow the inputs.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wie lange der Ausgang braucht, um den Eingängen zu folgen.</translation>
     </message>
     <message>
         <source>Input names</source>
-        <translation type="unfinished"></translation>
+        <translation>Namen der Eingänge</translation>
     </message>
     <message>
         <source>What is written beside the inputs, from top to bottom.</source>
-        <translation type="unfinished"></translation>
+        <translation>Was neben den Eingängen steht, von oben nach unten.</translation>
     </message>
     <message>
         <source>Truth table</source>
-        <translation type="unfinished"></translation>
+        <translation>Wahrheitstabelle</translation>
     </message>
     <message>
         <source>The output for every combination of the inputs.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Ausgang für jede Kombination der Eingänge.</translation>
     </message>
     <message>
         <source>NOT AND</source>
-        <translation type="unfinished"></translation>
+        <translation>NICHT UND</translation>
     </message>
     <message>
         <source>NOT OR</source>
-        <translation type="unfinished"></translation>
+        <translation>NICHT ODER</translation>
     </message>
     <message>
         <source>EITHER OR</source>
-        <translation type="unfinished"></translation>
+        <translation>ENTWEDER ODER</translation>
     </message>
 </context>
 <context>
     <name>electronics/buzzer</name>
     <message>
         <source>Buzzer</source>
-        <translation type="unfinished"></translation>
+        <translation>Summer</translation>
     </message>
     <message>
         <source>Sounds at the start</source>
-        <translation type="unfinished"></translation>
+        <translation>Ertönt beim Start</translation>
     </message>
     <message>
         <source>Whether the buzzer sounds when the model starts.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ob der Summer ertönt, wenn das Modell startet.</translation>
     </message>
     <message>
         <source>Pulsed</source>
-        <translation type="unfinished"></translation>
+        <translation>Unterbrochen</translation>
     </message>
     <message>
         <source>Whether the sound goes on and off.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ob der Ton an- und ausgeht.</translation>
     </message>
     <message>
         <source>Loudness</source>
-        <translation type="unfinished"></translation>
+        <translation>Lautstärke</translation>
     </message>
     <message>
         <source>Whether the buzzer sounds softly or loudly.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ob der Summer leise oder laut ertönt.</translation>
     </message>
     <message>
         <source>soft</source>
-        <translation type="unfinished"></translation>
+        <translation>leise</translation>
     </message>
     <message>
         <source>loud</source>
-        <translation type="unfinished"></translation>
+        <translation>laut</translation>
     </message>
     <message>
         <source>Frequency</source>
-        <translation type="unfinished"></translation>
+        <translation>Frequenz</translation>
     </message>
     <message>
         <source>How high the tone is.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wie hoch der Ton ist.</translation>
     </message>
     <message>
         <source>Melody</source>
-        <translation type="unfinished"></translation>
+        <translation>Melodie</translation>
     </message>
     <message>
         <source>The notes that are played in turn, as numbers of half tones; 60 is the middle C.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Noten, die nacheinander gespielt werden, als Nummern der Halbtöne; 60 ist das eingestrichene C.</translation>
     </message>
     <message>
         <source>Sign</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeichen</translation>
     </message>
     <message>
         <source>The picture that stands for the sound.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Bild, das für den Klang steht.</translation>
     </message>
     <message>
         <source>Bell</source>
-        <translation type="unfinished"></translation>
+        <translation>Glocke</translation>
     </message>
     <message>
         <source>Horn</source>
-        <translation type="unfinished"></translation>
+        <translation>Hupe</translation>
     </message>
     <message>
         <source>Siren</source>
-        <translation type="unfinished"></translation>
+        <translation>Sirene</translation>
     </message>
     <message>
         <source>Pictures while sounding</source>
-        <translation type="unfinished"></translation>
+        <translation>Bilder während des Tons</translation>
     </message>
     <message>
         <source>Pictures shown in turn while the buzzer sounds.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bilder, die nacheinander gezeigt werden, während der Summer ertönt.</translation>
     </message>
 </context>
 <context>
     <name>electronics/case</name>
     <message>
         <source>Case</source>
-        <translation type="unfinished"></translation>
+        <translation>Gehäuse</translation>
     </message>
     <message>
         <source>Transparent</source>
-        <translation type="unfinished"></translation>
+        <translation>Durchsichtig</translation>
     </message>
     <message>
         <source>Whether what lies behind the case is seen.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ob zu sehen ist, was hinter dem Gehäuse liegt.</translation>
     </message>
 </context>
 <context>
     <name>electronics/component</name>
     <message>
         <source>Component</source>
-        <translation type="unfinished"></translation>
+        <translation>Bauteil</translation>
     </message>
     <message>
         <source>Reference</source>
-        <translation type="unfinished"></translation>
+        <translation>Kurzzeichen</translation>
     </message>
     <message>
         <source>Letters and number by which the component is called in the circuit, for example R1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Buchstaben und Zahl, mit denen das Bauteil in der Schaltung genannt wird, zum Beispiel R1.</translation>
     </message>
     <message>
         <source>Reference shown</source>
-        <translation type="unfinished"></translation>
+        <translation>Kurzzeichen gezeigt</translation>
     </message>
     <message>
         <source>Whether the reference is written beside the component.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ob das Kurzzeichen neben dem Bauteil steht.</translation>
     </message>
     <message>
         <source>Value shown</source>
-        <translation type="unfinished"></translation>
+        <translation>Wert gezeigt</translation>
     </message>
     <message>
         <source>Whether the main value is written beside the component.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ob der Hauptwert neben dem Bauteil steht.</translation>
     </message>
     <message>
         <source>Label place</source>
-        <translation type="unfinished"></translation>
+        <translation>Ort der Beschriftung</translation>
     </message>
     <message>
         <source>Where the label stands, seen from the centre.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wo die Beschriftung steht, von der Mitte aus gesehen.</translation>
     </message>
     <message>
         <source>Output name</source>
-        <translation type="unfinished"></translation>
+        <translation>Ausgangsname</translation>
     </message>
     <message>
         <source>The name by which flowcharts switch the component; empty when none does.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Name, unter dem Ablaufpläne das Bauteil schalten; leer, wenn keiner es tut.</translation>
     </message>
     <message>
         <source>Level now</source>
-        <translation type="unfinished"></translation>
+        <translation>Pegel jetzt</translation>
     </message>
     <message>
         <source>How strongly a running flowchart has switched the component on, in percent; -1 while none has.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wie stark ein laufender Ablaufplan das Bauteil eingeschaltet hat, in Prozent; -1, solange keiner es tat.</translation>
     </message>
     <message>
         <source>Broken</source>
-        <translation type="unfinished"></translation>
+        <translation>Defekt</translation>
     </message>
     <message>
         <source>A broken component lets no current through.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein defektes Bauteil lässt keinen Strom durch.</translation>
     </message>
 </context>
 <context>
     <name>electronics/control</name>
     <message>
         <source>Control</source>
-        <translation type="unfinished"></translation>
+        <translation>Bedienelement</translation>
     </message>
     <message>
         <source>Setting</source>
-        <translation type="unfinished"></translation>
+        <translation>Stellung</translation>
     </message>
     <message>
         <source>Where the control stands, in percent.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wo das Bedienelement steht, in Prozent.</translation>
     </message>
     <message>
         <source>Can be worked</source>
-        <translation type="unfinished"></translation>
+        <translation>Bedienbar</translation>
     </message>
     <message>
         <source>Whether the reader may move the control while the model runs.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ob der Leser das Bedienelement bewegen darf, während das Modell läuft.</translation>
     </message>
 </context>
 <context>
     <name>electronics/led</name>
     <message>
         <source>LED</source>
-        <translation type="unfinished"></translation>
+        <translation>LED</translation>
     </message>
     <message>
         <source>Colour</source>
-        <translation type="unfinished"></translation>
+        <translation>Farbe</translation>
     </message>
     <message>
         <source>The colour of the light.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Farbe des Lichts.</translation>
     </message>
     <message>
         <source>Lit at the start</source>
-        <translation type="unfinished"></translation>
+        <translation>Leuchtet beim Start</translation>
     </message>
     <message>
         <source>Whether the LED shines when the model starts.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ob die LED leuchtet, wenn das Modell startet.</translation>
     </message>
     <message>
         <source>Blinking</source>
-        <translation type="unfinished"></translation>
+        <translation>Blinkt</translation>
     </message>
     <message>
         <source>Whether the LED goes on and off by itself.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ob die LED von selbst an- und ausgeht.</translation>
     </message>
     <message>
         <source>Lens</source>
-        <translation type="unfinished"></translation>
+        <translation>Linse</translation>
     </message>
     <message>
         <source>Clear lenses throw a narrow beam, milky ones shine all round.</source>
-        <translation type="unfinished"></translation>
+        <translation>Klare Linsen werfen einen schmalen Strahl, milchige leuchten nach allen Seiten.</translation>
     </message>
     <message>
         <source>Clear</source>
-        <translation type="unfinished"></translation>
+        <translation>Leeren</translation>
     </message>
     <message>
         <source>Milky</source>
-        <translation type="unfinished"></translation>
+        <translation>Milchig</translation>
     </message>
     <message>
         <source>Brightness</source>
-        <translation type="unfinished"></translation>
+        <translation>Helligkeit</translation>
     </message>
     <message>
         <source>How brightly the LED shines, in percent.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wie hell die LED leuchtet, in Prozent.</translation>
     </message>
     <message>
         <source>Blink period</source>
-        <translation type="unfinished"></translation>
+        <translation>Blinkperiode</translation>
     </message>
     <message>
         <source>The time from one flash to the next.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Zeit von einem Blinken zum nächsten.</translation>
     </message>
     <message>
         <source>Blink pattern</source>
-        <translation type="unfinished"></translation>
+        <translation>Blinkmuster</translation>
     </message>
     <message>
         <source>Times in seconds for which the LED is on and off in turn.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeiten in Sekunden, für die die LED abwechselnd an und aus ist.</translation>
     </message>
     <message>
         <source>Forward voltage</source>
-        <translation type="unfinished"></translation>
+        <translation>Flussspannung</translation>
     </message>
     <message>
         <source>The voltage at which the LED begins to shine.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Spannung, bei der die LED zu leuchten beginnt.</translation>
     </message>
     <message>
         <source>Greatest current</source>
-        <translation type="unfinished"></translation>
+        <translation>Größter Strom</translation>
     </message>
     <message>
         <source>A greater current destroys the LED.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein größerer Strom zerstört die LED.</translation>
     </message>
     <message>
         <source>Diameter</source>
-        <translation type="unfinished"></translation>
+        <translation>Durchmesser</translation>
     </message>
     <message>
         <source>The diameter of the lens.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Durchmesser der Linse.</translation>
     </message>
 </context>
 <context>
     <name>electronics/light-sensor</name>
     <message>
         <source>Light sensor</source>
-        <translation type="unfinished"></translation>
+        <translation>Lichtsensor</translation>
     </message>
     <message>
         <source>Light</source>
-        <translation type="unfinished"></translation>
+        <translation>Leicht</translation>
     </message>
     <message>
         <source>How bright it is at the start, in percent.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wie hell es am Anfang ist, in Prozent.</translation>
     </message>
     <message>
         <source>Switches at</source>
-        <translation type="unfinished"></translation>
+        <translation>Schaltet bei</translation>
     </message>
     <message>
         <source>The brightness at which the sensor counts as dark.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Helligkeit, von der an es für den Sensor dunkel ist.</translation>
     </message>
     <message>
         <source>Signal when</source>
-        <translation type="unfinished"></translation>
+        <translation>Signal wenn</translation>
     </message>
     <message>
         <source>Whether the sensor gives its signal in the dark or in the light.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ob der Sensor sein Signal im Dunkeln oder im Hellen gibt.</translation>
     </message>
     <message>
         <source>dark</source>
-        <translation type="unfinished"></translation>
+        <translation>dunkel</translation>
     </message>
     <message>
         <source>bright</source>
-        <translation type="unfinished"></translation>
+        <translation>hell</translation>
     </message>
     <message>
         <source>Follows its slider</source>
-        <translation type="unfinished"></translation>
+        <translation>Folgt seinem Schieber</translation>
     </message>
     <message>
         <source>Whether the reader sets the brightness with the slider.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ob der Leser die Helligkeit mit dem Schieber einstellt.</translation>
     </message>
     <message>
         <source>Resistance in the dark</source>
-        <translation type="unfinished"></translation>
+        <translation>Widerstand im Dunkeln</translation>
     </message>
     <message>
         <source>The resistance when no light falls on the sensor.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Widerstand, wenn kein Licht auf den Sensor fällt.</translation>
     </message>
     <message>
         <source>Resistance in the light</source>
-        <translation type="unfinished"></translation>
+        <translation>Widerstand im Hellen</translation>
     </message>
     <message>
         <source>The resistance in full light.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Widerstand bei vollem Licht.</translation>
     </message>
     <message>
         <source>Characteristic</source>
-        <translation type="unfinished"></translation>
+        <translation>Kennlinie</translation>
     </message>
     <message>
         <source>Pairs of brightness in lux and resistance in ohms between which the sensor interpolates.</source>
-        <translation type="unfinished"></translation>
+        <translation>Paare aus Helligkeit in Lux und Widerstand in Ohm, zwischen denen der Sensor interpoliert.</translation>
     </message>
 </context>
 <context>
     <name>electronics/meter</name>
     <message>
         <source>Meter</source>
-        <translation type="unfinished"></translation>
+        <translation>Messgerät</translation>
     </message>
     <message>
         <source>Measures</source>
-        <translation type="unfinished"></translation>
+        <translation>Misst</translation>
     </message>
     <message>
         <source>What the meter measures.</source>
-        <translation type="unfinished"></translation>
+        <translation>Was das Messgerät misst.</translation>
     </message>
     <message>
         <source>Voltage</source>
-        <translation type="unfinished"></translation>
+        <translation>Spannung</translation>
     </message>
     <message>
         <source>Current</source>
-        <translation type="unfinished"></translation>
+        <translation>Strom</translation>
     </message>
     <message>
         <source>Resistance</source>
-        <translation type="unfinished"></translation>
+        <translation>Widerstand</translation>
     </message>
     <message>
         <source>Display</source>
-        <translation type="unfinished"></translation>
+        <translation>Anzeige</translation>
     </message>
     <message>
         <source>Figures, or a needle over a scale.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ziffern oder ein Zeiger über einer Skala.</translation>
     </message>
     <message>
         <source>digital</source>
-        <translation type="unfinished"></translation>
+        <translation>digital</translation>
     </message>
     <message>
         <source>needle</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeiger</translation>
     </message>
     <message>
         <source>Hold</source>
-        <translation type="unfinished"></translation>
+        <translation>Halten</translation>
     </message>
     <message>
         <source>Whether the reading stays as it is.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ob der Messwert stehen bleibt.</translation>
     </message>
     <message>
         <source>Peak shown</source>
-        <translation type="unfinished"></translation>
+        <translation>Spitzenwert gezeigt</translation>
     </message>
     <message>
         <source>Whether the greatest reading so far is shown as well.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ob auch der bisher größte Messwert gezeigt wird.</translation>
     </message>
     <message>
         <source>Needle colour</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeigerfarbe</translation>
     </message>
     <message>
         <source>The colour of the needle.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Farbe des Zeigers.</translation>
     </message>
     <message>
         <source>Measures at</source>
-        <translation type="unfinished"></translation>
+        <translation>Misst an</translation>
     </message>
     <message>
         <source>The pin at which the meter measures.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Anschluss, an dem das Messgerät misst.</translation>
     </message>
     <message>
         <source>Scale marks</source>
-        <translation type="unfinished"></translation>
+        <translation>Skalenstriche</translation>
     </message>
     <message>
         <source>Where the scale has long marks, in the quantity&apos;s basic unit.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wo die Skala lange Striche hat, in der Grundeinheit der Größe.</translation>
     </message>
     <message>
         <source>Voltage (V)</source>
-        <translation type="unfinished"></translation>
+        <translation>Spannung (V)</translation>
     </message>
     <message>
         <source>Current (A)</source>
-        <translation type="unfinished"></translation>
+        <translation>Strom (A)</translation>
     </message>
     <message>
         <source>Resistance (Ω)</source>
-        <translation type="unfinished"></translation>
+        <translation>Widerstand (Ω)</translation>
     </message>
 </context>
 <context>
     <name>electronics/pad</name>
     <message>
         <source>Solder pad</source>
-        <translation type="unfinished"></translation>
+        <translation>Lötpunkt</translation>
     </message>
     <message>
         <source>Shape</source>
-        <translation type="unfinished"></translation>
+        <translation>Form</translation>
     </message>
     <message>
         <source>The outline of the copper.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Umriss des Kupfers.</translation>
     </message>
     <message>
         <source>round</source>
-        <translation type="unfinished"></translation>
+        <translation>rund</translation>
     </message>
     <message>
         <source>square</source>
-        <translation type="unfinished"></translation>
+        <translation>eckig</translation>
     </message>
     <message>
         <source>oval</source>
-        <translation type="unfinished"></translation>
+        <translation>oval</translation>
     </message>
     <message>
         <source>Diameter</source>
-        <translation type="unfinished"></translation>
+        <translation>Durchmesser</translation>
     </message>
     <message>
         <source>How wide the copper is.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wie breit das Kupfer ist.</translation>
     </message>
     <message>
         <source>Plated through</source>
-        <translation type="unfinished"></translation>
+        <translation>Durchkontaktiert</translation>
     </message>
     <message>
         <source>Whether the hole is lined with metal.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ob das Loch mit Metall ausgekleidet ist.</translation>
     </message>
 </context>
 <context>
     <name>electronics/pin</name>
     <message>
         <source>Pin</source>
-        <translation type="unfinished"></translation>
+        <translation>Anschluss</translation>
     </message>
     <message>
         <source>Polarity</source>
-        <translation type="unfinished"></translation>
+        <translation>Polung</translation>
     </message>
     <message>
         <source>Which pole of the supply belongs here, if it matters.</source>
-        <translation type="unfinished"></translation>
+        <translation>Welcher Pol der Versorgung hierher gehört, wenn es darauf ankommt.</translation>
     </message>
     <message>
         <source>none</source>
-        <translation type="unfinished"></translation>
+        <translation>keiner</translation>
     </message>
     <message>
         <source>positive</source>
-        <translation type="unfinished"></translation>
+        <translation>positiv</translation>
     </message>
     <message>
         <source>negative</source>
-        <translation type="unfinished"></translation>
+        <translation>negativ</translation>
     </message>
     <message>
         <source>Name shown</source>
-        <translation type="unfinished"></translation>
+        <translation>Name gezeigt</translation>
     </message>
     <message>
         <source>Whether the pin&apos;s name is written beside it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ob der Name des Anschlusses daneben steht.</translation>
     </message>
 </context>
 <context>
     <name>electronics/push-button</name>
     <message>
         <source>Push button</source>
-        <translation type="unfinished"></translation>
+        <translation>Drucktaster</translation>
     </message>
     <message>
         <source>Cap colour</source>
-        <translation type="unfinished"></translation>
+        <translation>Kappenfarbe</translation>
     </message>
     <message>
         <source>The colour of the cap.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Farbe der Kappe.</translation>
     </message>
     <message>
         <source>Lights up</source>
-        <translation type="unfinished"></translation>
+        <translation>Leuchtet</translation>
     </message>
     <message>
         <source>Whether a lamp in the cap shines while the button is held.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ob eine Lampe in der Kappe leuchtet, während der Taster gehalten wird.</translation>
     </message>
 </context>
 <context>
     <name>electronics/resistor</name>
     <message>
         <source>Resistor</source>
-        <translation type="unfinished"></translation>
+        <translation>Widerstand</translation>
     </message>
     <message>
         <source>Resistance</source>
-        <translation type="unfinished"></translation>
+        <translation>Widerstand</translation>
     </message>
     <message>
         <source>The resistance as it is printed on the part.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Widerstand, wie er auf das Teil gedruckt ist.</translation>
     </message>
     <message>
         <source>Tolerance in %</source>
-        <translation type="unfinished"></translation>
+        <translation>Toleranz in %</translation>
     </message>
     <message>
         <source>How far the true resistance may be from the printed one, in percent.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wie weit der wirkliche Widerstand vom aufgedruckten abweichen darf, in Prozent.</translation>
     </message>
     <message>
         <source>Power rating</source>
-        <translation type="unfinished"></translation>
+        <translation>Belastbarkeit</translation>
     </message>
     <message>
         <source>The power that the part stands without burning.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Leistung, die das Teil aushält, ohne zu verbrennen.</translation>
     </message>
     <message>
         <source>Colour bands</source>
-        <translation type="unfinished"></translation>
+        <translation>Farbringe</translation>
     </message>
     <message>
         <source>Whether the colour bands are drawn.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ob die Farbringe gezeichnet werden.</translation>
     </message>
     <message>
         <source>Symbol</source>
-        <translation type="unfinished"></translation>
+        <translation>Schaltzeichen</translation>
     </message>
     <message>
         <source>The box, or the zigzag line.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Kasten oder die Zickzacklinie.</translation>
     </message>
     <message>
         <source>European</source>
-        <translation type="unfinished"></translation>
+        <translation>Europäisch</translation>
     </message>
     <message>
         <source>American</source>
-        <translation type="unfinished"></translation>
+        <translation>Amerikanisch</translation>
     </message>
 </context>
 <context>
     <name>electronics/switch</name>
     <message>
         <source>Switch</source>
-        <translation type="unfinished"></translation>
+        <translation>Schalter</translation>
     </message>
     <message>
         <source>Closed</source>
-        <translation type="unfinished"></translation>
+        <translation>Geschlossen</translation>
     </message>
     <message>
         <source>Whether the switch lets current through at the start.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ob der Schalter am Anfang Strom durchlässt.</translation>
     </message>
     <message>
         <source>Springs back</source>
-        <translation type="unfinished"></translation>
+        <translation>Springt zurück</translation>
     </message>
     <message>
         <source>Whether the switch stays closed only while it is held.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ob der Schalter nur geschlossen bleibt, solange er gehalten wird.</translation>
     </message>
     <message>
         <source>Lever side</source>
-        <translation type="unfinished"></translation>
+        <translation>Hebelseite</translation>
     </message>
     <message>
         <source>On which side the lever has its hinge.</source>
-        <translation type="unfinished"></translation>
+        <translation>Auf welcher Seite der Hebel sein Gelenk hat.</translation>
     </message>
     <message>
         <source>left</source>
-        <translation type="unfinished"></translation>
+        <translation>links</translation>
     </message>
     <message>
         <source>right</source>
-        <translation type="unfinished"></translation>
+        <translation>rechts</translation>
     </message>
     <message>
         <source>Contact resistance</source>
-        <translation type="unfinished"></translation>
+        <translation>Kontaktwiderstand</translation>
     </message>
     <message>
         <source>The resistance of the closed contact.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Widerstand des geschlossenen Kontakts.</translation>
     </message>
     <message>
         <source>Bounce time</source>
-        <translation type="unfinished"></translation>
+        <translation>Prellzeit</translation>
     </message>
     <message>
         <source>How long the contact chatters when it closes.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wie lange der Kontakt beim Schließen prellt.</translation>
     </message>
     <message>
         <source>Key</source>
-        <translation type="unfinished"></translation>
+        <translation>Schlüssel</translation>
     </message>
     <message>
         <source>The key that works the switch while the model runs; one capital letter or digit.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Taste, die den Schalter bedient, während das Modell läuft; ein Großbuchstabe oder eine Ziffer.</translation>
     </message>
 </context>
 <context>
     <name>electronics/wire</name>
     <message>
         <source>Wire</source>
-        <translation type="unfinished"></translation>
+        <translation>Draht</translation>
     </message>
     <message>
         <source>Insulated</source>
-        <translation type="unfinished"></translation>
+        <translation>Isoliert</translation>
     </message>
     <message>
         <source>Whether the wire has a coloured cover.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ob der Draht eine farbige Hülle hat.</translation>
     </message>
     <message>
         <source>Stranded</source>
-        <translation type="unfinished"></translation>
+        <translation>Litze</translation>
     </message>
     <message>
         <source>Whether the wire is made of many thin ones.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ob der Draht aus vielen dünnen besteht.</translation>
     </message>
     <message>
         <source>Route</source>
-        <translation type="unfinished"></translation>
+        <translation>Verlauf</translation>
     </message>
     <message>
         <source>Along right angles, or straight from pin to pin.</source>
-        <translation type="unfinished"></translation>
+        <translation>In rechten Winkeln oder gerade von Anschluss zu Anschluss.</translation>
     </message>
     <message>
         <source>straight</source>
-        <translation type="unfinished"></translation>
+        <translation>gerade</translation>
     </message>
     <message>
         <source>square</source>
-        <translation type="unfinished"></translation>
+        <translation>eckig</translation>
     </message>
     <message>
         <source>Cross-section in mm²</source>
-        <translation type="unfinished"></translation>
+        <translation>Querschnitt in mm²</translation>
     </message>
     <message>
         <source>The copper&apos;s cross-section in square millimetres.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Querschnitt des Kupfers in Quadratmillimetern.</translation>
     </message>
     <message>
         <source>Bends</source>
-        <translation type="unfinished"></translation>
+        <translation>Knicke</translation>
     </message>
     <message>
         <source>The points over which the wire runs, from its beginning to its end.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Punkte, über die der Draht läuft, von seinem Anfang bis zu seinem Ende.</translation>
     </message>
 </context>
 <context>
     <name>flowcharts/*</name>
     <message>
         <source>Flowcharts</source>
-        <translation type="unfinished"></translation>
+        <translation>Ablaufpläne</translation>
     </message>
     <message>
         <source>Speed</source>
-        <translation type="unfinished"></translation>
+        <translation>Geschwindigkeit</translation>
     </message>
     <message>
         <source>How fast the flowcharts of the space run.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wie schnell die Ablaufpläne des Raums laufen.</translation>
     </message>
     <message>
         <source>Fast</source>
-        <translation type="unfinished"></translation>
+        <translation>Schnell</translation>
     </message>
     <message>
         <source>Normal</source>
-        <translation type="unfinished"></translation>
+        <translation>Normal</translation>
     </message>
     <message>
         <source>Slow</source>
-        <translation type="unfinished"></translation>
+        <translation>Langsam</translation>
     </message>
     <message>
         <source>Manual step</source>
-        <translation type="unfinished"></translation>
+        <translation>Handschritt</translation>
     </message>
     <message>
         <source>Step</source>
-        <translation type="unfinished"></translation>
+        <translation>Schritt</translation>
     </message>
     <message>
         <source>Held down to run the next block at the speed Manual step.</source>
-        <translation type="unfinished"></translation>
+        <translation>Gehalten, um bei der Geschwindigkeit Handschritt den nächsten Block auszuführen.</translation>
     </message>
 </context>
 <context>
     <name>flowcharts/block</name>
     <message>
         <source>Flowchart block</source>
-        <translation type="unfinished"></translation>
+        <translation>Ablaufblock</translation>
     </message>
     <message>
         <source>Comment</source>
-        <translation type="unfinished"></translation>
+        <translation>Bemerkung</translation>
     </message>
     <message>
         <source>A remark for the readers of the chart.</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine Bemerkung für die Leser des Plans.</translation>
     </message>
     <message>
         <source>Comment shown</source>
-        <translation type="unfinished"></translation>
+        <translation>Bemerkung gezeigt</translation>
     </message>
     <message>
         <source>Whether the remark is written beside the block.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ob die Bemerkung neben dem Block steht.</translation>
     </message>
     <message>
         <source>Lights up</source>
-        <translation type="unfinished"></translation>
+        <translation>Leuchtet</translation>
     </message>
     <message>
         <source>Whether the block lights up while it runs.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ob der Block leuchtet, während er läuft.</translation>
     </message>
     <message>
         <source>Stops here</source>
-        <translation type="unfinished"></translation>
+        <translation>Hält hier</translation>
     </message>
     <message>
         <source>Whether the chart halts before the block, until it is stepped on.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ob der Plan vor dem Block hält, bis er weitergeführt wird.</translation>
     </message>
     <message>
         <source>Runs now</source>
-        <translation type="unfinished"></translation>
+        <translation>Läuft jetzt</translation>
     </message>
     <message>
         <source>Whether a running chart is at the block.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ob ein laufender Plan bei dem Block ist.</translation>
     </message>
     <message>
         <source>Fill</source>
-        <translation type="unfinished"></translation>
+        <translation>Füllung</translation>
     </message>
     <message>
         <source>The colour inside the block.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Farbe im Inneren des Blocks.</translation>
     </message>
 </context>
 <context>
     <name>flowcharts/decision</name>
     <message>
         <source>Decision</source>
-        <translation type="unfinished"></translation>
+        <translation>Entscheidung</translation>
     </message>
     <message>
         <source>Input</source>
-        <translation type="unfinished"></translation>
+        <translation>Eingang</translation>
     </message>
     <message>
         <source>The output name of the switch or sensor that is asked.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Ausgangsname des Schalters oder Fühlers, der gefragt wird.</translation>
     </message>
     <message>
         <source>Question</source>
-        <translation type="unfinished"></translation>
+        <translation>Frage</translation>
     </message>
     <message>
         <source>What is asked about the input.</source>
-        <translation type="unfinished"></translation>
+        <translation>Was über den Eingang gefragt wird.</translation>
     </message>
     <message>
         <source>is on</source>
-        <translation type="unfinished"></translation>
+        <translation>ist an</translation>
     </message>
     <message>
         <source>is off</source>
-        <translation type="unfinished"></translation>
+        <translation>ist aus</translation>
     </message>
     <message>
         <source>is greater than</source>
-        <translation type="unfinished"></translation>
+        <translation>ist größer als</translation>
     </message>
     <message>
         <source>is less than</source>
-        <translation type="unfinished"></translation>
+        <translation>ist kleiner als</translation>
     </message>
     <message>
         <source>Compared with</source>
-        <translation type="unfinished"></translation>
+        <translation>Verglichen mit</translation>
     </message>
     <message>
         <source>The number that the input is compared with.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Zahl, mit der der Eingang verglichen wird.</translation>
     </message>
     <message>
         <source>Yes branch</source>
-        <translation type="unfinished"></translation>
+        <translation>Ja-Zweig</translation>
     </message>
     <message>
         <source>Where the chart goes on when the answer is yes.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wo der Plan weitergeht, wenn die Antwort ja ist.</translation>
     </message>
     <message>
         <source>down</source>
-        <translation type="unfinished"></translation>
+        <translation>unten</translation>
     </message>
     <message>
         <source>right</source>
-        <translation type="unfinished"></translation>
+        <translation>rechts</translation>
     </message>
     <message>
         <source>Asks until yes</source>
-        <translation type="unfinished"></translation>
+        <translation>Fragt bis ja</translation>
     </message>
     <message>
         <source>Whether the block waits until the answer is yes.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ob der Block wartet, bis die Antwort ja ist.</translation>
     </message>
     <message>
         <source>Answers shown</source>
-        <translation type="unfinished"></translation>
+        <translation>Antworten gezeigt</translation>
     </message>
     <message>
         <source>Whether Yes and No are written at the branches.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ob Ja und Nein an den Zweigen stehen.</translation>
     </message>
     <message>
         <source>Watched part</source>
-        <translation type="unfinished"></translation>
+        <translation>Beobachtetes Teil</translation>
     </message>
     <message>
         <source>The part whose state is asked when no input is named.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Teil, nach dessen Zustand gefragt wird, wenn kein Eingang genannt ist.</translation>
     </message>
     <message>
         <source>is on?</source>
-        <translation type="unfinished"></translation>
+        <translation>ist an?</translation>
     </message>
     <message>
         <source>is off?</source>
-        <translation type="unfinished"></translation>
+        <translation>ist aus?</translation>
     </message>
 </context>
 <context>
     <name>flowcharts/link</name>
     <message>
         <source>Link</source>
-        <translation type="unfinished"></translation>
+        <translation>Verknüpfung</translation>
     </message>
     <message>
         <source>Arrow</source>
-        <translation type="unfinished"></translation>
+        <translation>Pfeil</translation>
     </message>
     <message>
         <source>Whether the end has an arrow head.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ob das Ende eine Pfeilspitze hat.</translation>
     </message>
     <message>
         <source>Dashed</source>
-        <translation type="unfinished"></translation>
+        <translation>Gestrichelt</translation>
     </message>
     <message>
         <source>Whether the line is dashed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ob die Linie gestrichelt ist.</translation>
     </message>
     <message>
         <source>Route</source>
-        <translation type="unfinished"></translation>
+        <translation>Verlauf</translation>
     </message>
     <message>
         <source>Straight from block to block, or along right angles.</source>
-        <translation type="unfinished"></translation>
+        <translation>Gerade von Block zu Block oder in rechten Winkeln.</translation>
     </message>
     <message>
         <source>square</source>
-        <translation type="unfinished"></translation>
+        <translation>eckig</translation>
     </message>
     <message>
         <source>straight</source>
-        <translation type="unfinished"></translation>
+        <translation>gerade</translation>
     </message>
     <message>
         <source>Bends</source>
-        <translation type="unfinished"></translation>
+        <translation>Knicke</translation>
     </message>
     <message>
         <source>The points over which the line runs, from its beginning to its end.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Punkte, über die die Linie läuft, von ihrem Anfang bis zu ihrem Ende.</translation>
     </message>
 </context>
 <context>
     <name>flowcharts/procedure</name>
     <message>
         <source>Procedure</source>
-        <translation type="unfinished"></translation>
+        <translation>Unterprogramm</translation>
     </message>
     <message>
         <source>Repeats</source>
-        <translation type="unfinished"></translation>
+        <translation>Wiederholungen</translation>
     </message>
     <message>
         <source>How often the chart in the pop-up is run.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wie oft der Plan im Pop-up ausgeführt wird.</translation>
     </message>
     <message>
         <source>Opens while it runs</source>
-        <translation type="unfinished"></translation>
+        <translation>Öffnet sich beim Laufen</translation>
     </message>
     <message>
         <source>Whether the pop-up with the chart opens while the procedure runs.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ob sich das Pop-up mit dem Plan öffnet, während das Unterprogramm läuft.</translation>
     </message>
     <message>
         <source>Ends alone</source>
-        <translation type="unfinished"></translation>
+        <translation>Endet allein</translation>
     </message>
     <message>
         <source>Whether a stop block inside ends only the procedure rather than the whole chart.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ob ein Stoppblock darin nur das Unterprogramm beendet statt des ganzen Plans.</translation>
     </message>
     <message>
         <source>Parameters</source>
-        <translation type="unfinished"></translation>
+        <translation>Parameter</translation>
     </message>
     <message>
         <source>The names of the numbers handed to the procedure.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Namen der Zahlen, die dem Unterprogramm übergeben werden.</translation>
     </message>
 </context>
 <context>
     <name>flowcharts/start</name>
     <message>
         <source>Start</source>
-        <translation type="unfinished"></translation>
+        <translation>Start</translation>
     </message>
     <message>
         <source>Starts by itself</source>
-        <translation type="unfinished"></translation>
+        <translation>Startet von selbst</translation>
     </message>
     <message>
         <source>Whether the chart runs as soon as the model starts.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ob der Plan läuft, sobald das Modell startet.</translation>
     </message>
     <message>
         <source>Starts when</source>
-        <translation type="unfinished"></translation>
+        <translation>Startet wenn</translation>
     </message>
     <message>
         <source>Whether one or all of the named inputs must be on for the chart to start.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ob einer oder alle der genannten Eingänge an sein müssen, damit der Plan startet.</translation>
     </message>
     <message>
         <source>any input</source>
-        <translation type="unfinished"></translation>
+        <translation>ein Eingang</translation>
     </message>
     <message>
         <source>all inputs</source>
-        <translation type="unfinished"></translation>
+        <translation>alle Eingänge</translation>
     </message>
     <message>
         <source>Inputs</source>
-        <translation type="unfinished"></translation>
+        <translation>Eingänge</translation>
     </message>
     <message>
         <source>The names of the switches and sensors that start the chart.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Namen der Schalter und Fühler, die den Plan starten.</translation>
     </message>
     <message>
         <source>Delay</source>
-        <translation type="unfinished"></translation>
+        <translation>Verzögerung</translation>
     </message>
     <message>
         <source>How long the chart waits before its first block.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wie lange der Plan vor seinem ersten Block wartet.</translation>
     </message>
 </context>
 <context>
     <name>flowcharts/step</name>
     <message>
         <source>Step</source>
-        <translation type="unfinished"></translation>
+        <translation>Schritt</translation>
     </message>
     <message>
         <source>Action</source>
-        <translation type="unfinished"></translation>
+        <translation>Aktion</translation>
     </message>
     <message>
         <source>What the block does with its output.</source>
-        <translation type="unfinished"></translation>
+        <translation>Was der Block mit seinem Ausgang tut.</translation>
     </message>
     <message>
         <source>Switch</source>
-        <translation type="unfinished"></translation>
+        <translation>Schalter</translation>
     </message>
     <message>
         <source>Flash</source>
-        <translation type="unfinished"></translation>
+        <translation>Blinken</translation>
     </message>
     <message>
         <source>Fade</source>
-        <translation type="unfinished"></translation>
+        <translation>Dimmen</translation>
     </message>
     <message>
         <source>Wait</source>
-        <translation type="unfinished"></translation>
+        <translation>Warten</translation>
     </message>
     <message>
         <source>Output</source>
-        <translation type="unfinished"></translation>
+        <translation>Ausgang</translation>
     </message>
     <message>
         <source>The output name of the components that the block switches.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Ausgangsname der Bauteile, die der Block schaltet.</translation>
     </message>
     <message>
         <source>Switches on</source>
-        <translation type="unfinished"></translation>
+        <translation>Schaltet ein</translation>
     </message>
     <message>
         <source>Whether the block switches the output on rather than off.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ob der Block den Ausgang ein- statt ausschaltet.</translation>
     </message>
     <message>
         <source>Waits</source>
-        <translation type="unfinished"></translation>
+        <translation>Wartet</translation>
     </message>
     <message>
         <source>Whether the chart goes on only when the time is over.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ob der Plan erst weitergeht, wenn die Zeit um ist.</translation>
     </message>
     <message>
         <source>Other outputs</source>
-        <translation type="unfinished"></translation>
+        <translation>Andere Ausgänge</translation>
     </message>
     <message>
         <source>Whether all other outputs are switched off at the same time.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ob zugleich alle anderen Ausgänge ausgeschaltet werden.</translation>
     </message>
     <message>
         <source>unchanged</source>
-        <translation type="unfinished"></translation>
+        <translation>unverändert</translation>
     </message>
     <message>
         <source>off</source>
-        <translation type="unfinished"></translation>
+        <translation>aus</translation>
     </message>
     <message>
         <source>Time</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeit</translation>
     </message>
     <message>
         <source>How long the step lasts.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wie lange der Schritt dauert.</translation>
     </message>
     <message>
         <source>Strength</source>
-        <translation type="unfinished"></translation>
+        <translation>Stärke</translation>
     </message>
     <message>
         <source>How strongly the output is switched on, in percent.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wie stark der Ausgang eingeschaltet wird, in Prozent.</translation>
     </message>
     <message>
         <source>More outputs</source>
-        <translation type="unfinished"></translation>
+        <translation>Weitere Ausgänge</translation>
     </message>
     <message>
         <source>Further outputs, each with the state that it takes.</source>
-        <translation type="unfinished"></translation>
+        <translation>Weitere Ausgänge, jeder mit dem Zustand, den er annimmt.</translation>
     </message>
     <message>
         <source>Wait only</source>
-        <translation type="unfinished"></translation>
+        <translation>Nur warten</translation>
     </message>
 </context>
 <context>
     <name>flowcharts/stop</name>
     <message>
         <source>Stop</source>
-        <translation type="unfinished"></translation>
+        <translation>Stopp</translation>
     </message>
     <message>
         <source>Starts again</source>
-        <translation type="unfinished"></translation>
+        <translation>Beginnt wieder</translation>
     </message>
     <message>
         <source>Whether the chart begins again from its start.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ob der Plan wieder bei seinem Start beginnt.</translation>
     </message>
     <message>
         <source>Outputs</source>
-        <translation type="unfinished"></translation>
+        <translation>Ausgänge</translation>
     </message>
     <message>
         <source>Whether the outputs stay as they are at the end, or are switched off.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ob die Ausgänge am Ende bleiben, wie sie sind, oder ausgeschaltet werden.</translation>
     </message>
     <message>
         <source>keep</source>
-        <translation type="unfinished"></translation>
+        <translation>behalten</translation>
     </message>
     <message>
         <source>switch off</source>
-        <translation type="unfinished"></translation>
+        <translation>ausschalten</translation>
     </message>
     <message>
         <source>Message</source>
-        <translation type="unfinished"></translation>
+        <translation>Meldung</translation>
     </message>
     <message>
         <source>What is shown to the reader at the end.</source>
-        <translation type="unfinished"></translation>
+        <translation>Was dem Leser am Ende gezeigt wird.</translation>
     </message>
 </context>
 <context>
     <name>flowcharts/terminal</name>
     <message>
         <source>Terminal</source>
-        <translation type="unfinished"></translation>
+        <translation>Klemme</translation>
     </message>
     <message>
         <source>Direction</source>
-        <translation type="unfinished"></translation>
+        <translation>Richtung</translation>
     </message>
     <message>
         <source>Whether the chart comes in or goes out here.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ob der Plan hier hereinkommt oder hinausgeht.</translation>
     </message>
     <message>
         <source>in</source>
-        <translation type="unfinished"></translation>
+        <translation>herein</translation>
     </message>
     <message>
         <source>out</source>
-        <translation type="unfinished"></translation>
+        <translation>hinaus</translation>
     </message>
     <message>
         <source>Arrow shown</source>
-        <translation type="unfinished"></translation>
+        <translation>Pfeil gezeigt</translation>
     </message>
     <message>
         <source>Whether an arrow head is drawn at the terminal.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ob an der Klemme eine Pfeilspitze gezeichnet wird.</translation>
     </message>
 </context>
 <context>
     <name>mechanics/axle</name>
     <message>
         <source>Axle</source>
-        <translation type="unfinished"></translation>
+        <translation>Achse</translation>
     </message>
     <message>
         <source>Diameter</source>
-        <translation type="unfinished"></translation>
+        <translation>Durchmesser</translation>
     </message>
     <message>
         <source>The diameter of the axle.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Durchmesser der Achse.</translation>
     </message>
     <message>
         <source>Runs freely</source>
-        <translation type="unfinished"></translation>
+        <translation>Läuft frei</translation>
     </message>
     <message>
         <source>Whether the wheel turns on the axle rather than with it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ob sich das Rad auf der Achse dreht statt mit ihr.</translation>
     </message>
 </context>
 <context>
     <name>mechanics/belt</name>
     <message>
         <source>Belt</source>
-        <translation type="unfinished"></translation>
+        <translation>Riemen</translation>
     </message>
     <message>
         <source>Crossed</source>
-        <translation type="unfinished"></translation>
+        <translation>Gekreuzt</translation>
     </message>
     <message>
         <source>Whether the belt is crossed, so that the wheels turn against each other.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ob der Riemen gekreuzt ist, sodass sich die Räder gegeneinander drehen.</translation>
     </message>
     <message>
         <source>Toothed</source>
-        <translation type="unfinished"></translation>
+        <translation>Gezahnt</translation>
     </message>
     <message>
         <source>Whether the belt has teeth and cannot slip.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ob der Riemen Zähne hat und nicht rutschen kann.</translation>
     </message>
     <message>
         <source>Material</source>
-        <translation type="unfinished"></translation>
+        <translation>Werkstoff</translation>
     </message>
     <message>
         <source>Rubber that stretches, or cord that does not.</source>
-        <translation type="unfinished"></translation>
+        <translation>Gummi, der sich dehnt, oder Schnur, die es nicht tut.</translation>
     </message>
     <message>
         <source>rubber</source>
-        <translation type="unfinished"></translation>
+        <translation>Gummi</translation>
     </message>
     <message>
         <source>cord</source>
-        <translation type="unfinished"></translation>
+        <translation>Schnur</translation>
     </message>
 </context>
 <context>
     <name>mechanics/cam</name>
     <message>
         <source>Cam</source>
-        <translation type="unfinished"></translation>
+        <translation>Nocken</translation>
     </message>
     <message>
         <source>Profile</source>
-        <translation type="unfinished"></translation>
+        <translation>Profil</translation>
     </message>
     <message>
         <source>The outline of the cam.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Umriss des Nockens.</translation>
     </message>
     <message>
         <source>Pear</source>
-        <translation type="unfinished"></translation>
+        <translation>Birne</translation>
     </message>
     <message>
         <source>Eccentric circle</source>
-        <translation type="unfinished"></translation>
+        <translation>Exzenterkreis</translation>
     </message>
     <message>
         <source>Snail</source>
-        <translation type="unfinished"></translation>
+        <translation>Schnecke</translation>
     </message>
     <message>
         <source>Lift</source>
-        <translation type="unfinished"></translation>
+        <translation>Hub</translation>
     </message>
     <message>
         <source>How far the cam moves its follower.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wie weit der Nocken seinen Stößel bewegt.</translation>
     </message>
     <message>
         <source>Return spring</source>
-        <translation type="unfinished"></translation>
+        <translation>Rückstellfeder</translation>
     </message>
     <message>
         <source>Whether a spring presses the follower on the cam.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ob eine Feder den Stößel auf den Nocken drückt.</translation>
     </message>
     <message>
         <source>Follower</source>
-        <translation type="unfinished"></translation>
+        <translation>Stößel</translation>
     </message>
     <message>
         <source>A flat foot, or a roller.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein flacher Fuß oder eine Rolle.</translation>
     </message>
     <message>
         <source>flat</source>
-        <translation type="unfinished"></translation>
+        <translation>flach</translation>
     </message>
     <message>
         <source>roller</source>
-        <translation type="unfinished"></translation>
+        <translation>Rolle</translation>
     </message>
     <message>
         <source>Lift table</source>
-        <translation type="unfinished"></translation>
+        <translation>Hubtabelle</translation>
     </message>
     <message>
         <source>The lift in millimetres at some angles in degrees.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Hub in Millimetern bei einigen Winkeln in Grad.</translation>
     </message>
 </context>
 <context>
     <name>mechanics/gear</name>
     <message>
         <source>Gear</source>
-        <translation type="unfinished"></translation>
+        <translation>Zahnrad</translation>
     </message>
     <message>
         <source>Teeth</source>
-        <translation type="unfinished"></translation>
+        <translation>Zähne</translation>
     </message>
     <message>
         <source>The number of teeth.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Zahl der Zähne.</translation>
     </message>
     <message>
         <source>Module</source>
-        <translation type="unfinished"></translation>
+        <translation>Modul</translation>
     </message>
     <message>
         <source>The pitch diameter divided by the number of teeth; gears that mesh have the same.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Teilkreisdurchmesser geteilt durch die Zahl der Zähne; Räder, die ineinandergreifen, haben denselben.</translation>
     </message>
     <message>
         <source>Pressure angle</source>
-        <translation type="unfinished"></translation>
+        <translation>Eingriffswinkel</translation>
     </message>
     <message>
         <source>The angle at which the teeth press on each other.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Winkel, in dem die Zähne aufeinander drücken.</translation>
     </message>
     <message>
         <source>Face width</source>
-        <translation type="unfinished"></translation>
+        <translation>Zahnbreite</translation>
     </message>
     <message>
         <source>How wide the teeth are along the axle.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wie breit die Zähne entlang der Achse sind.</translation>
     </message>
     <message>
         <source>Teeth drawn</source>
-        <translation type="unfinished"></translation>
+        <translation>Zähne gezeichnet</translation>
     </message>
     <message>
         <source>Whether the teeth are drawn, or only the pitch circle.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ob die Zähne gezeichnet werden oder nur der Teilkreis.</translation>
     </message>
     <message>
         <source>Slanting teeth</source>
-        <translation type="unfinished"></translation>
+        <translation>Schräge Zähne</translation>
     </message>
     <message>
         <source>Whether the teeth stand aslant to the axle.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ob die Zähne schräg zur Achse stehen.</translation>
     </message>
     <message>
         <source>Hand</source>
-        <translation type="unfinished"></translation>
+        <translation>Steigung</translation>
     </message>
     <message>
         <source>Which way slanting teeth lean.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wohin sich schräge Zähne neigen.</translation>
     </message>
     <message>
         <source>right</source>
-        <translation type="unfinished"></translation>
+        <translation>rechts</translation>
     </message>
     <message>
         <source>left</source>
-        <translation type="unfinished"></translation>
+        <translation>links</translation>
     </message>
     <message>
         <source>Meshes with</source>
-        <translation type="unfinished"></translation>
+        <translation>Greift ein in</translation>
     </message>
     <message>
         <source>The gear whose teeth these ones drive.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Zahnrad, dessen Zähne von diesen angetrieben werden.</translation>
     </message>
     <message>
         <source>Hub offset</source>
-        <translation type="unfinished"></translation>
+        <translation>Versatz der Nabe</translation>
     </message>
     <message>
         <source>How far the hub is from the middle of the wheel.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wie weit die Nabe von der Mitte des Rads entfernt ist.</translation>
     </message>
 </context>
 <context>
     <name>mechanics/machine-part</name>
     <message>
         <source>Machine part</source>
-        <translation type="unfinished"></translation>
+        <translation>Maschinenteil</translation>
     </message>
     <message>
         <source>Material</source>
-        <translation type="unfinished"></translation>
+        <translation>Werkstoff</translation>
     </message>
     <message>
         <source>What the part is made of.</source>
-        <translation type="unfinished"></translation>
+        <translation>Woraus das Teil gemacht ist.</translation>
     </message>
     <message>
         <source>Acetal</source>
-        <translation type="unfinished"></translation>
+        <translation>Acetal</translation>
     </message>
     <message>
         <source>Nylon</source>
-        <translation type="unfinished"></translation>
+        <translation>Nylon</translation>
     </message>
     <message>
         <source>Wood</source>
-        <translation type="unfinished"></translation>
+        <translation>Holz</translation>
     </message>
     <message>
         <source>Brass</source>
-        <translation type="unfinished"></translation>
+        <translation>Messing</translation>
     </message>
     <message>
         <source>Steel</source>
-        <translation type="unfinished"></translation>
+        <translation>Stahl</translation>
     </message>
     <message>
         <source>Mass</source>
-        <translation type="unfinished"></translation>
+        <translation>Masse</translation>
     </message>
     <message>
         <source>The mass of the part.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Masse des Teils.</translation>
     </message>
     <message>
         <source>Held fast</source>
-        <translation type="unfinished"></translation>
+        <translation>Festgehalten</translation>
     </message>
     <message>
         <source>Whether the part is fixed to the base and cannot turn.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ob das Teil auf der Grundplatte festsitzt und sich nicht drehen kann.</translation>
     </message>
     <message>
         <source>Direction shown</source>
-        <translation type="unfinished"></translation>
+        <translation>Richtung gezeigt</translation>
     </message>
     <message>
         <source>Whether an arrow shows the way the part turns.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ob ein Pfeil zeigt, wie herum sich das Teil dreht.</translation>
     </message>
     <message>
         <source>Speed shown</source>
-        <translation type="unfinished"></translation>
+        <translation>Drehzahl gezeigt</translation>
     </message>
     <message>
         <source>Whether the turning speed is written on the part.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ob die Drehzahl auf dem Teil steht.</translation>
     </message>
     <message>
         <source>Tint</source>
-        <translation type="unfinished"></translation>
+        <translation>Farbton</translation>
     </message>
     <message>
         <source>The colour of the part.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Farbe des Teils.</translation>
     </message>
 </context>
 <context>
     <name>mechanics/motor</name>
     <message>
         <source>Motor</source>
-        <translation type="unfinished"></translation>
+        <translation>Motor</translation>
     </message>
     <message>
         <source>Runs at the start</source>
-        <translation type="unfinished"></translation>
+        <translation>Läuft beim Start</translation>
     </message>
     <message>
         <source>Whether the motor runs when the model starts.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ob der Motor läuft, wenn das Modell startet.</translation>
     </message>
     <message>
         <source>Direction</source>
-        <translation type="unfinished"></translation>
+        <translation>Richtung</translation>
     </message>
     <message>
         <source>Which way the motor turns.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wie herum sich der Motor dreht.</translation>
     </message>
     <message>
         <source>clockwise</source>
-        <translation type="unfinished"></translation>
+        <translation>im Uhrzeigersinn</translation>
     </message>
     <message>
         <source>counterclockwise</source>
-        <translation type="unfinished"></translation>
+        <translation>gegen den Uhrzeigersinn</translation>
     </message>
     <message>
         <source>With gear box</source>
-        <translation type="unfinished"></translation>
+        <translation>Mit Getriebe</translation>
     </message>
     <message>
         <source>Whether a gear box is built in.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ob ein Getriebe eingebaut ist.</translation>
     </message>
     <message>
         <source>Gear box ratio</source>
-        <translation type="unfinished"></translation>
+        <translation>Übersetzung</translation>
     </message>
     <message>
         <source>How many turns of the motor make one turn of the shaft.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wie viele Umdrehungen des Motors eine Umdrehung der Welle ergeben.</translation>
     </message>
     <message>
         <source>Supply voltage</source>
-        <translation type="unfinished"></translation>
+        <translation>Versorgungsspannung</translation>
     </message>
     <message>
         <source>The voltage for which the motor is made.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Spannung, für die der Motor gebaut ist.</translation>
     </message>
     <message>
         <source>Speed</source>
-        <translation type="unfinished"></translation>
+        <translation>Geschwindigkeit</translation>
     </message>
     <message>
         <source>How fast the motor turns without load.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wie schnell sich der Motor ohne Last dreht.</translation>
     </message>
     <message>
         <source>Output name</source>
-        <translation type="unfinished"></translation>
+        <translation>Ausgangsname</translation>
     </message>
     <message>
         <source>The name by which flowcharts switch the motor; empty when none does.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Name, unter dem Ablaufpläne den Motor schalten; leer, wenn keiner es tut.</translation>
     </message>
     <message>
         <source>Level now</source>
-        <translation type="unfinished"></translation>
+        <translation>Pegel jetzt</translation>
     </message>
     <message>
         <source>How strongly a running flowchart has switched the motor on, in percent; -1 while none has.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wie stark ein laufender Ablaufplan den Motor eingeschaltet hat, in Prozent; -1, solange keiner es tat.</translation>
     </message>
     <message>
         <source>Powered by</source>
-        <translation type="unfinished"></translation>
+        <translation>Versorgt von</translation>
     </message>
     <message>
         <source>The battery that drives the motor.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Batterie, die den Motor antreibt.</translation>
     </message>
 </context>
 <context>
     <name>mechanics/pulley</name>
     <message>
         <source>Pulley</source>
-        <translation type="unfinished"></translation>
+        <translation>Riemenscheibe</translation>
     </message>
     <message>
         <source>Groove diameter</source>
-        <translation type="unfinished"></translation>
+        <translation>Rillendurchmesser</translation>
     </message>
     <message>
         <source>The diameter at which the belt runs.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Durchmesser, auf dem der Riemen läuft.</translation>
     </message>
     <message>
         <source>Groove</source>
-        <translation type="unfinished"></translation>
+        <translation>Rille</translation>
     </message>
     <message>
         <source>The shape of the groove.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Form der Rille.</translation>
     </message>
     <message>
         <source>round</source>
-        <translation type="unfinished"></translation>
+        <translation>rund</translation>
     </message>
     <message>
         <source>V</source>
-        <translation type="unfinished"></translation>
+        <translation>V</translation>
     </message>
     <message>
         <source>With rims</source>
-        <translation type="unfinished"></translation>
+        <translation>Mit Rändern</translation>
     </message>
     <message>
         <source>Whether rims keep the belt in the groove.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ob Ränder den Riemen in der Rille halten.</translation>
     </message>
     <message>
         <source>Belt slips</source>
-        <translation type="unfinished"></translation>
+        <translation>Riemen rutscht</translation>
     </message>
     <message>
         <source>Whether the belt may slip when the load is too great.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ob der Riemen rutschen kann, wenn die Last zu groß ist.</translation>
     </message>
     <message>
         <source>Steps</source>
-        <translation type="unfinished"></translation>
+        <translation>Stufen</translation>
     </message>
     <message>
         <source>The groove diameters of a stepped pulley in metres, the greatest first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Rillendurchmesser einer Stufenscheibe in Metern, der größte zuerst.</translation>
     </message>
 </context>
 <context>
     <name>mechanics/shaft</name>
     <message>
         <source>Shaft</source>
-        <translation type="unfinished"></translation>
+        <translation>Welle</translation>
     </message>
     <message>
         <source>Diameter</source>
-        <translation type="unfinished"></translation>
+        <translation>Durchmesser</translation>
     </message>
     <message>
         <source>The diameter of the shaft.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Durchmesser der Welle.</translation>
     </message>
     <message>
         <source>Hollow</source>
-        <translation type="unfinished"></translation>
+        <translation>Hohl</translation>
     </message>
     <message>
         <source>Whether the shaft is a tube.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ob die Welle ein Rohr ist.</translation>
     </message>
     <message>
         <source>With key</source>
-        <translation type="unfinished"></translation>
+        <translation>Mit Passfeder</translation>
     </message>
     <message>
         <source>Whether a key makes the wheels turn with the shaft.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ob eine Passfeder die Räder mit der Welle drehen lässt.</translation>
     </message>
     <message>
         <source>Ends</source>
-        <translation type="unfinished"></translation>
+        <translation>Enden</translation>
     </message>
     <message>
         <source>Plain ends, or rounded ones.</source>
-        <translation type="unfinished"></translation>
+        <translation>Glatte oder runde Enden.</translation>
     </message>
     <message>
         <source>plain</source>
-        <translation type="unfinished"></translation>
+        <translation>glatt</translation>
     </message>
     <message>
         <source>rounded</source>
-        <translation type="unfinished"></translation>
+        <translation>rund</translation>
     </message>
     <message>
         <source>Bearings</source>
-        <translation type="unfinished"></translation>
+        <translation>Lager</translation>
     </message>
     <message>
         <source>Where the shaft is held, seen from its centre.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wo die Welle gehalten wird, von ihrer Mitte aus gesehen.</translation>
     </message>
     <message>
         <source>Twist</source>
-        <translation type="unfinished"></translation>
+        <translation>Verdrehung</translation>
     </message>
     <message>
         <source>How far the shaft twists under full load.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wie weit sich die Welle unter voller Last verdreht.</translation>
     </message>
 </context>
 </TS>
