@@ -5,1364 +5,1364 @@
     <name>BatteryForm</name>
     <message>
         <source>Battery</source>
-        <translation type="unfinished"></translation>
+        <translation>Pile</translation>
     </message>
     <message>
         <source>The voltage of the fresh battery.</source>
-        <translation type="unfinished"></translation>
+        <translation>La tension de la pile neuve.</translation>
     </message>
     <message>
         <source>V</source>
-        <translation type="unfinished"></translation>
+        <translation>V</translation>
     </message>
     <message>
         <source>How many cells the battery is made of.</source>
-        <translation type="unfinished"></translation>
+        <translation>De combien de cellules la pile est faite.</translation>
     </message>
     <message>
         <source>The resistance of the battery itself.</source>
-        <translation type="unfinished"></translation>
+        <translation>La résistance de la pile elle-même.</translation>
     </message>
     <message>
         <source>The unit shown; a click offers others.</source>
-        <translation type="unfinished"></translation>
+        <translation>L&apos;unité montrée ; un clic en propose d&apos;autres.</translation>
     </message>
     <message>
         <source>How wires are joined to the battery.</source>
-        <translation type="unfinished"></translation>
+        <translation>Comment les fils sont reliés à la pile.</translation>
     </message>
     <message>
         <source>Draws the signs of the poles at the pins.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dessine les signes des pôles aux broches.</translation>
     </message>
     <message>
         <source>Show &amp;plus and minus</source>
-        <translation type="unfinished"></translation>
+        <translation>Montrer &amp;plus et moins</translation>
     </message>
     <message>
         <source>The battery can be charged again.</source>
-        <translation type="unfinished"></translation>
+        <translation>La pile peut être rechargée.</translation>
     </message>
     <message>
         <source>Re&amp;chargeable</source>
-        <translation type="unfinished"></translation>
+        <translation>Re&amp;chargeable</translation>
     </message>
     <message>
         <source>Case and pins</source>
-        <translation type="unfinished"></translation>
+        <translation>Boîtier et broches</translation>
     </message>
     <message>
         <source>Shows the cells inside the case.</source>
-        <translation type="unfinished"></translation>
+        <translation>Montre les cellules à l&apos;intérieur du boîtier.</translation>
     </message>
     <message>
         <source>See-&amp;through case</source>
-        <translation type="unfinished"></translation>
+        <translation>Boîtier &amp;transparent</translation>
     </message>
     <message>
         <source>Writes the name of each pin beside it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Écrit le nom de chaque broche à côté.</translation>
     </message>
     <message>
         <source>&amp;Names at the pins</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Noms aux broches</translation>
     </message>
 </context>
 <context>
     <name>BeltForm</name>
     <message>
         <source>Belt</source>
-        <translation type="unfinished"></translation>
+        <translation>Courroie</translation>
     </message>
     <message>
         <source>The wheels turn against each other.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les roues tournent en sens contraires.</translation>
     </message>
     <message>
         <source>&amp;Crossed</source>
-        <translation type="unfinished"></translation>
+        <translation>C&amp;roisée</translation>
     </message>
     <message>
         <source>The belt cannot slip.</source>
-        <translation type="unfinished"></translation>
+        <translation>La courroie ne peut pas glisser.</translation>
     </message>
     <message>
         <source>&amp;Toothed</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Crantée</translation>
     </message>
     <message>
         <source>A cord does not stretch; otherwise the belt is made of rubber.</source>
-        <translation type="unfinished"></translation>
+        <translation>Une corde ne s&apos;étire pas ; sinon la courroie est en caoutchouc.</translation>
     </message>
     <message>
         <source>C&amp;ord</source>
-        <translation type="unfinished"></translation>
+        <translation>C&amp;orde</translation>
     </message>
 </context>
 <context>
     <name>BlockForm</name>
     <message>
         <source>Logic block</source>
-        <translation type="unfinished"></translation>
+        <translation>Bloc logique</translation>
     </message>
     <message>
         <source>Logic</source>
-        <translation type="unfinished"></translation>
+        <translation>Logique</translation>
     </message>
     <message>
         <source>How the block works out its output from its inputs.</source>
-        <translation type="unfinished"></translation>
+        <translation>Comment le bloc calcule sa sortie à partir de ses entrées.</translation>
     </message>
     <message>
         <source>How long the output takes to follow the inputs.</source>
-        <translation type="unfinished"></translation>
+        <translation>Combien de temps la sortie met à suivre les entrées.</translation>
     </message>
     <message>
         <source>The unit shown; a click offers others.</source>
-        <translation type="unfinished"></translation>
+        <translation>L&apos;unité montrée ; un clic en propose d&apos;autres.</translation>
     </message>
     <message>
         <source>Turns the output round.</source>
-        <translation type="unfinished"></translation>
+        <translation>Inverse la sortie.</translation>
     </message>
     <message>
         <source>&amp;Inverted output</source>
-        <translation type="unfinished"></translation>
+        <translation>Sortie &amp;inversée</translation>
     </message>
     <message>
         <source>Draws the truth table below the block.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dessine la table de vérité sous le bloc.</translation>
     </message>
     <message>
         <source>Show the &amp;truth table</source>
-        <translation type="unfinished"></translation>
+        <translation>Montrer la &amp;table de vérité</translation>
     </message>
     <message>
         <source>Drawing</source>
-        <translation type="unfinished"></translation>
+        <translation>Dessin</translation>
     </message>
     <message>
         <source>Draws the curved shape instead of the box.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dessine la forme courbe au lieu du rectangle.</translation>
     </message>
     <message>
         <source>&amp;American symbol</source>
-        <translation type="unfinished"></translation>
+        <translation>Symbole &amp;américain</translation>
     </message>
     <message>
         <source>Writes the name of each pin beside it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Écrit le nom de chaque broche à côté.</translation>
     </message>
     <message>
         <source>&amp;Names at the pins</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Noms aux broches</translation>
     </message>
     <message>
         <source>Truth table</source>
-        <translation type="unfinished"></translation>
+        <translation>Table de vérité</translation>
     </message>
     <message>
         <source>The output for every combination of the inputs.</source>
-        <translation type="unfinished"></translation>
+        <translation>La sortie pour chaque combinaison des entrées.</translation>
     </message>
     <message>
         <source>Pins</source>
-        <translation type="unfinished"></translation>
+        <translation>Broches</translation>
     </message>
     <message>
         <source>The pins of the block. The fields below belong to the selected ones.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les broches du bloc. Les champs ci-dessous appartiennent aux broches sélectionnées.</translation>
     </message>
     <message>
         <source>Which pole of the supply belongs to the pin.</source>
-        <translation type="unfinished"></translation>
+        <translation>Quel pôle de l&apos;alimentation appartient à la broche.</translation>
     </message>
     <message>
         <source>Writes the name of the pin beside it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Écrit le nom de la broche à côté.</translation>
     </message>
     <message>
         <source>Name beside the pin</source>
-        <translation type="unfinished"></translation>
+        <translation>Nom à côté de la broche</translation>
     </message>
     <message>
         <source>Flowchart block</source>
-        <translation type="unfinished"></translation>
+        <translation>Bloc d&apos;organigramme</translation>
     </message>
     <message>
         <source>Block</source>
-        <translation type="unfinished"></translation>
+        <translation>Bloc</translation>
     </message>
     <message>
         <source>A remark for the readers of the chart.</source>
-        <translation type="unfinished"></translation>
+        <translation>Une remarque pour les lecteurs de l&apos;organigramme.</translation>
     </message>
     <message>
         <source>The colour inside the block.</source>
-        <translation type="unfinished"></translation>
+        <translation>La couleur à l&apos;intérieur du bloc.</translation>
     </message>
     <message>
         <source>Shows where the chart is.</source>
-        <translation type="unfinished"></translation>
+        <translation>Montre où en est l&apos;organigramme.</translation>
     </message>
     <message>
         <source>Lights &amp;up while it runs</source>
-        <translation type="unfinished"></translation>
+        <translation>S&apos;&amp;allume pendant l&apos;exécution</translation>
     </message>
     <message>
         <source>Writes the remark beside the block.</source>
-        <translation type="unfinished"></translation>
+        <translation>Écrit la remarque à côté du bloc.</translation>
     </message>
     <message>
         <source>Show the co&amp;mment</source>
-        <translation type="unfinished"></translation>
+        <translation>Montrer la re&amp;marque</translation>
     </message>
     <message>
         <source>The chart halts before this block until it is stepped on.</source>
-        <translation type="unfinished"></translation>
+        <translation>L&apos;organigramme s&apos;arrête avant ce bloc jusqu&apos;au pas suivant.</translation>
     </message>
     <message>
         <source>Stops &amp;here</source>
-        <translation type="unfinished"></translation>
+        <translation>S&apos;arrête &amp;ici</translation>
     </message>
     <message>
         <source>The chart will halt before this block each time. Stop here?</source>
-        <translation type="unfinished"></translation>
+        <translation>L&apos;organigramme s&apos;arrêtera chaque fois avant ce bloc. S&apos;arrêter ici ?</translation>
     </message>
 </context>
 <context>
     <name>BuzzerForm</name>
     <message>
         <source>Buzzer</source>
-        <translation type="unfinished"></translation>
+        <translation>Vibreur</translation>
     </message>
     <message>
         <source>Sound</source>
-        <translation type="unfinished"></translation>
+        <translation>Son</translation>
     </message>
     <message>
         <source>The buzzer sounds as soon as the model starts.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le vibreur sonne dès que le modèle démarre.</translation>
     </message>
     <message>
         <source>&amp;Sounds at the start</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Sonne au départ</translation>
     </message>
     <message>
         <source>The sound goes on and off.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le son va et vient.</translation>
     </message>
     <message>
         <source>&amp;Pulsed</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Intermittent</translation>
     </message>
     <message>
         <source>&amp;Loudness:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Volume :</translation>
     </message>
     <message>
         <source>Sounds loudly while pressed in, softly otherwise.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sonne fort quand il est enfoncé, doucement sinon.</translation>
     </message>
     <message>
         <source>Loud</source>
-        <translation type="unfinished"></translation>
+        <translation>Fort</translation>
     </message>
     <message>
         <source>How high the tone is.</source>
-        <translation type="unfinished"></translation>
+        <translation>La hauteur du son.</translation>
     </message>
     <message>
         <source>The unit shown; a click offers others.</source>
-        <translation type="unfinished"></translation>
+        <translation>L&apos;unité montrée ; un clic en propose d&apos;autres.</translation>
     </message>
     <message>
         <source>Looks</source>
-        <translation type="unfinished"></translation>
+        <translation>Apparence</translation>
     </message>
     <message>
         <source>The picture that stands for the sound.</source>
-        <translation type="unfinished"></translation>
+        <translation>L&apos;image qui représente le son.</translation>
     </message>
     <message>
         <source>Pictures shown in turn while the buzzer sounds.</source>
-        <translation type="unfinished"></translation>
+        <translation>Images montrées tour à tour pendant que le vibreur sonne.</translation>
     </message>
 </context>
 <context>
     <name>CamForm</name>
     <message>
         <source>Cam</source>
-        <translation type="unfinished"></translation>
+        <translation>Came</translation>
     </message>
     <message>
         <source>Follower</source>
-        <translation type="unfinished"></translation>
+        <translation>Poussoir</translation>
     </message>
     <message>
         <source>How far the cam moves its follower.</source>
-        <translation type="unfinished"></translation>
+        <translation>De combien la came déplace son poussoir.</translation>
     </message>
     <message>
         <source>The unit shown; a click offers others.</source>
-        <translation type="unfinished"></translation>
+        <translation>L&apos;unité montrée ; un clic en propose d&apos;autres.</translation>
     </message>
     <message>
         <source>The follower ends in a roller; otherwise in a flat foot.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le poussoir se termine par un galet ; sinon par un pied plat.</translation>
     </message>
     <message>
         <source>&amp;Roller</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Galet</translation>
     </message>
     <message>
         <source>A spring presses the follower on the cam.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un ressort presse le poussoir sur la came.</translation>
     </message>
     <message>
         <source>Return &amp;spring</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ressort de rappel</translation>
     </message>
     <message>
         <source>Profile</source>
-        <translation type="unfinished"></translation>
+        <translation>Profil</translation>
     </message>
     <message>
         <source>The outline of the cam.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le contour de la came.</translation>
     </message>
 </context>
 <context>
     <name>CollectionsForm</name>
     <message>
         <source>Collections</source>
-        <translation type="unfinished"></translation>
+        <translation>Collections</translation>
     </message>
     <message>
         <source>Subparts</source>
-        <translation type="unfinished"></translation>
+        <translation>Sous-pièces</translation>
     </message>
     <message>
         <source>Pins</source>
-        <translation type="unfinished"></translation>
+        <translation>Broches</translation>
     </message>
     <message>
         <source>The pins of the part.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les broches de la pièce.</translation>
     </message>
     <message>
         <source>The text shown with the selected pin.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le texte montré avec la broche sélectionnée.</translation>
     </message>
     <message>
         <source>Whether the selected pin is seen.</source>
-        <translation type="unfinished"></translation>
+        <translation>Si la broche sélectionnée est visible.</translation>
     </message>
     <message>
         <source>Visible</source>
-        <translation type="unfinished"></translation>
+        <translation>Visible</translation>
     </message>
     <message>
         <source>Controls</source>
-        <translation type="unfinished"></translation>
+        <translation>Commandes</translation>
     </message>
     <message>
         <source>The control whose place stands below.</source>
-        <translation type="unfinished"></translation>
+        <translation>La commande dont l&apos;endroit est donné dessous.</translation>
     </message>
     <message>
         <source>Where the chosen control is.</source>
-        <translation type="unfinished"></translation>
+        <translation>Où se trouve la commande choisie.</translation>
     </message>
     <message>
         <source>Resources</source>
-        <translation type="unfinished"></translation>
+        <translation>Ressources</translation>
     </message>
     <message>
         <source>One picture.</source>
-        <translation type="unfinished"></translation>
+        <translation>Une image.</translation>
     </message>
     <message>
         <source>One of a few resources.</source>
-        <translation type="unfinished"></translation>
+        <translation>Une ressource parmi quelques-unes.</translation>
     </message>
     <message>
         <source>Any number of pictures.</source>
-        <translation type="unfinished"></translation>
+        <translation>Autant d&apos;images que l&apos;on veut.</translation>
     </message>
     <message>
         <source>Values</source>
-        <translation type="unfinished"></translation>
+        <translation>Valeurs</translation>
     </message>
     <message>
         <source>Keys and values.</source>
-        <translation type="unfinished"></translation>
+        <translation>Clés et valeurs.</translation>
     </message>
     <message>
         <source>The font of a text.</source>
-        <translation type="unfinished"></translation>
+        <translation>La police d&apos;un texte.</translation>
     </message>
     <message>
         <source>Links</source>
-        <translation type="unfinished"></translation>
+        <translation>Liens</translation>
     </message>
     <message>
         <source>A number that can follow another.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un nombre qui peut en suivre un autre.</translation>
     </message>
     <message>
         <source>What the level can follow.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce que le niveau peut suivre.</translation>
     </message>
 </context>
 <context>
     <name>ComponentForm</name>
     <message>
         <source>Component</source>
-        <translation type="unfinished"></translation>
+        <translation>Composant</translation>
     </message>
     <message>
         <source>Label and state</source>
-        <translation type="unfinished"></translation>
+        <translation>Étiquette et état</translation>
     </message>
     <message>
         <source>Letters and a number, for example R1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Des lettres et un nombre, par exemple R1.</translation>
     </message>
     <message>
         <source>The name by which flowcharts switch the part; empty when none does.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le nom sous lequel les organigrammes commutent la pièce ; vide si aucun ne le fait.</translation>
     </message>
     <message>
         <source>Written beside the part</source>
-        <translation type="unfinished"></translation>
+        <translation>Écrit à côté de la pièce</translation>
     </message>
     <message>
         <source>Writes the reference, such as R1, beside the part.</source>
-        <translation type="unfinished"></translation>
+        <translation>Écrit le repère, comme R1, à côté de la pièce.</translation>
     </message>
     <message>
         <source>&amp;Reference</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Repère</translation>
     </message>
     <message>
         <source>Writes the main value, such as 330 Ω, beside the part.</source>
-        <translation type="unfinished"></translation>
+        <translation>Écrit la valeur principale, comme 330 Ω, à côté de la pièce.</translation>
     </message>
     <message>
         <source>Val&amp;ue</source>
-        <translation type="unfinished"></translation>
+        <translation>Val&amp;eur</translation>
     </message>
     <message>
         <source>Where the label stands, seen from the part.</source>
-        <translation type="unfinished"></translation>
+        <translation>Où se trouve l&apos;étiquette, vue de la pièce.</translation>
     </message>
     <message>
         <source>Place of the label</source>
-        <translation type="unfinished"></translation>
+        <translation>Place de l&apos;étiquette</translation>
     </message>
     <message>
         <source>Above</source>
-        <translation type="unfinished"></translation>
+        <translation>Au-dessus</translation>
     </message>
     <message>
         <source>Below</source>
-        <translation type="unfinished"></translation>
+        <translation>Au-dessous</translation>
     </message>
     <message>
         <source>On the left</source>
-        <translation type="unfinished"></translation>
+        <translation>À gauche</translation>
     </message>
     <message>
         <source>On the right</source>
-        <translation type="unfinished"></translation>
+        <translation>À droite</translation>
     </message>
     <message>
         <source>A broken part lets no current through. Learners can look for the fault.</source>
-        <translation type="unfinished"></translation>
+        <translation>Une pièce en panne ne laisse passer aucun courant. Les élèves peuvent chercher la panne.</translation>
     </message>
     <message>
         <source>Brok&amp;en</source>
-        <translation type="unfinished"></translation>
+        <translation>En pa&amp;nne</translation>
     </message>
     <message>
         <source>A broken part lets no current through. Break it?</source>
-        <translation type="unfinished"></translation>
+        <translation>Une pièce en panne ne laisse passer aucun courant. La mettre en panne ?</translation>
     </message>
 </context>
 <context>
     <name>ConnectionForm</name>
     <message>
         <source>Connection</source>
-        <translation type="unfinished"></translation>
+        <translation>Liaison</translation>
     </message>
     <message>
         <source>Line</source>
-        <translation type="unfinished"></translation>
+        <translation>Trait</translation>
     </message>
     <message>
         <source>How thick the line is drawn.</source>
-        <translation type="unfinished"></translation>
+        <translation>L&apos;épaisseur du trait.</translation>
     </message>
     <message>
         <source>The unit shown; a click offers others.</source>
-        <translation type="unfinished"></translation>
+        <translation>L&apos;unité montrée ; un clic en propose d&apos;autres.</translation>
     </message>
     <message>
         <source>The colour of the line.</source>
-        <translation type="unfinished"></translation>
+        <translation>La couleur du trait.</translation>
     </message>
     <message>
         <source>General</source>
-        <translation type="unfinished"></translation>
+        <translation>Général</translation>
     </message>
     <message>
         <source>A short name without blanks by which other things refer to it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un nom court sans espaces par lequel les autres choses désignent la pièce.</translation>
     </message>
     <message>
         <source>The text shown with it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le texte montré avec elle.</translation>
     </message>
     <message>
         <source>Parts that are not visible still work, but the reader does not see them.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les pièces invisibles fonctionnent encore, mais le lecteur ne les voit pas.</translation>
     </message>
     <message>
         <source>&amp;Visible while the model runs</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Visible pendant l&apos;exécution du modèle</translation>
     </message>
 </context>
 <context>
     <name>DecisionForm</name>
     <message>
         <source>Decision</source>
-        <translation type="unfinished"></translation>
+        <translation>Décision</translation>
     </message>
     <message>
         <source>The output name of the switch or sensor that is asked.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le nom de sortie de l&apos;interrupteur ou du capteur interrogé.</translation>
     </message>
     <message>
         <source>What is asked about the input.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce qui est demandé sur l&apos;entrée.</translation>
     </message>
     <message>
         <source>The number that the input is compared with.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le nombre auquel l&apos;entrée est comparée.</translation>
     </message>
     <message>
         <source>Goes on at the right when the answer is yes; otherwise downwards.</source>
-        <translation type="unfinished"></translation>
+        <translation>Continue à droite quand la réponse est oui ; sinon vers le bas.</translation>
     </message>
     <message>
         <source>&amp;Yes branch to the right</source>
-        <translation type="unfinished"></translation>
+        <translation>Branche &amp;oui à droite</translation>
     </message>
     <message>
         <source>The chart waits here.</source>
-        <translation type="unfinished"></translation>
+        <translation>L&apos;organigramme attend ici.</translation>
     </message>
     <message>
         <source>&amp;Asks until the answer is yes</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Demande jusqu&apos;à ce que la réponse soit oui</translation>
     </message>
     <message>
         <source>Writes Yes and No at the branches.</source>
-        <translation type="unfinished"></translation>
+        <translation>Écrit Oui et Non aux branches.</translation>
     </message>
     <message>
         <source>&amp;Write the answers</source>
-        <translation type="unfinished"></translation>
+        <translation>É&amp;crire les réponses</translation>
     </message>
 </context>
 <context>
     <name>ElementForm</name>
     <message>
         <source>Element</source>
-        <translation type="unfinished"></translation>
+        <translation>Élément</translation>
     </message>
     <message>
         <source>General</source>
-        <translation type="unfinished"></translation>
+        <translation>Général</translation>
     </message>
     <message>
         <source>A short name without blanks by which other things refer to it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un nom court sans espaces par lequel les autres choses désignent la pièce.</translation>
     </message>
     <message>
         <source>The text shown with it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le texte montré avec elle.</translation>
     </message>
     <message>
         <source>Where the centre is.</source>
-        <translation type="unfinished"></translation>
+        <translation>Où est le centre.</translation>
     </message>
     <message>
         <source>The unit shown; a click offers others.</source>
-        <translation type="unfinished"></translation>
+        <translation>L&apos;unité montrée ; un clic en propose d&apos;autres.</translation>
     </message>
     <message>
         <source>Width and height.</source>
-        <translation type="unfinished"></translation>
+        <translation>Largeur et hauteur.</translation>
     </message>
     <message>
         <source>How far it is turned clockwise.</source>
-        <translation type="unfinished"></translation>
+        <translation>De combien il est tourné dans le sens horaire.</translation>
     </message>
     <message>
         <source>Parts that are not visible still work, but the reader does not see them.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les pièces invisibles fonctionnent encore, mais le lecteur ne les voit pas.</translation>
     </message>
     <message>
         <source>&amp;Visible while the model runs</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Visible pendant l&apos;exécution du modèle</translation>
     </message>
 </context>
 <context>
     <name>FlowchartsSpaceForm</name>
     <message>
         <source>Flowcharts</source>
-        <translation type="unfinished"></translation>
+        <translation>Organigrammes</translation>
     </message>
     <message>
         <source>How fast the flowcharts of the space run.</source>
-        <translation type="unfinished"></translation>
+        <translation>À quelle vitesse s&apos;exécutent les organigrammes de l&apos;espace.</translation>
     </message>
 </context>
 <context>
     <name>GalleryForm</name>
     <message>
         <source>Gallery of controls</source>
-        <translation type="unfinished"></translation>
+        <translation>Galerie des commandes</translation>
     </message>
     <message>
         <source>Controls</source>
-        <translation type="unfinished"></translation>
+        <translation>Commandes</translation>
     </message>
     <message>
         <source>Check boxes and buttons</source>
-        <translation type="unfinished"></translation>
+        <translation>Cases et boutons</translation>
     </message>
     <message>
         <source>Checked while the property is true.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cochée tant que la propriété est vraie.</translation>
     </message>
     <message>
         <source>&amp;Switched on</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Allumé</translation>
     </message>
     <message>
         <source>Asks before it writes.</source>
-        <translation type="unfinished"></translation>
+        <translation>Demande avant d&apos;écrire.</translation>
     </message>
     <message>
         <source>Trusted, as&amp;ked first</source>
-        <translation type="unfinished"></translation>
+        <translation>De confiance, a&amp;vec question</translation>
     </message>
     <message>
         <source>Do you really trust this part?</source>
-        <translation type="unfinished"></translation>
+        <translation>Faites-vous vraiment confiance à cette pièce ?</translation>
     </message>
     <message>
         <source>Do you no longer trust this part?</source>
-        <translation type="unfinished"></translation>
+        <translation>Ne faites-vous plus confiance à cette pièce ?</translation>
     </message>
     <message>
         <source>Switches between two words.</source>
-        <translation type="unfinished"></translation>
+        <translation>Alterne entre deux mots.</translation>
     </message>
     <message>
         <source>&amp;Loud</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Fort</translation>
     </message>
     <message>
         <source>The property is true for as long as the button is held down.</source>
-        <translation type="unfinished"></translation>
+        <translation>La propriété est vraie tant que le bouton est maintenu.</translation>
     </message>
     <message>
         <source>Hold &amp;down</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Maintenir</translation>
     </message>
     <message>
         <source>The property is true while the button is pressed in.</source>
-        <translation type="unfinished"></translation>
+        <translation>La propriété est vraie tant que le bouton est enfoncé.</translation>
     </message>
     <message>
         <source>&amp;Press in</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Enfoncer</translation>
     </message>
     <message>
         <source>The same word as the check box above.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le même mot que la case ci-dessus.</translation>
     </message>
     <message>
         <source>L&amp;oud</source>
-        <translation type="unfinished"></translation>
+        <translation>F&amp;ort</translation>
     </message>
     <message>
         <source>Choices</source>
-        <translation type="unfinished"></translation>
+        <translation>Choix</translation>
     </message>
     <message>
         <source>A yes or no in words.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un oui ou non en mots.</translation>
     </message>
     <message>
         <source>Forwards</source>
-        <translation type="unfinished"></translation>
+        <translation>En avant</translation>
     </message>
     <message>
         <source>Backwards</source>
-        <translation type="unfinished"></translation>
+        <translation>En arrière</translation>
     </message>
     <message>
         <source>Pictures and texts in the place of words.</source>
-        <translation type="unfinished"></translation>
+        <translation>Des images et des textes à la place des mots.</translation>
     </message>
     <message>
         <source>Three colours.</source>
-        <translation type="unfinished"></translation>
+        <translation>Trois couleurs.</translation>
     </message>
     <message>
         <source>Whole numbers.</source>
-        <translation type="unfinished"></translation>
+        <translation>Des nombres entiers.</translation>
     </message>
     <message>
         <source>Numbers.</source>
-        <translation type="unfinished"></translation>
+        <translation>Des nombres.</translation>
     </message>
     <message>
         <source>Points.</source>
-        <translation type="unfinished"></translation>
+        <translation>Des points.</translation>
     </message>
     <message>
         <source>Wind</source>
-        <translation type="unfinished"></translation>
+        <translation>Vent</translation>
     </message>
     <message>
         <source>Windy</source>
-        <translation type="unfinished"></translation>
+        <translation>Venteux</translation>
     </message>
     <message>
         <source>Enabled while the weather is windy.</source>
-        <translation type="unfinished"></translation>
+        <translation>Disponible quand le temps est venteux.</translation>
     </message>
     <message>
         <source>Texts</source>
-        <translation type="unfinished"></translation>
+        <translation>Textes</translation>
     </message>
     <message>
         <source>Any text.</source>
-        <translation type="unfinished"></translation>
+        <translation>N&apos;importe quel texte.</translation>
     </message>
     <message>
         <source>A capital letter and a digit; red while it is none.</source>
-        <translation type="unfinished"></translation>
+        <translation>Une majuscule et un chiffre ; rouge tant que ce n&apos;est pas le cas.</translation>
     </message>
     <message>
         <source>A whole number or a sum such as 1900+87.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un nombre entier ou une somme comme 1900+87.</translation>
     </message>
     <message>
         <source>Looks like a link until it is edited.</source>
-        <translation type="unfinished"></translation>
+        <translation>A l&apos;air d&apos;un lien jusqu&apos;à ce qu&apos;on le modifie.</translation>
     </message>
     <message>
         <source>The unit shown; a click offers others.</source>
-        <translation type="unfinished"></translation>
+        <translation>L&apos;unité montrée ; un clic en propose d&apos;autres.</translation>
     </message>
     <message>
         <source>Disabled, because nobody can edit the property.</source>
-        <translation type="unfinished"></translation>
+        <translation>Indisponible, car personne ne peut modifier la propriété.</translation>
     </message>
     <message>
         <source>Numbers</source>
-        <translation type="unfinished"></translation>
+        <translation>Nombres</translation>
     </message>
     <message>
         <source>A whole number; the longer a button is held, the faster it runs.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un nombre entier ; plus un bouton est maintenu, plus il défile vite.</translation>
     </message>
     <message>
         <source>A number in the unit beside it; other units can be typed as well.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un nombre dans l&apos;unité à côté ; d&apos;autres unités peuvent aussi être tapées.</translation>
     </message>
     <message>
         <source>The step follows from the range and the unit.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le pas découle de l&apos;intervalle et de l&apos;unité.</translation>
     </message>
     <message>
         <source>x above y, in the unit beside them.</source>
-        <translation type="unfinished"></translation>
+        <translation>x au-dessus de y, dans l&apos;unité à côté.</translation>
     </message>
     <message>
         <source>A whole number, written while you drag.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un nombre entier, écrit pendant que vous faites glisser.</translation>
     </message>
     <message>
         <source>The range follows the unit beside it.</source>
-        <translation type="unfinished"></translation>
+        <translation>L&apos;intervalle suit l&apos;unité à côté.</translation>
     </message>
     <message>
         <source>Colours</source>
-        <translation type="unfinished"></translation>
+        <translation>Couleurs</translation>
     </message>
     <message>
         <source>Any colour: chosen, typed by name or dropped.</source>
-        <translation type="unfinished"></translation>
+        <translation>N&apos;importe quelle couleur : choisie, tapée par son nom ou déposée.</translation>
     </message>
     <message>
         <source>A button alone, without the system&apos;s dialog.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un bouton seul, sans le dialogue du système.</translation>
     </message>
     <message>
         <source>One of several</source>
-        <translation type="unfinished"></translation>
+        <translation>Un parmi plusieurs</translation>
     </message>
     <message>
         <source>Each button stands for one word.</source>
-        <translation type="unfinished"></translation>
+        <translation>Chaque bouton représente un mot.</translation>
     </message>
     <message>
         <source>Format</source>
-        <translation type="unfinished"></translation>
+        <translation>Format</translation>
     </message>
     <message>
         <source>S&amp;mall</source>
-        <translation type="unfinished"></translation>
+        <translation>Pe&amp;tit</translation>
     </message>
     <message>
         <source>Med&amp;ium</source>
-        <translation type="unfinished"></translation>
+        <translation>Mo&amp;yen</translation>
     </message>
     <message>
         <source>Lar&amp;ge</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Grand</translation>
     </message>
     <message>
         <source>What belongs to this choice is enabled while it is chosen.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce qui va avec ce choix est disponible tant qu&apos;il est choisi.</translation>
     </message>
     <message>
         <source>O&amp;wn width</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Largeur propre</translation>
     </message>
     <message>
         <source>The width of your own format.</source>
-        <translation type="unfinished"></translation>
+        <translation>La largeur de votre propre format.</translation>
     </message>
     <message>
         <source>Groups</source>
-        <translation type="unfinished"></translation>
+        <translation>Groupes</translation>
     </message>
     <message>
         <source>What is in the box is enabled while it is checked.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce qui est dans le cadre est disponible tant qu&apos;il est coché.</translation>
     </message>
     <message>
         <source>Guarded &amp;by</source>
-        <translation type="unfinished"></translation>
+        <translation>Gardé &amp;par</translation>
     </message>
     <message>
         <source>Who keeps watch.</source>
-        <translation type="unfinished"></translation>
+        <translation>Qui monte la garde.</translation>
     </message>
     <message>
         <source>Labels</source>
-        <translation type="unfinished"></translation>
+        <translation>Étiquettes</translation>
     </message>
     <message>
         <source>The text itself.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le texte lui-même.</translation>
     </message>
     <message>
         <source>The number as the spin box above shows it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le nombre tel que le montre le champ ci-dessus.</translation>
     </message>
     <message>
         <source>Both coordinates.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les deux coordonnées.</translation>
     </message>
     <message>
         <source>The colour as documents write it.</source>
-        <translation type="unfinished"></translation>
+        <translation>La couleur telle que les documents l&apos;écrivent.</translation>
     </message>
 </context>
 <context>
     <name>GearForm</name>
     <message>
         <source>Gear</source>
-        <translation type="unfinished"></translation>
+        <translation>Roue dentée</translation>
     </message>
     <message>
         <source>Teeth</source>
-        <translation type="unfinished"></translation>
+        <translation>Dents</translation>
     </message>
     <message>
         <source>The number of teeth.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le nombre de dents.</translation>
     </message>
     <message>
         <source>The angle at which the teeth press on each other.</source>
-        <translation type="unfinished"></translation>
+        <translation>L&apos;angle sous lequel les dents se pressent.</translation>
     </message>
     <message>
         <source>The pitch diameter divided by the number of teeth; gears that mesh have the same.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le diamètre primitif divisé par le nombre de dents ; les roues qui engrènent ont le même.</translation>
     </message>
     <message>
         <source>Module</source>
-        <translation type="unfinished"></translation>
+        <translation>Module</translation>
     </message>
     <message>
         <source>0.5 mm</source>
-        <translation type="unfinished"></translation>
+        <translation>0,5 mm</translation>
     </message>
     <message>
         <source>1 mm</source>
-        <translation type="unfinished"></translation>
+        <translation>1 mm</translation>
     </message>
     <message>
         <source>1.5 mm</source>
-        <translation type="unfinished"></translation>
+        <translation>1,5 mm</translation>
     </message>
     <message>
         <source>2 mm</source>
-        <translation type="unfinished"></translation>
+        <translation>2 mm</translation>
     </message>
     <message>
         <source>Otherwise only the pitch circle is drawn.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sinon seul le cercle primitif est dessiné.</translation>
     </message>
     <message>
         <source>&amp;Draw the teeth</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Dessiner les dents</translation>
     </message>
     <message>
         <source>Slanting teeth run more quietly.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les dents inclinées tournent plus silencieusement.</translation>
     </message>
     <message>
         <source>&amp;Slanting teeth</source>
-        <translation type="unfinished"></translation>
+        <translation>Dents &amp;inclinées</translation>
     </message>
     <message>
         <source>Slanting teeth lean to the left; otherwise to the right.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les dents inclinées penchent à gauche ; sinon à droite.</translation>
     </message>
     <message>
         <source>&amp;Left-handed</source>
-        <translation type="unfinished"></translation>
+        <translation>Pas à &amp;gauche</translation>
     </message>
     <message>
         <source>Wheel</source>
-        <translation type="unfinished"></translation>
+        <translation>Roue</translation>
     </message>
     <message>
         <source>How wide the teeth are along the axle.</source>
-        <translation type="unfinished"></translation>
+        <translation>La largeur des dents le long de l&apos;axe.</translation>
     </message>
     <message>
         <source>The unit shown; a click offers others.</source>
-        <translation type="unfinished"></translation>
+        <translation>L&apos;unité montrée ; un clic en propose d&apos;autres.</translation>
     </message>
     <message>
         <source>How far the hub is from the middle of the wheel.</source>
-        <translation type="unfinished"></translation>
+        <translation>À quelle distance le moyeu est du milieu de la roue.</translation>
     </message>
 </context>
 <context>
     <name>InfoForm</name>
     <message>
         <source>Explanation</source>
-        <translation type="unfinished"></translation>
+        <translation>Explication</translation>
     </message>
     <message>
         <source>Opens the pop-up without a click.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouvre la bulle sans clic.</translation>
     </message>
     <message>
         <source>Opens when the &amp;mouse rests on it</source>
-        <translation type="unfinished"></translation>
+        <translation>S&apos;ouvre quand la &amp;souris s&apos;y pose</translation>
     </message>
     <message>
         <source>Hides the button once its pop-up has been closed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cache le bouton une fois sa bulle fermée.</translation>
     </message>
     <message>
         <source>Goes away &amp;after reading</source>
-        <translation type="unfinished"></translation>
+        <translation>Disparaît &amp;après lecture</translation>
     </message>
 </context>
 <context>
     <name>LedForm</name>
     <message>
         <source>LED</source>
-        <translation type="unfinished"></translation>
+        <translation>LED</translation>
     </message>
     <message>
         <source>Light</source>
-        <translation type="unfinished"></translation>
+        <translation>Léger</translation>
     </message>
     <message>
         <source>The colour of the light.</source>
-        <translation type="unfinished"></translation>
+        <translation>La couleur de la lumière.</translation>
     </message>
     <message>
         <source>How brightly the LED shines, in percent.</source>
-        <translation type="unfinished"></translation>
+        <translation>La luminosité de la LED, en pour cent.</translation>
     </message>
     <message>
         <source>The LED shines as soon as the model starts.</source>
-        <translation type="unfinished"></translation>
+        <translation>La LED brille dès que le modèle démarre.</translation>
     </message>
     <message>
         <source>&amp;Lit at the start</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Allumée au départ</translation>
     </message>
     <message>
         <source>The LED goes on and off by itself.</source>
-        <translation type="unfinished"></translation>
+        <translation>La LED s&apos;allume et s&apos;éteint d&apos;elle-même.</translation>
     </message>
     <message>
         <source>&amp;Blinking</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Clignotante</translation>
     </message>
     <message>
         <source>The time from one flash to the next.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le temps d&apos;un éclat au suivant.</translation>
     </message>
     <message>
         <source>The unit shown; a click offers others.</source>
-        <translation type="unfinished"></translation>
+        <translation>L&apos;unité montrée ; un clic en propose d&apos;autres.</translation>
     </message>
     <message>
         <source>Shines all round; a clear lens throws a narrow beam.</source>
-        <translation type="unfinished"></translation>
+        <translation>Brille tout autour ; une lentille claire jette un faisceau étroit.</translation>
     </message>
     <message>
         <source>&amp;Milky lens</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Lentille laiteuse</translation>
     </message>
     <message>
         <source>Electrical</source>
-        <translation type="unfinished"></translation>
+        <translation>Électricité</translation>
     </message>
     <message>
         <source>The voltage at which the LED begins to shine.</source>
-        <translation type="unfinished"></translation>
+        <translation>La tension à laquelle la LED commence à briller.</translation>
     </message>
     <message>
         <source>A greater current destroys the LED.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un courant plus fort détruit la LED.</translation>
     </message>
     <message>
         <source>How wide the lens is.</source>
-        <translation type="unfinished"></translation>
+        <translation>La largeur de la lentille.</translation>
     </message>
     <message>
         <source>Diameter of the lens</source>
-        <translation type="unfinished"></translation>
+        <translation>Diamètre de la lentille</translation>
     </message>
     <message>
         <source>3 mm</source>
-        <translation type="unfinished"></translation>
+        <translation>3 mm</translation>
     </message>
     <message>
         <source>5 mm</source>
-        <translation type="unfinished"></translation>
+        <translation>5 mm</translation>
     </message>
     <message>
         <source>10 mm</source>
-        <translation type="unfinished"></translation>
+        <translation>10 mm</translation>
     </message>
     <message>
         <source>Legs and pads</source>
-        <translation type="unfinished"></translation>
+        <translation>Pattes et pastilles</translation>
     </message>
     <message>
         <source>Writes anode and cathode beside the pins.</source>
-        <translation type="unfinished"></translation>
+        <translation>Écrit anode et cathode à côté des broches.</translation>
     </message>
     <message>
         <source>&amp;Names at the pins</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Noms aux broches</translation>
     </message>
     <message>
         <source>Lines the holes of the solder pads with metal.</source>
-        <translation type="unfinished"></translation>
+        <translation>Revêt de métal les trous des pastilles.</translation>
     </message>
     <message>
         <source>&amp;Plated through</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Métallisé</translation>
     </message>
     <message>
         <source>Shows what lies behind the lens.</source>
-        <translation type="unfinished"></translation>
+        <translation>Montre ce qui est derrière la lentille.</translation>
     </message>
     <message>
         <source>See-&amp;through lens</source>
-        <translation type="unfinished"></translation>
+        <translation>Lentille &amp;transparente</translation>
     </message>
 </context>
 <context>
     <name>LightSensorForm</name>
     <message>
         <source>Light sensor</source>
-        <translation type="unfinished"></translation>
+        <translation>Capteur de lumière</translation>
     </message>
     <message>
         <source>How bright it is at the start, in percent.</source>
-        <translation type="unfinished"></translation>
+        <translation>La luminosité au départ, en pour cent.</translation>
     </message>
     <message>
         <source>The brightness at which the sensor counts as dark.</source>
-        <translation type="unfinished"></translation>
+        <translation>La luminosité à partir de laquelle il fait sombre pour le capteur.</translation>
     </message>
     <message>
         <source>The resistance when no light falls on the sensor.</source>
-        <translation type="unfinished"></translation>
+        <translation>La résistance quand aucune lumière ne tombe sur le capteur.</translation>
     </message>
     <message>
         <source>The unit shown; a click offers others.</source>
-        <translation type="unfinished"></translation>
+        <translation>L&apos;unité montrée ; un clic en propose d&apos;autres.</translation>
     </message>
     <message>
         <source>The resistance in full light.</source>
-        <translation type="unfinished"></translation>
+        <translation>La résistance en pleine lumière.</translation>
     </message>
     <message>
         <source>Gives its signal when it is dark; otherwise when it is bright.</source>
-        <translation type="unfinished"></translation>
+        <translation>Donne son signal quand il fait sombre ; sinon quand il fait clair.</translation>
     </message>
     <message>
         <source>Signal in the &amp;dark</source>
-        <translation type="unfinished"></translation>
+        <translation>Signal dans le &amp;noir</translation>
     </message>
     <message>
         <source>The reader sets the brightness with the slider below the sensor.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le lecteur règle la luminosité avec le curseur sous le capteur.</translation>
     </message>
     <message>
         <source>&amp;Follows its slider</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Suit son curseur</translation>
     </message>
     <message>
         <source>Slider</source>
-        <translation type="unfinished"></translation>
+        <translation>Curseur</translation>
     </message>
     <message>
         <source>Otherwise only the model itself moves the slider.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sinon seul le modèle lui-même déplace le curseur.</translation>
     </message>
     <message>
         <source>Can be &amp;worked by the reader</source>
-        <translation type="unfinished"></translation>
+        <translation>Peut être &amp;manœuvré par le lecteur</translation>
     </message>
 </context>
 <context>
     <name>LinkForm</name>
     <message>
         <source>Link</source>
-        <translation type="unfinished"></translation>
+        <translation>Lien</translation>
     </message>
     <message>
         <source>Line</source>
-        <translation type="unfinished"></translation>
+        <translation>Trait</translation>
     </message>
     <message>
         <source>Draws an arrow head at the end.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dessine une pointe de flèche à la fin.</translation>
     </message>
     <message>
         <source>&amp;Arrow head</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Pointe de flèche</translation>
     </message>
     <message>
         <source>Draws a dashed line.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dessine un trait tireté.</translation>
     </message>
     <message>
         <source>&amp;Dashed</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Tireté</translation>
     </message>
     <message>
         <source>Runs along right angles; otherwise straight from block to block.</source>
-        <translation type="unfinished"></translation>
+        <translation>Suit des angles droits ; sinon tout droit de bloc à bloc.</translation>
     </message>
     <message>
         <source>&amp;Right angles only</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Angles droits seulement</translation>
     </message>
 </context>
 <context>
     <name>MachinePartForm</name>
     <message>
         <source>Machine part</source>
-        <translation type="unfinished"></translation>
+        <translation>Pièce mécanique</translation>
     </message>
     <message>
         <source>Movement</source>
-        <translation type="unfinished"></translation>
+        <translation>Mouvement</translation>
     </message>
     <message>
         <source>A part that is not free is fixed to the base.</source>
-        <translation type="unfinished"></translation>
+        <translation>Une pièce qui n&apos;est pas libre est fixée à la base.</translation>
     </message>
     <message>
         <source>&amp;Free to turn</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Libre de tourner</translation>
     </message>
     <message>
         <source>An arrow shows the way the part turns.</source>
-        <translation type="unfinished"></translation>
+        <translation>Une flèche montre le sens de rotation de la pièce.</translation>
     </message>
     <message>
         <source>Show the direct&amp;ion</source>
-        <translation type="unfinished"></translation>
+        <translation>Montrer le s&amp;ens</translation>
     </message>
     <message>
         <source>Writes the turning speed on the part.</source>
-        <translation type="unfinished"></translation>
+        <translation>Écrit la vitesse de rotation sur la pièce.</translation>
     </message>
     <message>
         <source>Show the sp&amp;eed</source>
-        <translation type="unfinished"></translation>
+        <translation>Montrer la vi&amp;tesse</translation>
     </message>
     <message>
         <source>Material</source>
-        <translation type="unfinished"></translation>
+        <translation>Matière</translation>
     </message>
     <message>
         <source>What the part is made of.</source>
-        <translation type="unfinished"></translation>
+        <translation>De quoi la pièce est faite.</translation>
     </message>
     <message>
         <source>The mass of the part.</source>
-        <translation type="unfinished"></translation>
+        <translation>La masse de la pièce.</translation>
     </message>
     <message>
         <source>The unit shown; a click offers others.</source>
-        <translation type="unfinished"></translation>
+        <translation>L&apos;unité montrée ; un clic en propose d&apos;autres.</translation>
     </message>
     <message>
         <source>The colour of the part.</source>
-        <translation type="unfinished"></translation>
+        <translation>La couleur de la pièce.</translation>
     </message>
 </context>
 <context>
     <name>MeterForm</name>
     <message>
         <source>Meter</source>
-        <translation type="unfinished"></translation>
+        <translation>Appareil de mesure</translation>
     </message>
     <message>
         <source>Display</source>
-        <translation type="unfinished"></translation>
+        <translation>Affichage</translation>
     </message>
     <message>
         <source>What the meter measures.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce que mesure l&apos;appareil.</translation>
     </message>
     <message>
         <source>The colour of the needle.</source>
-        <translation type="unfinished"></translation>
+        <translation>La couleur de l&apos;aiguille.</translation>
     </message>
     <message>
         <source>&amp;Display:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Affichage :</translation>
     </message>
     <message>
         <source>Shows figures while pressed in, a needle over a scale otherwise.</source>
-        <translation type="unfinished"></translation>
+        <translation>Montre des chiffres quand il est enfoncé, sinon une aiguille sur une échelle.</translation>
     </message>
     <message>
         <source>Figures</source>
-        <translation type="unfinished"></translation>
+        <translation>Chiffres</translation>
     </message>
     <message>
         <source>The reading stays as it is.</source>
-        <translation type="unfinished"></translation>
+        <translation>La mesure reste telle quelle.</translation>
     </message>
     <message>
         <source>&amp;Hold the reading</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Garder la mesure</translation>
     </message>
     <message>
         <source>Shows the greatest reading so far as well.</source>
-        <translation type="unfinished"></translation>
+        <translation>Montre aussi la plus grande mesure jusqu&apos;ici.</translation>
     </message>
     <message>
         <source>Show the &amp;peak</source>
-        <translation type="unfinished"></translation>
+        <translation>Montrer la &amp;crête</translation>
     </message>
     <message>
         <source>Handling</source>
-        <translation type="unfinished"></translation>
+        <translation>Manœuvre</translation>
     </message>
     <message>
         <source>Otherwise only the model itself turns the range knob.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sinon seul le modèle lui-même tourne le bouton de calibre.</translation>
     </message>
     <message>
         <source>Range can be &amp;worked by the reader</source>
-        <translation type="unfinished"></translation>
+        <translation>Calibre &amp;manœuvrable par le lecteur</translation>
     </message>
 </context>
 <context>
     <name>MotorForm</name>
     <message>
         <source>Motor</source>
-        <translation type="unfinished"></translation>
+        <translation>Moteur</translation>
     </message>
     <message>
         <source>&amp;Drive:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Entraînement :</translation>
     </message>
     <message>
         <source>The motor turns as soon as the model starts.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le moteur tourne dès que le modèle démarre.</translation>
     </message>
     <message>
         <source>Runs at the start</source>
-        <translation type="unfinished"></translation>
+        <translation>Tourne au départ</translation>
     </message>
     <message>
         <source>How fast the motor turns without load.</source>
-        <translation type="unfinished"></translation>
+        <translation>La vitesse du moteur sans charge.</translation>
     </message>
     <message>
         <source>The unit shown; a click offers others.</source>
-        <translation type="unfinished"></translation>
+        <translation>L&apos;unité montrée ; un clic en propose d&apos;autres.</translation>
     </message>
     <message>
         <source>The voltage for which the motor is made.</source>
-        <translation type="unfinished"></translation>
+        <translation>La tension pour laquelle le moteur est fait.</translation>
     </message>
     <message>
         <source>The name by which flowcharts switch the motor; empty when none does.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le nom sous lequel les organigrammes commutent le moteur ; vide si aucun ne le fait.</translation>
     </message>
     <message>
         <source>Otherwise the motor turns clockwise.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sinon le moteur tourne dans le sens horaire.</translation>
     </message>
     <message>
         <source>Turns &amp;counterclockwise</source>
-        <translation type="unfinished"></translation>
+        <translation>Tourne en sens &amp;antihoraire</translation>
     </message>
     <message>
         <source>A gear box makes the shaft turn more slowly and more strongly.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un réducteur fait tourner l&apos;arbre plus lentement et avec plus de force.</translation>
     </message>
     <message>
         <source>With &amp;gear box</source>
-        <translation type="unfinished"></translation>
+        <translation>Avec &amp;réducteur</translation>
     </message>
     <message>
         <source>How many turns of the motor make one turn of the shaft.</source>
-        <translation type="unfinished"></translation>
+        <translation>Combien de tours du moteur font un tour de l&apos;arbre.</translation>
     </message>
 </context>
 <context>
@@ -1370,3453 +1370,3453 @@
     <message>
         <source>Basics</source>
         <extracomment>Name of a package of parts</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Bases</translation>
     </message>
     <message>
         <source>Electronics</source>
-        <translation type="unfinished"></translation>
+        <translation>Électronique</translation>
     </message>
     <message>
         <source>Flowcharts</source>
-        <translation type="unfinished"></translation>
+        <translation>Organigrammes</translation>
     </message>
     <message>
         <source>Mechanics</source>
-        <translation type="unfinished"></translation>
+        <translation>Mécanique</translation>
     </message>
 </context>
 <context>
     <name>PartsTree</name>
     <message>
         <source>Explanations</source>
-        <translation type="unfinished"></translation>
+        <translation>Explications</translation>
     </message>
     <message>
         <source>Demonstration</source>
-        <translation type="unfinished"></translation>
+        <translation>Démonstration</translation>
     </message>
     <message>
         <source>Supply</source>
-        <translation type="unfinished"></translation>
+        <translation>Alimentation</translation>
     </message>
     <message>
         <source>Inputs</source>
-        <translation type="unfinished"></translation>
+        <translation>Entrées</translation>
     </message>
     <message>
         <source>Components</source>
-        <translation type="unfinished"></translation>
+        <translation>Composants</translation>
     </message>
     <message>
         <source>Outputs</source>
-        <translation type="unfinished"></translation>
+        <translation>Sorties</translation>
     </message>
     <message>
         <source>Measuring</source>
-        <translation type="unfinished"></translation>
+        <translation>Mesure</translation>
     </message>
     <message>
         <source>Wiring</source>
-        <translation type="unfinished"></translation>
+        <translation>Câblage</translation>
     </message>
     <message>
         <source>Flow</source>
-        <translation type="unfinished"></translation>
+        <translation>Déroulement</translation>
     </message>
     <message>
         <source>Drives</source>
-        <translation type="unfinished"></translation>
+        <translation>Entraînements</translation>
     </message>
     <message>
         <source>Wheels</source>
-        <translation type="unfinished"></translation>
+        <translation>Roues</translation>
     </message>
 </context>
 <context>
     <name>PictureForm</name>
     <message>
         <source>Picture</source>
-        <translation type="unfinished"></translation>
+        <translation>Image</translation>
     </message>
     <message>
         <source>The picture shown.</source>
-        <translation type="unfinished"></translation>
+        <translation>L&apos;image montrée.</translation>
     </message>
     <message>
         <source>Keeps the ratio of width and height when the picture is resized.</source>
-        <translation type="unfinished"></translation>
+        <translation>Garde le rapport de la largeur et de la hauteur quand la taille de l&apos;image change.</translation>
     </message>
     <message>
         <source>Keep &amp;proportions</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Garder les proportions</translation>
     </message>
     <message>
         <source>Exchanges left and right.</source>
-        <translation type="unfinished"></translation>
+        <translation>Échange la gauche et la droite.</translation>
     </message>
     <message>
         <source>&amp;Mirrored</source>
-        <translation type="unfinished"></translation>
+        <translation>En &amp;miroir</translation>
     </message>
     <message>
         <source>Draws a thin frame round the picture.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dessine un cadre fin autour de l&apos;image.</translation>
     </message>
     <message>
         <source>Draw a &amp;frame</source>
-        <translation type="unfinished"></translation>
+        <translation>Dessiner un &amp;cadre</translation>
     </message>
     <message>
         <source>Where the picture comes from and who made it.</source>
-        <translation type="unfinished"></translation>
+        <translation>D&apos;où vient l&apos;image et qui l&apos;a faite.</translation>
     </message>
     <message>
         <source>More pictures</source>
-        <translation type="unfinished"></translation>
+        <translation>Autres images</translation>
     </message>
     <message>
         <source>Pictures shown in turn after the first one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Images montrées tour à tour après la première.</translation>
     </message>
 </context>
 <context>
     <name>PopupForm</name>
     <message>
         <source>Pop-up</source>
-        <translation type="unfinished"></translation>
+        <translation>Bulle</translation>
     </message>
     <message>
         <source>A short name without blanks by which other things refer to it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un nom court sans espaces par lequel les autres choses désignent la pièce.</translation>
     </message>
     <message>
         <source>The heading shown above the pop-up.</source>
-        <translation type="unfinished"></translation>
+        <translation>L&apos;en-tête au-dessus de la bulle.</translation>
     </message>
     <message>
         <source>The pop-up is open from the start; otherwise its part opens it.</source>
-        <translation type="unfinished"></translation>
+        <translation>La bulle est ouverte dès le début ; sinon sa pièce l&apos;ouvre.</translation>
     </message>
     <message>
         <source>&amp;Open when the model starts</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ouverte au démarrage du modèle</translation>
     </message>
     <message>
         <source>Appearance</source>
-        <translation type="unfinished"></translation>
+        <translation>Aspect</translation>
     </message>
     <message>
         <source>Width and height of the space.</source>
-        <translation type="unfinished"></translation>
+        <translation>Largeur et hauteur de l&apos;espace.</translation>
     </message>
     <message>
         <source>The unit shown; a click offers others.</source>
-        <translation type="unfinished"></translation>
+        <translation>L&apos;unité montrée ; un clic en propose d&apos;autres.</translation>
     </message>
     <message>
         <source>The colour behind the parts.</source>
-        <translation type="unfinished"></translation>
+        <translation>La couleur derrière les pièces.</translation>
     </message>
     <message>
         <source>Draws a grid of 5 mm behind the parts.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dessine une grille de 5 mm derrière les pièces.</translation>
     </message>
     <message>
         <source>Show a &amp;grid</source>
-        <translation type="unfinished"></translation>
+        <translation>Montrer une &amp;grille</translation>
     </message>
 </context>
 <context>
     <name>ProcedureForm</name>
     <message>
         <source>Procedure</source>
-        <translation type="unfinished"></translation>
+        <translation>Procédure</translation>
     </message>
     <message>
         <source>How often the chart in the pop-up is run.</source>
-        <translation type="unfinished"></translation>
+        <translation>Combien de fois l&apos;organigramme de la bulle est exécuté.</translation>
     </message>
     <message>
         <source>Opens the pop-up with its chart while the procedure runs.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouvre la bulle avec son organigramme pendant que la procédure s&apos;exécute.</translation>
     </message>
     <message>
         <source>&amp;Opens while it runs</source>
-        <translation type="unfinished"></translation>
+        <translation>S&apos;&amp;ouvre pendant l&apos;exécution</translation>
     </message>
     <message>
         <source>Otherwise a stop block inside ends the whole chart.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sinon un bloc d&apos;arrêt à l&apos;intérieur termine tout l&apos;organigramme.</translation>
     </message>
     <message>
         <source>Stop ends only the &amp;procedure</source>
-        <translation type="unfinished"></translation>
+        <translation>L&apos;arrêt ne termine que la &amp;procédure</translation>
     </message>
 </context>
 <context>
     <name>PulleyForm</name>
     <message>
         <source>Pulley</source>
-        <translation type="unfinished"></translation>
+        <translation>Poulie</translation>
     </message>
     <message>
         <source>Groove</source>
-        <translation type="unfinished"></translation>
+        <translation>Gorge</translation>
     </message>
     <message>
         <source>The diameter at which the belt runs.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le diamètre sur lequel passe la courroie.</translation>
     </message>
     <message>
         <source>The unit shown; a click offers others.</source>
-        <translation type="unfinished"></translation>
+        <translation>L&apos;unité montrée ; un clic en propose d&apos;autres.</translation>
     </message>
     <message>
         <source>For belts with a V section; otherwise the groove is round.</source>
-        <translation type="unfinished"></translation>
+        <translation>Pour les courroies de section en V ; sinon la gorge est ronde.</translation>
     </message>
     <message>
         <source>V-&amp;shaped groove</source>
-        <translation type="unfinished"></translation>
+        <translation>Gorge en &amp;V</translation>
     </message>
     <message>
         <source>Rims keep the belt in the groove.</source>
-        <translation type="unfinished"></translation>
+        <translation>Des rebords gardent la courroie dans la gorge.</translation>
     </message>
     <message>
         <source>With &amp;rims</source>
-        <translation type="unfinished"></translation>
+        <translation>Avec &amp;rebords</translation>
     </message>
     <message>
         <source>The belt slips when the load is too great.</source>
-        <translation type="unfinished"></translation>
+        <translation>La courroie glisse quand la charge est trop grande.</translation>
     </message>
     <message>
         <source>&amp;Belt may slip</source>
-        <translation type="unfinished"></translation>
+        <translation>La &amp;courroie peut glisser</translation>
     </message>
 </context>
 <context>
     <name>PushButtonForm</name>
     <message>
         <source>Push button</source>
-        <translation type="unfinished"></translation>
+        <translation>Bouton-poussoir</translation>
     </message>
     <message>
         <source>The colour of the cap.</source>
-        <translation type="unfinished"></translation>
+        <translation>La couleur du capuchon.</translation>
     </message>
     <message>
         <source>A lamp shines in the cap while the button is held down.</source>
-        <translation type="unfinished"></translation>
+        <translation>Une lampe brille dans le capuchon tant que le bouton est maintenu.</translation>
     </message>
     <message>
         <source>Cap &amp;lights up</source>
-        <translation type="unfinished"></translation>
+        <translation>Le capuchon s&apos;&amp;allume</translation>
     </message>
     <message>
         <source>&amp;Try it:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Essayer :</translation>
     </message>
     <message>
         <source>Closes the contact for as long as this button is held down.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ferme le contact tant que ce bouton est maintenu.</translation>
     </message>
     <message>
         <source>Hold down</source>
-        <translation type="unfinished"></translation>
+        <translation>Maintenir</translation>
     </message>
 </context>
 <context>
     <name>ResistorForm</name>
     <message>
         <source>Resistor</source>
-        <translation type="unfinished"></translation>
+        <translation>Résistance</translation>
     </message>
     <message>
         <source>The resistance as it is printed on the part.</source>
-        <translation type="unfinished"></translation>
+        <translation>La résistance telle qu&apos;elle est imprimée sur la pièce.</translation>
     </message>
     <message>
         <source>The unit shown; a click offers others.</source>
-        <translation type="unfinished"></translation>
+        <translation>L&apos;unité montrée ; un clic en propose d&apos;autres.</translation>
     </message>
     <message>
         <source>How far the true resistance may be from the printed one, in percent.</source>
-        <translation type="unfinished"></translation>
+        <translation>De combien la vraie résistance peut s&apos;écarter de celle imprimée, en pour cent.</translation>
     </message>
     <message>
         <source>The power that the part stands without burning.</source>
-        <translation type="unfinished"></translation>
+        <translation>La puissance que la pièce supporte sans brûler.</translation>
     </message>
     <message>
         <source>W</source>
-        <translation type="unfinished"></translation>
+        <translation>W</translation>
     </message>
     <message>
         <source>Drawing</source>
-        <translation type="unfinished"></translation>
+        <translation>Dessin</translation>
     </message>
     <message>
         <source>Draws the coloured bands that tell the resistance.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dessine les anneaux colorés qui indiquent la résistance.</translation>
     </message>
     <message>
         <source>Colour &amp;bands</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Anneaux de couleur</translation>
     </message>
     <message>
         <source>Draws the American zigzag line instead of the box.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dessine la ligne en zigzag américaine au lieu du rectangle.</translation>
     </message>
     <message>
         <source>&amp;Zigzag symbol</source>
-        <translation type="unfinished"></translation>
+        <translation>Symbole en &amp;zigzag</translation>
     </message>
     <message>
         <source>Solder pads</source>
-        <translation type="unfinished"></translation>
+        <translation>Pastilles</translation>
     </message>
     <message>
         <source>Square pads mark a place on the board; otherwise they are round.</source>
-        <translation type="unfinished"></translation>
+        <translation>Des pastilles carrées marquent une place sur la carte ; sinon elles sont rondes.</translation>
     </message>
     <message>
         <source>S&amp;quare pads</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Pastilles carrées</translation>
     </message>
     <message>
         <source>Lines the holes with metal.</source>
-        <translation type="unfinished"></translation>
+        <translation>Revêt les trous de métal.</translation>
     </message>
     <message>
         <source>&amp;Plated through</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Métallisé</translation>
     </message>
 </context>
 <context>
     <name>SceneForm</name>
     <message>
         <source>Scene</source>
-        <translation type="unfinished"></translation>
+        <translation>Scène</translation>
     </message>
     <message>
         <source>General</source>
-        <translation type="unfinished"></translation>
+        <translation>Général</translation>
     </message>
     <message>
         <source>A short name without blanks by which other things refer to it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un nom court sans espaces par lequel les autres choses désignent la pièce.</translation>
     </message>
     <message>
         <source>The heading shown above the scene.</source>
-        <translation type="unfinished"></translation>
+        <translation>L&apos;en-tête au-dessus de la scène.</translation>
     </message>
     <message>
         <source>Appearance</source>
-        <translation type="unfinished"></translation>
+        <translation>Aspect</translation>
     </message>
     <message>
         <source>Width and height of the space.</source>
-        <translation type="unfinished"></translation>
+        <translation>Largeur et hauteur de l&apos;espace.</translation>
     </message>
     <message>
         <source>The unit shown; a click offers others.</source>
-        <translation type="unfinished"></translation>
+        <translation>L&apos;unité montrée ; un clic en propose d&apos;autres.</translation>
     </message>
     <message>
         <source>The colour behind the parts.</source>
-        <translation type="unfinished"></translation>
+        <translation>La couleur derrière les pièces.</translation>
     </message>
     <message>
         <source>Draws a grid of 5 mm behind the parts.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dessine une grille de 5 mm derrière les pièces.</translation>
     </message>
     <message>
         <source>Show a &amp;grid</source>
-        <translation type="unfinished"></translation>
+        <translation>Montrer une &amp;grille</translation>
     </message>
 </context>
 <context>
     <name>ShaftForm</name>
     <message>
         <source>Shaft</source>
-        <translation type="unfinished"></translation>
+        <translation>Arbre</translation>
     </message>
     <message>
         <source>The diameter of the shaft.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le diamètre de l&apos;arbre.</translation>
     </message>
     <message>
         <source>The unit shown; a click offers others.</source>
-        <translation type="unfinished"></translation>
+        <translation>L&apos;unité montrée ; un clic en propose d&apos;autres.</translation>
     </message>
     <message>
         <source>How far the shaft twists under full load.</source>
-        <translation type="unfinished"></translation>
+        <translation>De combien l&apos;arbre se tord en pleine charge.</translation>
     </message>
     <message>
         <source>The shaft is a tube.</source>
-        <translation type="unfinished"></translation>
+        <translation>L&apos;arbre est un tube.</translation>
     </message>
     <message>
         <source>&amp;Hollow</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Creux</translation>
     </message>
     <message>
         <source>A key makes the wheels turn with the shaft.</source>
-        <translation type="unfinished"></translation>
+        <translation>Une clavette fait tourner les roues avec l&apos;arbre.</translation>
     </message>
     <message>
         <source>With &amp;key</source>
-        <translation type="unfinished"></translation>
+        <translation>Avec c&amp;lavette</translation>
     </message>
     <message>
         <source>Otherwise the ends are plain.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sinon les bouts sont droits.</translation>
     </message>
     <message>
         <source>&amp;Rounded ends</source>
-        <translation type="unfinished"></translation>
+        <translation>Bouts a&amp;rrondis</translation>
     </message>
     <message>
         <source>Wheels</source>
-        <translation type="unfinished"></translation>
+        <translation>Roues</translation>
     </message>
     <message>
         <source>The wheels turn on the shaft rather than with it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les roues tournent sur l&apos;arbre plutôt qu&apos;avec lui.</translation>
     </message>
     <message>
         <source>&amp;Wheels run freely</source>
-        <translation type="unfinished"></translation>
+        <translation>R&amp;oues folles</translation>
     </message>
 </context>
 <context>
     <name>StartForm</name>
     <message>
         <source>Start</source>
-        <translation type="unfinished"></translation>
+        <translation>Départ</translation>
     </message>
     <message>
         <source>The chart runs as soon as the model starts.</source>
-        <translation type="unfinished"></translation>
+        <translation>L&apos;organigramme s&apos;exécute dès que le modèle démarre.</translation>
     </message>
     <message>
         <source>Starts by itsel&amp;f</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Démarre de lui-même</translation>
     </message>
     <message>
         <source>One input that is on starts the chart; otherwise all must be on.</source>
-        <translation type="unfinished"></translation>
+        <translation>Une entrée active démarre l&apos;organigramme ; sinon toutes doivent l&apos;être.</translation>
     </message>
     <message>
         <source>&amp;Any input is enough</source>
-        <translation type="unfinished"></translation>
+        <translation>Une seule &amp;entrée suffit</translation>
     </message>
     <message>
         <source>How long the chart waits before its first block.</source>
-        <translation type="unfinished"></translation>
+        <translation>Combien de temps l&apos;organigramme attend avant son premier bloc.</translation>
     </message>
     <message>
         <source>The unit shown; a click offers others.</source>
-        <translation type="unfinished"></translation>
+        <translation>L&apos;unité montrée ; un clic en propose d&apos;autres.</translation>
     </message>
 </context>
 <context>
     <name>StepForm</name>
     <message>
         <source>Step</source>
-        <translation type="unfinished"></translation>
+        <translation>Pas</translation>
     </message>
     <message>
         <source>What the block does with its output.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce que le bloc fait de sa sortie.</translation>
     </message>
     <message>
         <source>The output name of the components that the block switches.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le nom de sortie des composants que le bloc commute.</translation>
     </message>
     <message>
         <source>How long the step lasts.</source>
-        <translation type="unfinished"></translation>
+        <translation>Combien de temps dure le pas.</translation>
     </message>
     <message>
         <source>The unit shown; a click offers others.</source>
-        <translation type="unfinished"></translation>
+        <translation>L&apos;unité montrée ; un clic en propose d&apos;autres.</translation>
     </message>
     <message>
         <source>How strongly the output is switched on, in percent.</source>
-        <translation type="unfinished"></translation>
+        <translation>Avec quelle force la sortie est allumée, en pour cent.</translation>
     </message>
     <message>
         <source>Switches the output on; otherwise it is switched off.</source>
-        <translation type="unfinished"></translation>
+        <translation>Allume la sortie ; sinon elle est éteinte.</translation>
     </message>
     <message>
         <source>Switches &amp;on</source>
-        <translation type="unfinished"></translation>
+        <translation>A&amp;llume</translation>
     </message>
     <message>
         <source>The chart goes on only when the time is over.</source>
-        <translation type="unfinished"></translation>
+        <translation>L&apos;organigramme ne continue que lorsque le temps est écoulé.</translation>
     </message>
     <message>
         <source>&amp;Waits for the end</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Attend la fin</translation>
     </message>
     <message>
         <source>Leaves just this output on.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ne laisse allumée que cette sortie.</translation>
     </message>
     <message>
         <source>Switches all o&amp;ther outputs off</source>
-        <translation type="unfinished"></translation>
+        <translation>É&amp;teint toutes les autres sorties</translation>
     </message>
 </context>
 <context>
     <name>StopForm</name>
     <message>
         <source>Stop</source>
-        <translation type="unfinished"></translation>
+        <translation>Arrêt</translation>
     </message>
     <message>
         <source>The chart begins again from its start.</source>
-        <translation type="unfinished"></translation>
+        <translation>L&apos;organigramme recommence depuis son départ.</translation>
     </message>
     <message>
         <source>&amp;Starts again</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Recommence</translation>
     </message>
     <message>
         <source>A chart that starts again never ends by itself. Start again?</source>
-        <translation type="unfinished"></translation>
+        <translation>Un organigramme qui recommence ne finit jamais de lui-même. Recommencer ?</translation>
     </message>
     <message>
         <source>The chart will end here. End it?</source>
-        <translation type="unfinished"></translation>
+        <translation>L&apos;organigramme finira ici. Le finir ?</translation>
     </message>
     <message>
         <source>Otherwise they stay as they are.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sinon elles restent telles quelles.</translation>
     </message>
     <message>
         <source>Switches all &amp;outputs off</source>
-        <translation type="unfinished"></translation>
+        <translation>É&amp;teint toutes les sorties</translation>
     </message>
     <message>
         <source>What is shown to the reader at the end.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce qui est montré au lecteur à la fin.</translation>
     </message>
 </context>
 <context>
     <name>SwitchForm</name>
     <message>
         <source>Switch</source>
-        <translation type="unfinished"></translation>
+        <translation>Interrupteur</translation>
     </message>
     <message>
         <source>&amp;Contact:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Contact :</translation>
     </message>
     <message>
         <source>Lets current through as soon as the model starts.</source>
-        <translation type="unfinished"></translation>
+        <translation>Laisse passer le courant dès que le modèle démarre.</translation>
     </message>
     <message>
         <source>Closed at the start</source>
-        <translation type="unfinished"></translation>
+        <translation>Fermé au départ</translation>
     </message>
     <message>
         <source>&amp;Kind:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Sorte :</translation>
     </message>
     <message>
         <source>Whether the contact stays as it is set, or opens again when it is let go.</source>
-        <translation type="unfinished"></translation>
+        <translation>Si le contact reste comme on le met, ou s&apos;ouvre de nouveau quand on le lâche.</translation>
     </message>
     <message>
         <source>Springs back</source>
-        <translation type="unfinished"></translation>
+        <translation>Revient tout seul</translation>
     </message>
     <message>
         <source>Stays where it is put</source>
-        <translation type="unfinished"></translation>
+        <translation>Reste où on le met</translation>
     </message>
     <message>
         <source>The resistance of the closed contact.</source>
-        <translation type="unfinished"></translation>
+        <translation>La résistance du contact fermé.</translation>
     </message>
     <message>
         <source>The unit shown; a click offers others.</source>
-        <translation type="unfinished"></translation>
+        <translation>L&apos;unité montrée ; un clic en propose d&apos;autres.</translation>
     </message>
     <message>
         <source>How long the contact chatters when it closes.</source>
-        <translation type="unfinished"></translation>
+        <translation>Combien de temps le contact rebondit en se fermant.</translation>
     </message>
     <message>
         <source>Draws the lever with its hinge on the right; otherwise on the left.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dessine le levier avec sa charnière à droite ; sinon à gauche.</translation>
     </message>
     <message>
         <source>&amp;Hinge on the right</source>
-        <translation type="unfinished"></translation>
+        <translation>C&amp;harnière à droite</translation>
     </message>
     <message>
         <source>Handling</source>
-        <translation type="unfinished"></translation>
+        <translation>Manœuvre</translation>
     </message>
     <message>
         <source>The key that works the switch while the model runs; one capital letter or digit.</source>
-        <translation type="unfinished"></translation>
+        <translation>La touche qui manœuvre l&apos;interrupteur pendant l&apos;exécution du modèle ; une majuscule ou un chiffre.</translation>
     </message>
     <message>
         <source>Otherwise only the model itself works the switch.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sinon seul le modèle lui-même manœuvre l&apos;interrupteur.</translation>
     </message>
     <message>
         <source>Can be &amp;worked by the reader</source>
-        <translation type="unfinished"></translation>
+        <translation>Peut être &amp;manœuvré par le lecteur</translation>
     </message>
     <message>
         <source>Writes the name of each pin beside it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Écrit le nom de chaque broche à côté.</translation>
     </message>
     <message>
         <source>&amp;Names at the pins</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Noms aux broches</translation>
     </message>
 </context>
 <context>
     <name>TextForm</name>
     <message>
         <source>Text</source>
-        <translation type="unfinished"></translation>
+        <translation>Texte</translation>
     </message>
     <message>
         <source>Letters</source>
-        <translation type="unfinished"></translation>
+        <translation>Lettres</translation>
     </message>
     <message>
         <source>What is written; it is wrapped at the width of the part.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce qui est écrit ; cela va à la ligne à la largeur de la pièce.</translation>
     </message>
     <message>
         <source>Height of a line of the text.</source>
-        <translation type="unfinished"></translation>
+        <translation>Hauteur d&apos;une ligne du texte.</translation>
     </message>
     <message>
         <source>The unit shown; a click offers others.</source>
-        <translation type="unfinished"></translation>
+        <translation>L&apos;unité montrée ; un clic en propose d&apos;autres.</translation>
     </message>
     <message>
         <source>Where the lines stand within the width.</source>
-        <translation type="unfinished"></translation>
+        <translation>Où sont les lignes dans la largeur.</translation>
     </message>
     <message>
         <source>The colour of the letters.</source>
-        <translation type="unfinished"></translation>
+        <translation>La couleur des lettres.</translation>
     </message>
     <message>
         <source>&amp;Weight:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Graisse :</translation>
     </message>
     <message>
         <source>Writes the text in bold letters.</source>
-        <translation type="unfinished"></translation>
+        <translation>Écrit le texte en lettres grasses.</translation>
     </message>
     <message>
         <source>Bold</source>
-        <translation type="unfinished"></translation>
+        <translation>Gras</translation>
     </message>
     <message>
         <source>&amp;Slant:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Inclinaison :</translation>
     </message>
     <message>
         <source>Writes the text in sloping letters.</source>
-        <translation type="unfinished"></translation>
+        <translation>Écrit le texte en lettres penchées.</translation>
     </message>
     <message>
         <source>Italic</source>
-        <translation type="unfinished"></translation>
+        <translation>Italique</translation>
     </message>
     <message>
         <source>Frame</source>
-        <translation type="unfinished"></translation>
+        <translation>Cadre</translation>
     </message>
     <message>
         <source>Draws a thin frame round the text.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dessine un cadre fin autour du texte.</translation>
     </message>
     <message>
         <source>Draw a &amp;frame</source>
-        <translation type="unfinished"></translation>
+        <translation>Dessiner un &amp;cadre</translation>
     </message>
 </context>
 <context>
     <name>WireForm</name>
     <message>
         <source>Wire</source>
-        <translation type="unfinished"></translation>
+        <translation>Fil</translation>
     </message>
     <message>
         <source>The cross-section of the copper.</source>
-        <translation type="unfinished"></translation>
+        <translation>La section du cuivre.</translation>
     </message>
     <message>
         <source>The wire has a coloured cover.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le fil a une gaine colorée.</translation>
     </message>
     <message>
         <source>&amp;Insulated</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Isolé</translation>
     </message>
     <message>
         <source>Many thin wires make it easy to bend.</source>
-        <translation type="unfinished"></translation>
+        <translation>Beaucoup de fils fins le rendent souple.</translation>
     </message>
     <message>
         <source>&amp;Stranded</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Multibrin</translation>
     </message>
     <message>
         <source>Runs along right angles; otherwise straight from pin to pin.</source>
-        <translation type="unfinished"></translation>
+        <translation>Suit des angles droits ; sinon tout droit de broche à broche.</translation>
     </message>
     <message>
         <source>&amp;Right angles only</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Angles droits seulement</translation>
     </message>
 </context>
 <context>
     <name>core/body</name>
     <message>
         <source>Body</source>
-        <translation type="unfinished"></translation>
+        <translation>Corps</translation>
     </message>
 </context>
 <context>
     <name>core/collections</name>
     <message>
         <source>Gallery of collections</source>
-        <translation type="unfinished"></translation>
+        <translation>Galerie des collections</translation>
     </message>
     <message>
         <source>Picture</source>
-        <translation type="unfinished"></translation>
+        <translation>Image</translation>
     </message>
     <message>
         <source>One picture.</source>
-        <translation type="unfinished"></translation>
+        <translation>Une image.</translation>
     </message>
     <message>
         <source>Weather</source>
-        <translation type="unfinished"></translation>
+        <translation>Temps</translation>
     </message>
     <message>
         <source>One of a few pictures.</source>
-        <translation type="unfinished"></translation>
+        <translation>Une image parmi quelques-unes.</translation>
     </message>
     <message>
         <source>Sun</source>
-        <translation type="unfinished"></translation>
+        <translation>Soleil</translation>
     </message>
     <message>
         <source>Rain</source>
-        <translation type="unfinished"></translation>
+        <translation>Pluie</translation>
     </message>
     <message>
         <source>Album</source>
-        <translation type="unfinished"></translation>
+        <translation>Album</translation>
     </message>
     <message>
         <source>Any number of pictures.</source>
-        <translation type="unfinished"></translation>
+        <translation>Autant d&apos;images que l&apos;on veut.</translation>
     </message>
     <message>
         <source>Table</source>
-        <translation type="unfinished"></translation>
+        <translation>Tableau</translation>
     </message>
     <message>
         <source>Keys and values.</source>
-        <translation type="unfinished"></translation>
+        <translation>Clés et valeurs.</translation>
     </message>
     <message>
         <source>Lettering</source>
-        <translation type="unfinished"></translation>
+        <translation>Lettrage</translation>
     </message>
     <message>
         <source>The font of a text.</source>
-        <translation type="unfinished"></translation>
+        <translation>La police d&apos;un texte.</translation>
     </message>
     <message>
         <source>Level</source>
-        <translation type="unfinished"></translation>
+        <translation>Niveau</translation>
     </message>
     <message>
         <source>A number that can follow another.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un nombre qui peut en suivre un autre.</translation>
     </message>
 </context>
 <context>
     <name>core/connection</name>
     <message>
         <source>Connection</source>
-        <translation type="unfinished"></translation>
+        <translation>Liaison</translation>
     </message>
     <message>
         <source>From</source>
-        <translation type="unfinished"></translation>
+        <translation>De</translation>
     </message>
     <message>
         <source>The pin at which the connection begins.</source>
-        <translation type="unfinished"></translation>
+        <translation>La broche où commence la liaison.</translation>
     </message>
     <message>
         <source>To</source>
-        <translation type="unfinished"></translation>
+        <translation>À</translation>
     </message>
     <message>
         <source>The pin at which the connection ends.</source>
-        <translation type="unfinished"></translation>
+        <translation>La broche où finit la liaison.</translation>
     </message>
     <message>
         <source>Line width</source>
-        <translation type="unfinished"></translation>
+        <translation>Épaisseur du trait</translation>
     </message>
     <message>
         <source>How thick the line is drawn.</source>
-        <translation type="unfinished"></translation>
+        <translation>L&apos;épaisseur du trait.</translation>
     </message>
     <message>
         <source>Colour</source>
-        <translation type="unfinished"></translation>
+        <translation>Couleur</translation>
     </message>
     <message>
         <source>The colour of the line.</source>
-        <translation type="unfinished"></translation>
+        <translation>La couleur du trait.</translation>
     </message>
 </context>
 <context>
     <name>core/control</name>
     <message>
         <source>Control</source>
-        <translation type="unfinished"></translation>
+        <translation>Commande</translation>
     </message>
 </context>
 <context>
     <name>core/domain</name>
     <message>
         <source>Domain</source>
-        <translation type="unfinished"></translation>
+        <translation>Domaine</translation>
     </message>
 </context>
 <context>
     <name>core/element</name>
     <message>
         <source>Element</source>
-        <translation type="unfinished"></translation>
+        <translation>Élément</translation>
     </message>
     <message>
         <source>Name</source>
-        <translation type="unfinished"></translation>
+        <translation>Nom</translation>
     </message>
     <message>
         <source>A short name without blanks by which other things refer to the element.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un nom court sans espaces par lequel les autres choses désignent l&apos;élément.</translation>
     </message>
     <message>
         <source>Title</source>
-        <translation type="unfinished"></translation>
+        <translation>Titre</translation>
     </message>
     <message>
         <source>The text shown with the element.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le texte montré avec l&apos;élément.</translation>
     </message>
     <message>
         <source>Position</source>
-        <translation type="unfinished"></translation>
+        <translation>Position</translation>
     </message>
     <message>
         <source>Where the centre of the element is.</source>
-        <translation type="unfinished"></translation>
+        <translation>Où est le centre de l&apos;élément.</translation>
     </message>
     <message>
         <source>Size</source>
-        <translation type="unfinished"></translation>
+        <translation>Taille</translation>
     </message>
     <message>
         <source>Width and height of the element.</source>
-        <translation type="unfinished"></translation>
+        <translation>Largeur et hauteur de l&apos;élément.</translation>
     </message>
     <message>
         <source>Orientation</source>
-        <translation type="unfinished"></translation>
+        <translation>Orientation</translation>
     </message>
     <message>
         <source>How far the element is turned clockwise.</source>
-        <translation type="unfinished"></translation>
+        <translation>De combien l&apos;élément est tourné dans le sens horaire.</translation>
     </message>
     <message>
         <source>Turning</source>
-        <translation type="unfinished"></translation>
+        <translation>Rotation</translation>
     </message>
     <message>
         <source>How the element may be turned: freely, by right angles, or not at all.</source>
-        <translation type="unfinished"></translation>
+        <translation>Comment l&apos;élément peut être tourné : librement, par angles droits ou pas du tout.</translation>
     </message>
     <message>
         <source>free</source>
-        <translation type="unfinished"></translation>
+        <translation>libre</translation>
     </message>
     <message>
         <source>quarter</source>
-        <translation type="unfinished"></translation>
+        <translation>quart de tour</translation>
     </message>
     <message>
         <source>fixed</source>
-        <translation type="unfinished"></translation>
+        <translation>fixe</translation>
     </message>
     <message>
         <source>Visible</source>
-        <translation type="unfinished"></translation>
+        <translation>Visible</translation>
     </message>
     <message>
         <source>Whether the element is seen while the model runs.</source>
-        <translation type="unfinished"></translation>
+        <translation>Si l&apos;élément est visible pendant l&apos;exécution du modèle.</translation>
     </message>
 </context>
 <context>
     <name>core/gallery</name>
     <message>
         <source>Gallery of controls</source>
-        <translation type="unfinished"></translation>
+        <translation>Galerie des commandes</translation>
     </message>
     <message>
         <source>Switched on</source>
-        <translation type="unfinished"></translation>
+        <translation>Allumé</translation>
     </message>
     <message>
         <source>A yes or no.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un oui ou non.</translation>
     </message>
     <message>
         <source>Trusted</source>
-        <translation type="unfinished"></translation>
+        <translation>De confiance</translation>
     </message>
     <message>
         <source>A yes or no that is asked about before it changes.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un oui ou non sur lequel on interroge avant qu&apos;il change.</translation>
     </message>
     <message>
         <source>Loudness</source>
-        <translation type="unfinished"></translation>
+        <translation>Volume</translation>
     </message>
     <message>
         <source>One of two words.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un mot parmi deux.</translation>
     </message>
     <message>
         <source>quiet</source>
-        <translation type="unfinished"></translation>
+        <translation>doux</translation>
     </message>
     <message>
         <source>loud</source>
-        <translation type="unfinished"></translation>
+        <translation>fort</translation>
     </message>
     <message>
         <source>Held down</source>
-        <translation type="unfinished"></translation>
+        <translation>Maintenu</translation>
     </message>
     <message>
         <source>True for as long as a button is held down.</source>
-        <translation type="unfinished"></translation>
+        <translation>Vrai tant qu&apos;un bouton est maintenu.</translation>
     </message>
     <message>
         <source>Latched</source>
-        <translation type="unfinished"></translation>
+        <translation>Enclenché</translation>
     </message>
     <message>
         <source>True while a button is pressed in.</source>
-        <translation type="unfinished"></translation>
+        <translation>Vrai tant qu&apos;un bouton est enfoncé.</translation>
     </message>
     <message>
         <source>Direction</source>
-        <translation type="unfinished"></translation>
+        <translation>Sens</translation>
     </message>
     <message>
         <source>A yes or no with words of its own.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un oui ou non avec ses propres mots.</translation>
     </message>
     <message>
         <source>Weather</source>
-        <translation type="unfinished"></translation>
+        <translation>Temps</translation>
     </message>
     <message>
         <source>One of several words, shown as pictures and texts.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un mot parmi plusieurs, montrés en images et en textes.</translation>
     </message>
     <message>
         <source>sun</source>
-        <translation type="unfinished"></translation>
+        <translation>soleil</translation>
     </message>
     <message>
         <source>rain</source>
-        <translation type="unfinished"></translation>
+        <translation>pluie</translation>
     </message>
     <message>
         <source>wind</source>
-        <translation type="unfinished"></translation>
+        <translation>vent</translation>
     </message>
     <message>
         <source>fog</source>
-        <translation type="unfinished"></translation>
+        <translation>brouillard</translation>
     </message>
     <message>
         <source>Force</source>
-        <translation type="unfinished"></translation>
+        <translation>Force</translation>
     </message>
     <message>
         <source>How strongly the wind blows, from 0 to 12.</source>
-        <translation type="unfinished"></translation>
+        <translation>Avec quelle force le vent souffle, de 0 à 12.</translation>
     </message>
     <message>
         <source>Signal</source>
-        <translation type="unfinished"></translation>
+        <translation>Signal</translation>
     </message>
     <message>
         <source>One of a few colours.</source>
-        <translation type="unfinished"></translation>
+        <translation>Une couleur parmi quelques-unes.</translation>
     </message>
     <message>
         <source>Players</source>
-        <translation type="unfinished"></translation>
+        <translation>Joueurs</translation>
     </message>
     <message>
         <source>One of a few whole numbers.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un nombre entier parmi quelques-uns.</translation>
     </message>
     <message>
         <source>Ratio</source>
-        <translation type="unfinished"></translation>
+        <translation>Rapport</translation>
     </message>
     <message>
         <source>One of a few numbers.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un nombre parmi quelques-uns.</translation>
     </message>
     <message>
         <source>Corner</source>
-        <translation type="unfinished"></translation>
+        <translation>Coin</translation>
     </message>
     <message>
         <source>One of a few points.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un point parmi quelques-uns.</translation>
     </message>
     <message>
         <source>Remark</source>
-        <translation type="unfinished"></translation>
+        <translation>Remarque</translation>
     </message>
     <message>
         <source>Any text.</source>
-        <translation type="unfinished"></translation>
+        <translation>N&apos;importe quel texte.</translation>
     </message>
     <message>
         <source>Code</source>
-        <translation type="unfinished"></translation>
+        <translation>Code</translation>
     </message>
     <message>
         <source>A capital letter and a digit.</source>
-        <translation type="unfinished"></translation>
+        <translation>Une majuscule et un chiffre.</translation>
     </message>
     <message>
         <source>Year</source>
-        <translation type="unfinished"></translation>
+        <translation>Année</translation>
     </message>
     <message>
         <source>A whole number.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un nombre entier.</translation>
     </message>
     <message>
         <source>Distance</source>
-        <translation type="unfinished"></translation>
+        <translation>Distance</translation>
     </message>
     <message>
         <source>A length in the unit that you choose.</source>
-        <translation type="unfinished"></translation>
+        <translation>Une longueur dans l&apos;unité que vous choisissez.</translation>
     </message>
     <message>
         <source>Serial number</source>
-        <translation type="unfinished"></translation>
+        <translation>Numéro de série</translation>
     </message>
     <message>
         <source>A text that nobody can change.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un texte que personne ne peut changer.</translation>
     </message>
     <message>
         <source>Pieces</source>
-        <translation type="unfinished"></translation>
+        <translation>Morceaux</translation>
     </message>
     <message>
         <source>Weight</source>
-        <translation type="unfinished"></translation>
+        <translation>Poids</translation>
     </message>
     <message>
         <source>A weight in the unit that you choose.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un poids dans l&apos;unité que vous choisissez.</translation>
     </message>
     <message>
         <source>Slope</source>
-        <translation type="unfinished"></translation>
+        <translation>Pente</translation>
     </message>
     <message>
         <source>An angle; the step follows from what is allowed, in the unit shown.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un angle ; le pas découle de ce qui est permis, dans l&apos;unité montrée.</translation>
     </message>
     <message>
         <source>Place</source>
-        <translation type="unfinished"></translation>
+        <translation>Endroit</translation>
     </message>
     <message>
         <source>A point in the unit that you choose.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un point dans l&apos;unité que vous choisissez.</translation>
     </message>
     <message>
         <source>Level</source>
-        <translation type="unfinished"></translation>
+        <translation>Niveau</translation>
     </message>
     <message>
         <source>A whole number from 0 to 100.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un nombre entier de 0 à 100.</translation>
     </message>
     <message>
         <source>Depth</source>
-        <translation type="unfinished"></translation>
+        <translation>Profondeur</translation>
     </message>
     <message>
         <source>Paint</source>
-        <translation type="unfinished"></translation>
+        <translation>Peinture</translation>
     </message>
     <message>
         <source>Any colour.</source>
-        <translation type="unfinished"></translation>
+        <translation>N&apos;importe quelle couleur.</translation>
     </message>
     <message>
         <source>Trim</source>
-        <translation type="unfinished"></translation>
+        <translation>Format de coupe</translation>
     </message>
     <message>
         <source>Format</source>
-        <translation type="unfinished"></translation>
+        <translation>Format</translation>
     </message>
     <message>
         <source>One of several words, or a width of its own.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un mot parmi plusieurs, ou une largeur propre.</translation>
     </message>
     <message>
         <source>small</source>
-        <translation type="unfinished"></translation>
+        <translation>petit</translation>
     </message>
     <message>
         <source>medium</source>
-        <translation type="unfinished"></translation>
+        <translation>moyen</translation>
     </message>
     <message>
         <source>large</source>
-        <translation type="unfinished"></translation>
+        <translation>grand</translation>
     </message>
     <message>
         <source>own</source>
-        <translation type="unfinished"></translation>
+        <translation>propre</translation>
     </message>
     <message>
         <source>Width</source>
-        <translation type="unfinished"></translation>
+        <translation>Largeur</translation>
     </message>
     <message>
         <source>The width of a format of its own.</source>
-        <translation type="unfinished"></translation>
+        <translation>La largeur d&apos;un format propre.</translation>
     </message>
     <message>
         <source>Guarded</source>
-        <translation type="unfinished"></translation>
+        <translation>Gardé</translation>
     </message>
     <message>
         <source>Whether what belongs to a guard is in use.</source>
-        <translation type="unfinished"></translation>
+        <translation>Si ce qui va avec un garde est utilisé.</translation>
     </message>
     <message>
         <source>Name of the guard</source>
-        <translation type="unfinished"></translation>
+        <translation>Nom du garde</translation>
     </message>
     <message>
         <source>Who keeps watch.</source>
-        <translation type="unfinished"></translation>
+        <translation>Qui monte la garde.</translation>
     </message>
     <message>
         <source>Windy</source>
-        <translation type="unfinished"></translation>
+        <translation>Venteux</translation>
     </message>
     <message>
         <source>Fog, &lt;i&gt;fine&lt;/i&gt; H&lt;sub&gt;2&lt;/sub&gt;O</source>
-        <translation type="unfinished"></translation>
+        <translation>Brouillard, &lt;i&gt;fin&lt;/i&gt; H&lt;sub&gt;2&lt;/sub&gt;O</translation>
     </message>
 </context>
 <context>
     <name>core/info</name>
     <message>
         <source>Explanation</source>
-        <translation type="unfinished"></translation>
+        <translation>Explication</translation>
     </message>
     <message>
         <source>Opens on</source>
-        <translation type="unfinished"></translation>
+        <translation>S&apos;ouvre par</translation>
     </message>
     <message>
         <source>What the reader does to open the explanation.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce que fait le lecteur pour ouvrir l&apos;explication.</translation>
     </message>
     <message>
         <source>click</source>
-        <translation type="unfinished"></translation>
+        <translation>clic</translation>
     </message>
     <message>
         <source>hover</source>
-        <translation type="unfinished"></translation>
+        <translation>survol</translation>
     </message>
     <message>
         <source>Only once</source>
-        <translation type="unfinished"></translation>
+        <translation>Une seule fois</translation>
     </message>
     <message>
         <source>Whether the button goes away when the explanation has been read.</source>
-        <translation type="unfinished"></translation>
+        <translation>Si le bouton disparaît quand l&apos;explication a été lue.</translation>
     </message>
 </context>
 <context>
     <name>core/model</name>
     <message>
         <source>Model</source>
-        <translation type="unfinished"></translation>
+        <translation>Modèle</translation>
     </message>
     <message>
         <source>Title</source>
-        <translation type="unfinished"></translation>
+        <translation>Titre</translation>
     </message>
     <message>
         <source>The name of the model, as people read it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le nom du modèle, tel que les gens le lisent.</translation>
     </message>
     <message>
         <source>Author</source>
-        <translation type="unfinished"></translation>
+        <translation>Auteur</translation>
     </message>
     <message>
         <source>Who made the model.</source>
-        <translation type="unfinished"></translation>
+        <translation>Qui a fait le modèle.</translation>
     </message>
     <message>
         <source>Notes</source>
-        <translation type="unfinished"></translation>
+        <translation>Notes</translation>
     </message>
     <message>
         <source>What a teacher should know before using the model.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce qu&apos;un enseignant devrait savoir avant d&apos;utiliser le modèle.</translation>
     </message>
     <message>
         <source>Paused</source>
-        <translation type="unfinished"></translation>
+        <translation>En pause</translation>
     </message>
     <message>
         <source>Whether the running model stands still for a moment.</source>
-        <translation type="unfinished"></translation>
+        <translation>Si le modèle en cours s&apos;arrête un instant.</translation>
     </message>
 </context>
 <context>
     <name>core/pad</name>
     <message>
         <source>Pad</source>
-        <translation type="unfinished"></translation>
+        <translation>Pastille</translation>
     </message>
 </context>
 <context>
     <name>core/part</name>
     <message>
         <source>Part</source>
-        <translation type="unfinished"></translation>
+        <translation>Pièce</translation>
     </message>
     <message>
         <source>Click</source>
-        <translation type="unfinished"></translation>
+        <translation>Clic</translation>
     </message>
     <message>
         <source>What a click on the part does while the model runs, besides what the part itself does.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce que fait un clic sur la pièce pendant l&apos;exécution du modèle, outre ce que fait la pièce elle-même.</translation>
     </message>
     <message>
         <source>nothing</source>
-        <translation type="unfinished"></translation>
+        <translation>rien</translation>
     </message>
     <message>
         <source>show pop-up</source>
-        <translation type="unfinished"></translation>
+        <translation>montrer la bulle</translation>
     </message>
     <message>
         <source>open link</source>
-        <translation type="unfinished"></translation>
+        <translation>ouvrir le lien</translation>
     </message>
     <message>
         <source>show scene</source>
-        <translation type="unfinished"></translation>
+        <translation>montrer la scène</translation>
     </message>
     <message>
         <source>Link</source>
-        <translation type="unfinished"></translation>
+        <translation>Lien</translation>
     </message>
     <message>
         <source>The address that a click opens.</source>
-        <translation type="unfinished"></translation>
+        <translation>L&apos;adresse qu&apos;ouvre un clic.</translation>
     </message>
     <message>
         <source>Scene</source>
-        <translation type="unfinished"></translation>
+        <translation>Scène</translation>
     </message>
     <message>
         <source>The scene that a click shows.</source>
-        <translation type="unfinished"></translation>
+        <translation>La scène que montre un clic.</translation>
     </message>
 </context>
 <context>
     <name>core/picture</name>
     <message>
         <source>Picture</source>
-        <translation type="unfinished"></translation>
+        <translation>Image</translation>
     </message>
     <message>
         <source>The picture shown.</source>
-        <translation type="unfinished"></translation>
+        <translation>L&apos;image montrée.</translation>
     </message>
     <message>
         <source>More pictures</source>
-        <translation type="unfinished"></translation>
+        <translation>Autres images</translation>
     </message>
     <message>
         <source>Pictures shown in turn after the first one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Images montrées tour à tour après la première.</translation>
     </message>
     <message>
         <source>Keep proportions</source>
-        <translation type="unfinished"></translation>
+        <translation>Garder les proportions</translation>
     </message>
     <message>
         <source>Whether the picture keeps the ratio of width and height.</source>
-        <translation type="unfinished"></translation>
+        <translation>Si l&apos;image garde le rapport de la largeur et de la hauteur.</translation>
     </message>
     <message>
         <source>Mirrored</source>
-        <translation type="unfinished"></translation>
+        <translation>En miroir</translation>
     </message>
     <message>
         <source>Whether left and right are exchanged.</source>
-        <translation type="unfinished"></translation>
+        <translation>Si la gauche et la droite sont échangées.</translation>
     </message>
     <message>
         <source>Framed</source>
-        <translation type="unfinished"></translation>
+        <translation>Encadrée</translation>
     </message>
     <message>
         <source>Whether a thin frame is drawn round the picture.</source>
-        <translation type="unfinished"></translation>
+        <translation>Si un cadre fin est dessiné autour de l&apos;image.</translation>
     </message>
     <message>
         <source>Source</source>
-        <translation type="unfinished"></translation>
+        <translation>Source</translation>
     </message>
     <message>
         <source>Where the picture comes from and who made it.</source>
-        <translation type="unfinished"></translation>
+        <translation>D&apos;où vient l&apos;image et qui l&apos;a faite.</translation>
     </message>
 </context>
 <context>
     <name>core/pin</name>
     <message>
         <source>Pin</source>
-        <translation type="unfinished"></translation>
+        <translation>Broche</translation>
     </message>
 </context>
 <context>
     <name>core/popup</name>
     <message>
         <source>Pop-up</source>
-        <translation type="unfinished"></translation>
+        <translation>Bulle</translation>
     </message>
     <message>
         <source>Open</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouvrir</translation>
     </message>
     <message>
         <source>Whether the pop-up is shown now.</source>
-        <translation type="unfinished"></translation>
+        <translation>Si la bulle est montrée maintenant.</translation>
     </message>
     <message>
         <source>Open at the start</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouverte au départ</translation>
     </message>
     <message>
         <source>Whether the pop-up is open when the model starts.</source>
-        <translation type="unfinished"></translation>
+        <translation>Si la bulle est ouverte quand le modèle démarre.</translation>
     </message>
 </context>
 <context>
     <name>core/scene</name>
     <message>
         <source>Scene</source>
-        <translation type="unfinished"></translation>
+        <translation>Scène</translation>
     </message>
 </context>
 <context>
     <name>core/space</name>
     <message>
         <source>Space</source>
-        <translation type="unfinished"></translation>
+        <translation>Espace</translation>
     </message>
     <message>
         <source>Name</source>
-        <translation type="unfinished"></translation>
+        <translation>Nom</translation>
     </message>
     <message>
         <source>A short name without blanks by which other things refer to the space.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un nom court sans espaces par lequel les autres choses désignent l&apos;espace.</translation>
     </message>
     <message>
         <source>Title</source>
-        <translation type="unfinished"></translation>
+        <translation>Titre</translation>
     </message>
     <message>
         <source>The heading shown above the space.</source>
-        <translation type="unfinished"></translation>
+        <translation>L&apos;en-tête au-dessus de l&apos;espace.</translation>
     </message>
     <message>
         <source>Size</source>
-        <translation type="unfinished"></translation>
+        <translation>Taille</translation>
     </message>
     <message>
         <source>Width and height of the space.</source>
-        <translation type="unfinished"></translation>
+        <translation>Largeur et hauteur de l&apos;espace.</translation>
     </message>
     <message>
         <source>Background</source>
-        <translation type="unfinished"></translation>
+        <translation>Fond</translation>
     </message>
     <message>
         <source>The colour behind the parts.</source>
-        <translation type="unfinished"></translation>
+        <translation>La couleur derrière les pièces.</translation>
     </message>
     <message>
         <source>Grid shown</source>
-        <translation type="unfinished"></translation>
+        <translation>Grille montrée</translation>
     </message>
     <message>
         <source>Whether a grid of 5 mm is drawn behind the parts.</source>
-        <translation type="unfinished"></translation>
+        <translation>Si une grille de 5 mm est dessinée derrière les pièces.</translation>
     </message>
 </context>
 <context>
     <name>core/subpart</name>
     <message>
         <source>Subpart</source>
-        <translation type="unfinished"></translation>
+        <translation>Sous-pièce</translation>
     </message>
     <message>
         <source>Roles</source>
-        <translation type="unfinished"></translation>
+        <translation>Rôles</translation>
     </message>
     <message>
         <source>What the subpart is to its part, where that differs from its class.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce que la sous-pièce est pour sa pièce, quand cela diffère de sa classe.</translation>
     </message>
 </context>
 <context>
     <name>core/text</name>
     <message>
         <source>Text</source>
-        <translation type="unfinished"></translation>
+        <translation>Texte</translation>
     </message>
     <message>
         <source>What is written; it is wrapped at the width of the part.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce qui est écrit ; cela va à la ligne à la largeur de la pièce.</translation>
     </message>
     <message>
         <source>Letter height</source>
-        <translation type="unfinished"></translation>
+        <translation>Hauteur des lettres</translation>
     </message>
     <message>
         <source>Height of a line of the text.</source>
-        <translation type="unfinished"></translation>
+        <translation>Hauteur d&apos;une ligne du texte.</translation>
     </message>
     <message>
         <source>Bold</source>
-        <translation type="unfinished"></translation>
+        <translation>Gras</translation>
     </message>
     <message>
         <source>Whether the letters are bold.</source>
-        <translation type="unfinished"></translation>
+        <translation>Si les lettres sont grasses.</translation>
     </message>
     <message>
         <source>Italic</source>
-        <translation type="unfinished"></translation>
+        <translation>Italique</translation>
     </message>
     <message>
         <source>Whether the letters slope.</source>
-        <translation type="unfinished"></translation>
+        <translation>Si les lettres penchent.</translation>
     </message>
     <message>
         <source>Framed</source>
-        <translation type="unfinished"></translation>
+        <translation>Encadrée</translation>
     </message>
     <message>
         <source>Whether a thin frame is drawn round the text.</source>
-        <translation type="unfinished"></translation>
+        <translation>Si un cadre fin est dessiné autour du texte.</translation>
     </message>
     <message>
         <source>Alignment</source>
-        <translation type="unfinished"></translation>
+        <translation>Alignement</translation>
     </message>
     <message>
         <source>Where the lines stand within the width.</source>
-        <translation type="unfinished"></translation>
+        <translation>Où sont les lignes dans la largeur.</translation>
     </message>
     <message>
         <source>left</source>
-        <translation type="unfinished"></translation>
+        <translation>gauche</translation>
     </message>
     <message>
         <source>center</source>
-        <translation type="unfinished"></translation>
+        <translation>centre</translation>
     </message>
     <message>
         <source>right</source>
-        <translation type="unfinished"></translation>
+        <translation>droite</translation>
     </message>
     <message>
         <source>Colour</source>
-        <translation type="unfinished"></translation>
+        <translation>Couleur</translation>
     </message>
     <message>
         <source>The colour of the letters.</source>
-        <translation type="unfinished"></translation>
+        <translation>La couleur des lettres.</translation>
     </message>
 </context>
 <context>
     <name>electronics/*</name>
     <message>
         <source>Electronics</source>
-        <translation type="unfinished"></translation>
+        <translation>Électronique</translation>
     </message>
     <message>
         <source>Current shown</source>
-        <translation type="unfinished"></translation>
+        <translation>Courant montré</translation>
     </message>
     <message>
         <source>Whether moving dots show the current in the wires.</source>
-        <translation type="unfinished"></translation>
+        <translation>Si des points mobiles montrent le courant dans les fils.</translation>
     </message>
     <message>
         <source>Symbols</source>
-        <translation type="unfinished"></translation>
+        <translation>Symboles</translation>
     </message>
     <message>
         <source>Which family of circuit symbols is drawn.</source>
-        <translation type="unfinished"></translation>
+        <translation>Quelle famille de symboles est dessinée.</translation>
     </message>
     <message>
         <source>European</source>
-        <translation type="unfinished"></translation>
+        <translation>Européens</translation>
     </message>
     <message>
         <source>American</source>
-        <translation type="unfinished"></translation>
+        <translation>Américains</translation>
     </message>
 </context>
 <context>
     <name>electronics/battery</name>
     <message>
         <source>Battery</source>
-        <translation type="unfinished"></translation>
+        <translation>Pile</translation>
     </message>
     <message>
         <source>Voltage</source>
-        <translation type="unfinished"></translation>
+        <translation>Tension</translation>
     </message>
     <message>
         <source>The voltage of the fresh battery.</source>
-        <translation type="unfinished"></translation>
+        <translation>La tension de la pile neuve.</translation>
     </message>
     <message>
         <source>Cells</source>
-        <translation type="unfinished"></translation>
+        <translation>Cellules</translation>
     </message>
     <message>
         <source>How many cells the battery is made of.</source>
-        <translation type="unfinished"></translation>
+        <translation>De combien de cellules la pile est faite.</translation>
     </message>
     <message>
         <source>Internal resistance</source>
-        <translation type="unfinished"></translation>
+        <translation>Résistance interne</translation>
     </message>
     <message>
         <source>The resistance of the battery itself.</source>
-        <translation type="unfinished"></translation>
+        <translation>La résistance de la pile elle-même.</translation>
     </message>
     <message>
         <source>Terminals</source>
-        <translation type="unfinished"></translation>
+        <translation>Bornes</translation>
     </message>
     <message>
         <source>How wires are joined to the battery.</source>
-        <translation type="unfinished"></translation>
+        <translation>Comment les fils sont reliés à la pile.</translation>
     </message>
     <message>
         <source>Snap</source>
-        <translation type="unfinished"></translation>
+        <translation>Pression</translation>
     </message>
     <message>
         <source>Clip</source>
-        <translation type="unfinished"></translation>
+        <translation>Pince</translation>
     </message>
     <message>
         <source>Wire</source>
-        <translation type="unfinished"></translation>
+        <translation>Fil</translation>
     </message>
     <message>
         <source>Polarity shown</source>
-        <translation type="unfinished"></translation>
+        <translation>Polarité montrée</translation>
     </message>
     <message>
         <source>Whether plus and minus are drawn at the pins.</source>
-        <translation type="unfinished"></translation>
+        <translation>Si plus et moins sont dessinés aux broches.</translation>
     </message>
     <message>
         <source>Rechargeable</source>
-        <translation type="unfinished"></translation>
+        <translation>Rechargeable</translation>
     </message>
     <message>
         <source>Whether the battery can be charged again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Si la pile peut être rechargée.</translation>
     </message>
 </context>
 <context>
     <name>electronics/block</name>
     <message>
         <source>Logic block</source>
-        <translation type="unfinished"></translation>
+        <translation>Bloc logique</translation>
     </message>
     <message>
         <source>Operation</source>
-        <translation type="unfinished"></translation>
+        <translation>Opération</translation>
     </message>
     <message>
         <source>How the block works out its output from its inputs.</source>
-        <translation type="unfinished"></translation>
+        <translation>Comment le bloc calcule sa sortie à partir de ses entrées.</translation>
     </message>
     <message>
         <source>AND</source>
-        <translation type="unfinished"></translation>
+        <translation>ET</translation>
     </message>
     <message>
         <source>OR</source>
-        <translation type="unfinished"></translation>
+        <translation>OU</translation>
     </message>
     <message>
         <source>NOT</source>
-        <translation type="unfinished"></translation>
+        <translation>NON</translation>
     </message>
     <message>
         <source>NAND</source>
-        <translation type="unfinished"></translation>
+        <translation>NAND</translation>
     </message>
     <message>
         <source>NOR</source>
-        <translation type="unfinished"></translation>
+        <translation>NOR</translation>
     </message>
     <message>
         <source>XOR</source>
-        <translation type="unfinished"></translation>
+        <translation>XOR</translation>
     </message>
     <message>
         <source>Inverted output</source>
-        <translation type="unfinished"></translation>
+        <translation>Sortie inversée</translation>
     </message>
     <message>
         <source>Whether the output is turned round.</source>
-        <translation type="unfinished"></translation>
+        <translation>Si la sortie est inversée.</translation>
     </message>
     <message>
         <source>Truth table shown</source>
-        <translation type="unfinished"></translation>
+        <translation>Table de vérité montrée</translation>
     </message>
     <message>
         <source>Whether the truth table is drawn below the block.</source>
-        <translation type="unfinished"></translation>
+        <translation>Si la table de vérité est dessinée sous le bloc.</translation>
     </message>
     <message>
         <source>Symbols</source>
-        <translation type="unfinished"></translation>
+        <translation>Symboles</translation>
     </message>
     <message>
         <source>A box with a sign, or the curved shapes.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un rectangle avec un signe, ou les formes courbes.</translation>
     </message>
     <message>
         <source>European</source>
-        <translation type="unfinished"></translation>
+        <translation>Européens</translation>
     </message>
     <message>
         <source>American</source>
-        <translation type="unfinished"></translation>
+        <translation>Américains</translation>
     </message>
     <message>
         <source>Delay</source>
-        <translation type="unfinished"></translation>
+        <translation>Retard</translation>
     </message>
     <message>
         <source>How long the output takes to follow the inputs.</source>
-        <translation type="unfinished"></translation>
+        <translation>Combien de temps la sortie met à suivre les entrées.</translation>
     </message>
     <message>
         <source>Input names</source>
-        <translation type="unfinished"></translation>
+        <translation>Noms des entrées</translation>
     </message>
     <message>
         <source>What is written beside the inputs, from top to bottom.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce qui est écrit à côté des entrées, de haut en bas.</translation>
     </message>
     <message>
         <source>Truth table</source>
-        <translation type="unfinished"></translation>
+        <translation>Table de vérité</translation>
     </message>
     <message>
         <source>The output for every combination of the inputs.</source>
-        <translation type="unfinished"></translation>
+        <translation>La sortie pour chaque combinaison des entrées.</translation>
     </message>
     <message>
         <source>NOT AND</source>
-        <translation type="unfinished"></translation>
+        <translation>NON ET</translation>
     </message>
     <message>
         <source>NOT OR</source>
-        <translation type="unfinished"></translation>
+        <translation>NON OU</translation>
     </message>
     <message>
         <source>EITHER OR</source>
-        <translation type="unfinished"></translation>
+        <translation>OU EXCLUSIF</translation>
     </message>
 </context>
 <context>
     <name>electronics/buzzer</name>
     <message>
         <source>Buzzer</source>
-        <translation type="unfinished"></translation>
+        <translation>Vibreur</translation>
     </message>
     <message>
         <source>Sounds at the start</source>
-        <translation type="unfinished"></translation>
+        <translation>Sonne au départ</translation>
     </message>
     <message>
         <source>Whether the buzzer sounds when the model starts.</source>
-        <translation type="unfinished"></translation>
+        <translation>Si le vibreur sonne quand le modèle démarre.</translation>
     </message>
     <message>
         <source>Pulsed</source>
-        <translation type="unfinished"></translation>
+        <translation>Intermittent</translation>
     </message>
     <message>
         <source>Whether the sound goes on and off.</source>
-        <translation type="unfinished"></translation>
+        <translation>Si le son va et vient.</translation>
     </message>
     <message>
         <source>Loudness</source>
-        <translation type="unfinished"></translation>
+        <translation>Volume</translation>
     </message>
     <message>
         <source>Whether the buzzer sounds softly or loudly.</source>
-        <translation type="unfinished"></translation>
+        <translation>Si le vibreur sonne doucement ou fort.</translation>
     </message>
     <message>
         <source>soft</source>
-        <translation type="unfinished"></translation>
+        <translation>doux</translation>
     </message>
     <message>
         <source>loud</source>
-        <translation type="unfinished"></translation>
+        <translation>fort</translation>
     </message>
     <message>
         <source>Frequency</source>
-        <translation type="unfinished"></translation>
+        <translation>Fréquence</translation>
     </message>
     <message>
         <source>How high the tone is.</source>
-        <translation type="unfinished"></translation>
+        <translation>La hauteur du son.</translation>
     </message>
     <message>
         <source>Melody</source>
-        <translation type="unfinished"></translation>
+        <translation>Mélodie</translation>
     </message>
     <message>
         <source>The notes that are played in turn, as numbers of half tones; 60 is the middle C.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les notes jouées tour à tour, en numéros de demi-tons ; 60 est le do central.</translation>
     </message>
     <message>
         <source>Sign</source>
-        <translation type="unfinished"></translation>
+        <translation>Signe</translation>
     </message>
     <message>
         <source>The picture that stands for the sound.</source>
-        <translation type="unfinished"></translation>
+        <translation>L&apos;image qui représente le son.</translation>
     </message>
     <message>
         <source>Bell</source>
-        <translation type="unfinished"></translation>
+        <translation>Cloche</translation>
     </message>
     <message>
         <source>Horn</source>
-        <translation type="unfinished"></translation>
+        <translation>Klaxon</translation>
     </message>
     <message>
         <source>Siren</source>
-        <translation type="unfinished"></translation>
+        <translation>Sirène</translation>
     </message>
     <message>
         <source>Pictures while sounding</source>
-        <translation type="unfinished"></translation>
+        <translation>Images pendant le son</translation>
     </message>
     <message>
         <source>Pictures shown in turn while the buzzer sounds.</source>
-        <translation type="unfinished"></translation>
+        <translation>Images montrées tour à tour pendant que le vibreur sonne.</translation>
     </message>
 </context>
 <context>
     <name>electronics/case</name>
     <message>
         <source>Case</source>
-        <translation type="unfinished"></translation>
+        <translation>Boîtier</translation>
     </message>
     <message>
         <source>Transparent</source>
-        <translation type="unfinished"></translation>
+        <translation>Transparent</translation>
     </message>
     <message>
         <source>Whether what lies behind the case is seen.</source>
-        <translation type="unfinished"></translation>
+        <translation>Si ce qui est derrière le boîtier est visible.</translation>
     </message>
 </context>
 <context>
     <name>electronics/component</name>
     <message>
         <source>Component</source>
-        <translation type="unfinished"></translation>
+        <translation>Composant</translation>
     </message>
     <message>
         <source>Reference</source>
-        <translation type="unfinished"></translation>
+        <translation>Repère</translation>
     </message>
     <message>
         <source>Letters and number by which the component is called in the circuit, for example R1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les lettres et le nombre par lesquels le composant est désigné dans le circuit, par exemple R1.</translation>
     </message>
     <message>
         <source>Reference shown</source>
-        <translation type="unfinished"></translation>
+        <translation>Repère montré</translation>
     </message>
     <message>
         <source>Whether the reference is written beside the component.</source>
-        <translation type="unfinished"></translation>
+        <translation>Si le repère est écrit à côté du composant.</translation>
     </message>
     <message>
         <source>Value shown</source>
-        <translation type="unfinished"></translation>
+        <translation>Valeur montrée</translation>
     </message>
     <message>
         <source>Whether the main value is written beside the component.</source>
-        <translation type="unfinished"></translation>
+        <translation>Si la valeur principale est écrite à côté du composant.</translation>
     </message>
     <message>
         <source>Label place</source>
-        <translation type="unfinished"></translation>
+        <translation>Place de l&apos;étiquette</translation>
     </message>
     <message>
         <source>Where the label stands, seen from the centre.</source>
-        <translation type="unfinished"></translation>
+        <translation>Où se trouve l&apos;étiquette, vue du centre.</translation>
     </message>
     <message>
         <source>Output name</source>
-        <translation type="unfinished"></translation>
+        <translation>Nom de sortie</translation>
     </message>
     <message>
         <source>The name by which flowcharts switch the component; empty when none does.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le nom sous lequel les organigrammes commutent le composant ; vide si aucun ne le fait.</translation>
     </message>
     <message>
         <source>Level now</source>
-        <translation type="unfinished"></translation>
+        <translation>Niveau actuel</translation>
     </message>
     <message>
         <source>How strongly a running flowchart has switched the component on, in percent; -1 while none has.</source>
-        <translation type="unfinished"></translation>
+        <translation>Avec quelle force un organigramme en cours a allumé le composant, en pour cent ; -1 tant qu&apos;aucun ne l&apos;a fait.</translation>
     </message>
     <message>
         <source>Broken</source>
-        <translation type="unfinished"></translation>
+        <translation>En panne</translation>
     </message>
     <message>
         <source>A broken component lets no current through.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un composant en panne ne laisse passer aucun courant.</translation>
     </message>
 </context>
 <context>
     <name>electronics/control</name>
     <message>
         <source>Control</source>
-        <translation type="unfinished"></translation>
+        <translation>Commande</translation>
     </message>
     <message>
         <source>Setting</source>
-        <translation type="unfinished"></translation>
+        <translation>Réglage</translation>
     </message>
     <message>
         <source>Where the control stands, in percent.</source>
-        <translation type="unfinished"></translation>
+        <translation>Où se trouve la commande, en pour cent.</translation>
     </message>
     <message>
         <source>Can be worked</source>
-        <translation type="unfinished"></translation>
+        <translation>Manœuvrable</translation>
     </message>
     <message>
         <source>Whether the reader may move the control while the model runs.</source>
-        <translation type="unfinished"></translation>
+        <translation>Si le lecteur peut déplacer la commande pendant l&apos;exécution du modèle.</translation>
     </message>
 </context>
 <context>
     <name>electronics/led</name>
     <message>
         <source>LED</source>
-        <translation type="unfinished"></translation>
+        <translation>LED</translation>
     </message>
     <message>
         <source>Colour</source>
-        <translation type="unfinished"></translation>
+        <translation>Couleur</translation>
     </message>
     <message>
         <source>The colour of the light.</source>
-        <translation type="unfinished"></translation>
+        <translation>La couleur de la lumière.</translation>
     </message>
     <message>
         <source>Lit at the start</source>
-        <translation type="unfinished"></translation>
+        <translation>Allumée au départ</translation>
     </message>
     <message>
         <source>Whether the LED shines when the model starts.</source>
-        <translation type="unfinished"></translation>
+        <translation>Si la LED brille quand le modèle démarre.</translation>
     </message>
     <message>
         <source>Blinking</source>
-        <translation type="unfinished"></translation>
+        <translation>Clignotante</translation>
     </message>
     <message>
         <source>Whether the LED goes on and off by itself.</source>
-        <translation type="unfinished"></translation>
+        <translation>Si la LED s&apos;allume et s&apos;éteint d&apos;elle-même.</translation>
     </message>
     <message>
         <source>Lens</source>
-        <translation type="unfinished"></translation>
+        <translation>Lentille</translation>
     </message>
     <message>
         <source>Clear lenses throw a narrow beam, milky ones shine all round.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les lentilles claires jettent un faisceau étroit, les laiteuses brillent tout autour.</translation>
     </message>
     <message>
         <source>Clear</source>
-        <translation type="unfinished"></translation>
+        <translation>Vider</translation>
     </message>
     <message>
         <source>Milky</source>
-        <translation type="unfinished"></translation>
+        <translation>Laiteuse</translation>
     </message>
     <message>
         <source>Brightness</source>
-        <translation type="unfinished"></translation>
+        <translation>Luminosité</translation>
     </message>
     <message>
         <source>How brightly the LED shines, in percent.</source>
-        <translation type="unfinished"></translation>
+        <translation>La luminosité de la LED, en pour cent.</translation>
     </message>
     <message>
         <source>Blink period</source>
-        <translation type="unfinished"></translation>
+        <translation>Période de clignotement</translation>
     </message>
     <message>
         <source>The time from one flash to the next.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le temps d&apos;un éclat au suivant.</translation>
     </message>
     <message>
         <source>Blink pattern</source>
-        <translation type="unfinished"></translation>
+        <translation>Motif de clignotement</translation>
     </message>
     <message>
         <source>Times in seconds for which the LED is on and off in turn.</source>
-        <translation type="unfinished"></translation>
+        <translation>Temps en secondes pendant lesquels la LED est tour à tour allumée et éteinte.</translation>
     </message>
     <message>
         <source>Forward voltage</source>
-        <translation type="unfinished"></translation>
+        <translation>Tension directe</translation>
     </message>
     <message>
         <source>The voltage at which the LED begins to shine.</source>
-        <translation type="unfinished"></translation>
+        <translation>La tension à laquelle la LED commence à briller.</translation>
     </message>
     <message>
         <source>Greatest current</source>
-        <translation type="unfinished"></translation>
+        <translation>Courant maximal</translation>
     </message>
     <message>
         <source>A greater current destroys the LED.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un courant plus fort détruit la LED.</translation>
     </message>
     <message>
         <source>Diameter</source>
-        <translation type="unfinished"></translation>
+        <translation>Diamètre</translation>
     </message>
     <message>
         <source>The diameter of the lens.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le diamètre de la lentille.</translation>
     </message>
 </context>
 <context>
     <name>electronics/light-sensor</name>
     <message>
         <source>Light sensor</source>
-        <translation type="unfinished"></translation>
+        <translation>Capteur de lumière</translation>
     </message>
     <message>
         <source>Light</source>
-        <translation type="unfinished"></translation>
+        <translation>Léger</translation>
     </message>
     <message>
         <source>How bright it is at the start, in percent.</source>
-        <translation type="unfinished"></translation>
+        <translation>La luminosité au départ, en pour cent.</translation>
     </message>
     <message>
         <source>Switches at</source>
-        <translation type="unfinished"></translation>
+        <translation>Bascule à</translation>
     </message>
     <message>
         <source>The brightness at which the sensor counts as dark.</source>
-        <translation type="unfinished"></translation>
+        <translation>La luminosité à partir de laquelle il fait sombre pour le capteur.</translation>
     </message>
     <message>
         <source>Signal when</source>
-        <translation type="unfinished"></translation>
+        <translation>Signal quand il fait</translation>
     </message>
     <message>
         <source>Whether the sensor gives its signal in the dark or in the light.</source>
-        <translation type="unfinished"></translation>
+        <translation>Si le capteur donne son signal dans le noir ou à la lumière.</translation>
     </message>
     <message>
         <source>dark</source>
-        <translation type="unfinished"></translation>
+        <translation>sombre</translation>
     </message>
     <message>
         <source>bright</source>
-        <translation type="unfinished"></translation>
+        <translation>clair</translation>
     </message>
     <message>
         <source>Follows its slider</source>
-        <translation type="unfinished"></translation>
+        <translation>Suit son curseur</translation>
     </message>
     <message>
         <source>Whether the reader sets the brightness with the slider.</source>
-        <translation type="unfinished"></translation>
+        <translation>Si le lecteur règle la luminosité avec le curseur.</translation>
     </message>
     <message>
         <source>Resistance in the dark</source>
-        <translation type="unfinished"></translation>
+        <translation>Résistance dans le noir</translation>
     </message>
     <message>
         <source>The resistance when no light falls on the sensor.</source>
-        <translation type="unfinished"></translation>
+        <translation>La résistance quand aucune lumière ne tombe sur le capteur.</translation>
     </message>
     <message>
         <source>Resistance in the light</source>
-        <translation type="unfinished"></translation>
+        <translation>Résistance à la lumière</translation>
     </message>
     <message>
         <source>The resistance in full light.</source>
-        <translation type="unfinished"></translation>
+        <translation>La résistance en pleine lumière.</translation>
     </message>
     <message>
         <source>Characteristic</source>
-        <translation type="unfinished"></translation>
+        <translation>Caractéristique</translation>
     </message>
     <message>
         <source>Pairs of brightness in lux and resistance in ohms between which the sensor interpolates.</source>
-        <translation type="unfinished"></translation>
+        <translation>Couples de luminosité en lux et de résistance en ohms entre lesquels le capteur interpole.</translation>
     </message>
 </context>
 <context>
     <name>electronics/meter</name>
     <message>
         <source>Meter</source>
-        <translation type="unfinished"></translation>
+        <translation>Appareil de mesure</translation>
     </message>
     <message>
         <source>Measures</source>
-        <translation type="unfinished"></translation>
+        <translation>Mesure</translation>
     </message>
     <message>
         <source>What the meter measures.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce que mesure l&apos;appareil.</translation>
     </message>
     <message>
         <source>Voltage</source>
-        <translation type="unfinished"></translation>
+        <translation>Tension</translation>
     </message>
     <message>
         <source>Current</source>
-        <translation type="unfinished"></translation>
+        <translation>Courant</translation>
     </message>
     <message>
         <source>Resistance</source>
-        <translation type="unfinished"></translation>
+        <translation>Résistance</translation>
     </message>
     <message>
         <source>Display</source>
-        <translation type="unfinished"></translation>
+        <translation>Affichage</translation>
     </message>
     <message>
         <source>Figures, or a needle over a scale.</source>
-        <translation type="unfinished"></translation>
+        <translation>Des chiffres, ou une aiguille sur une échelle.</translation>
     </message>
     <message>
         <source>digital</source>
-        <translation type="unfinished"></translation>
+        <translation>numérique</translation>
     </message>
     <message>
         <source>needle</source>
-        <translation type="unfinished"></translation>
+        <translation>aiguille</translation>
     </message>
     <message>
         <source>Hold</source>
-        <translation type="unfinished"></translation>
+        <translation>Garder</translation>
     </message>
     <message>
         <source>Whether the reading stays as it is.</source>
-        <translation type="unfinished"></translation>
+        <translation>Si la mesure reste telle quelle.</translation>
     </message>
     <message>
         <source>Peak shown</source>
-        <translation type="unfinished"></translation>
+        <translation>Crête montrée</translation>
     </message>
     <message>
         <source>Whether the greatest reading so far is shown as well.</source>
-        <translation type="unfinished"></translation>
+        <translation>Si la plus grande mesure jusqu&apos;ici est montrée aussi.</translation>
     </message>
     <message>
         <source>Needle colour</source>
-        <translation type="unfinished"></translation>
+        <translation>Couleur de l&apos;aiguille</translation>
     </message>
     <message>
         <source>The colour of the needle.</source>
-        <translation type="unfinished"></translation>
+        <translation>La couleur de l&apos;aiguille.</translation>
     </message>
     <message>
         <source>Measures at</source>
-        <translation type="unfinished"></translation>
+        <translation>Mesure à</translation>
     </message>
     <message>
         <source>The pin at which the meter measures.</source>
-        <translation type="unfinished"></translation>
+        <translation>La broche où l&apos;appareil mesure.</translation>
     </message>
     <message>
         <source>Scale marks</source>
-        <translation type="unfinished"></translation>
+        <translation>Traits de l&apos;échelle</translation>
     </message>
     <message>
         <source>Where the scale has long marks, in the quantity&apos;s basic unit.</source>
-        <translation type="unfinished"></translation>
+        <translation>Où l&apos;échelle a de longs traits, dans l&apos;unité de base de la grandeur.</translation>
     </message>
     <message>
         <source>Voltage (V)</source>
-        <translation type="unfinished"></translation>
+        <translation>Tension (V)</translation>
     </message>
     <message>
         <source>Current (A)</source>
-        <translation type="unfinished"></translation>
+        <translation>Courant (A)</translation>
     </message>
     <message>
         <source>Resistance (Ω)</source>
-        <translation type="unfinished"></translation>
+        <translation>Résistance (Ω)</translation>
     </message>
 </context>
 <context>
     <name>electronics/pad</name>
     <message>
         <source>Solder pad</source>
-        <translation type="unfinished"></translation>
+        <translation>Pastille</translation>
     </message>
     <message>
         <source>Shape</source>
-        <translation type="unfinished"></translation>
+        <translation>Forme</translation>
     </message>
     <message>
         <source>The outline of the copper.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le contour du cuivre.</translation>
     </message>
     <message>
         <source>round</source>
-        <translation type="unfinished"></translation>
+        <translation>ronde</translation>
     </message>
     <message>
         <source>square</source>
-        <translation type="unfinished"></translation>
+        <translation>carrée</translation>
     </message>
     <message>
         <source>oval</source>
-        <translation type="unfinished"></translation>
+        <translation>ovale</translation>
     </message>
     <message>
         <source>Diameter</source>
-        <translation type="unfinished"></translation>
+        <translation>Diamètre</translation>
     </message>
     <message>
         <source>How wide the copper is.</source>
-        <translation type="unfinished"></translation>
+        <translation>La largeur du cuivre.</translation>
     </message>
     <message>
         <source>Plated through</source>
-        <translation type="unfinished"></translation>
+        <translation>Métallisée</translation>
     </message>
     <message>
         <source>Whether the hole is lined with metal.</source>
-        <translation type="unfinished"></translation>
+        <translation>Si le trou est revêtu de métal.</translation>
     </message>
 </context>
 <context>
     <name>electronics/pin</name>
     <message>
         <source>Pin</source>
-        <translation type="unfinished"></translation>
+        <translation>Broche</translation>
     </message>
     <message>
         <source>Polarity</source>
-        <translation type="unfinished"></translation>
+        <translation>Polarité</translation>
     </message>
     <message>
         <source>Which pole of the supply belongs here, if it matters.</source>
-        <translation type="unfinished"></translation>
+        <translation>Quel pôle de l&apos;alimentation va ici, si cela compte.</translation>
     </message>
     <message>
         <source>none</source>
-        <translation type="unfinished"></translation>
+        <translation>aucun</translation>
     </message>
     <message>
         <source>positive</source>
-        <translation type="unfinished"></translation>
+        <translation>positif</translation>
     </message>
     <message>
         <source>negative</source>
-        <translation type="unfinished"></translation>
+        <translation>négatif</translation>
     </message>
     <message>
         <source>Name shown</source>
-        <translation type="unfinished"></translation>
+        <translation>Nom montré</translation>
     </message>
     <message>
         <source>Whether the pin&apos;s name is written beside it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Si le nom de la broche est écrit à côté.</translation>
     </message>
 </context>
 <context>
     <name>electronics/push-button</name>
     <message>
         <source>Push button</source>
-        <translation type="unfinished"></translation>
+        <translation>Bouton-poussoir</translation>
     </message>
     <message>
         <source>Cap colour</source>
-        <translation type="unfinished"></translation>
+        <translation>Couleur du capuchon</translation>
     </message>
     <message>
         <source>The colour of the cap.</source>
-        <translation type="unfinished"></translation>
+        <translation>La couleur du capuchon.</translation>
     </message>
     <message>
         <source>Lights up</source>
-        <translation type="unfinished"></translation>
+        <translation>S&apos;allume</translation>
     </message>
     <message>
         <source>Whether a lamp in the cap shines while the button is held.</source>
-        <translation type="unfinished"></translation>
+        <translation>Si une lampe brille dans le capuchon tant que le bouton est maintenu.</translation>
     </message>
 </context>
 <context>
     <name>electronics/resistor</name>
     <message>
         <source>Resistor</source>
-        <translation type="unfinished"></translation>
+        <translation>Résistance</translation>
     </message>
     <message>
         <source>Resistance</source>
-        <translation type="unfinished"></translation>
+        <translation>Résistance</translation>
     </message>
     <message>
         <source>The resistance as it is printed on the part.</source>
-        <translation type="unfinished"></translation>
+        <translation>La résistance telle qu&apos;elle est imprimée sur la pièce.</translation>
     </message>
     <message>
         <source>Tolerance in %</source>
-        <translation type="unfinished"></translation>
+        <translation>Tolérance en %</translation>
     </message>
     <message>
         <source>How far the true resistance may be from the printed one, in percent.</source>
-        <translation type="unfinished"></translation>
+        <translation>De combien la vraie résistance peut s&apos;écarter de celle imprimée, en pour cent.</translation>
     </message>
     <message>
         <source>Power rating</source>
-        <translation type="unfinished"></translation>
+        <translation>Puissance admissible</translation>
     </message>
     <message>
         <source>The power that the part stands without burning.</source>
-        <translation type="unfinished"></translation>
+        <translation>La puissance que la pièce supporte sans brûler.</translation>
     </message>
     <message>
         <source>Colour bands</source>
-        <translation type="unfinished"></translation>
+        <translation>Anneaux de couleur</translation>
     </message>
     <message>
         <source>Whether the colour bands are drawn.</source>
-        <translation type="unfinished"></translation>
+        <translation>Si les anneaux de couleur sont dessinés.</translation>
     </message>
     <message>
         <source>Symbol</source>
-        <translation type="unfinished"></translation>
+        <translation>Symbole</translation>
     </message>
     <message>
         <source>The box, or the zigzag line.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le rectangle, ou la ligne en zigzag.</translation>
     </message>
     <message>
         <source>European</source>
-        <translation type="unfinished"></translation>
+        <translation>Européens</translation>
     </message>
     <message>
         <source>American</source>
-        <translation type="unfinished"></translation>
+        <translation>Américains</translation>
     </message>
 </context>
 <context>
     <name>electronics/switch</name>
     <message>
         <source>Switch</source>
-        <translation type="unfinished"></translation>
+        <translation>Interrupteur</translation>
     </message>
     <message>
         <source>Closed</source>
-        <translation type="unfinished"></translation>
+        <translation>Fermé</translation>
     </message>
     <message>
         <source>Whether the switch lets current through at the start.</source>
-        <translation type="unfinished"></translation>
+        <translation>Si l&apos;interrupteur laisse passer le courant au départ.</translation>
     </message>
     <message>
         <source>Springs back</source>
-        <translation type="unfinished"></translation>
+        <translation>Revient tout seul</translation>
     </message>
     <message>
         <source>Whether the switch stays closed only while it is held.</source>
-        <translation type="unfinished"></translation>
+        <translation>Si l&apos;interrupteur ne reste fermé que tant qu&apos;il est maintenu.</translation>
     </message>
     <message>
         <source>Lever side</source>
-        <translation type="unfinished"></translation>
+        <translation>Côté du levier</translation>
     </message>
     <message>
         <source>On which side the lever has its hinge.</source>
-        <translation type="unfinished"></translation>
+        <translation>De quel côté le levier a sa charnière.</translation>
     </message>
     <message>
         <source>left</source>
-        <translation type="unfinished"></translation>
+        <translation>gauche</translation>
     </message>
     <message>
         <source>right</source>
-        <translation type="unfinished"></translation>
+        <translation>droite</translation>
     </message>
     <message>
         <source>Contact resistance</source>
-        <translation type="unfinished"></translation>
+        <translation>Résistance de contact</translation>
     </message>
     <message>
         <source>The resistance of the closed contact.</source>
-        <translation type="unfinished"></translation>
+        <translation>La résistance du contact fermé.</translation>
     </message>
     <message>
         <source>Bounce time</source>
-        <translation type="unfinished"></translation>
+        <translation>Durée des rebonds</translation>
     </message>
     <message>
         <source>How long the contact chatters when it closes.</source>
-        <translation type="unfinished"></translation>
+        <translation>Combien de temps le contact rebondit en se fermant.</translation>
     </message>
     <message>
         <source>Key</source>
-        <translation type="unfinished"></translation>
+        <translation>Clé</translation>
     </message>
     <message>
         <source>The key that works the switch while the model runs; one capital letter or digit.</source>
-        <translation type="unfinished"></translation>
+        <translation>La touche qui manœuvre l&apos;interrupteur pendant l&apos;exécution du modèle ; une majuscule ou un chiffre.</translation>
     </message>
 </context>
 <context>
     <name>electronics/wire</name>
     <message>
         <source>Wire</source>
-        <translation type="unfinished"></translation>
+        <translation>Fil</translation>
     </message>
     <message>
         <source>Insulated</source>
-        <translation type="unfinished"></translation>
+        <translation>Isolé</translation>
     </message>
     <message>
         <source>Whether the wire has a coloured cover.</source>
-        <translation type="unfinished"></translation>
+        <translation>Si le fil a une gaine colorée.</translation>
     </message>
     <message>
         <source>Stranded</source>
-        <translation type="unfinished"></translation>
+        <translation>Multibrin</translation>
     </message>
     <message>
         <source>Whether the wire is made of many thin ones.</source>
-        <translation type="unfinished"></translation>
+        <translation>Si le fil est fait de beaucoup de fils fins.</translation>
     </message>
     <message>
         <source>Route</source>
-        <translation type="unfinished"></translation>
+        <translation>Parcours</translation>
     </message>
     <message>
         <source>Along right angles, or straight from pin to pin.</source>
-        <translation type="unfinished"></translation>
+        <translation>Par angles droits, ou tout droit de broche à broche.</translation>
     </message>
     <message>
         <source>straight</source>
-        <translation type="unfinished"></translation>
+        <translation>droit</translation>
     </message>
     <message>
         <source>square</source>
-        <translation type="unfinished"></translation>
+        <translation>carrée</translation>
     </message>
     <message>
         <source>Cross-section in mm²</source>
-        <translation type="unfinished"></translation>
+        <translation>Section en mm²</translation>
     </message>
     <message>
         <source>The copper&apos;s cross-section in square millimetres.</source>
-        <translation type="unfinished"></translation>
+        <translation>La section du cuivre en millimètres carrés.</translation>
     </message>
     <message>
         <source>Bends</source>
-        <translation type="unfinished"></translation>
+        <translation>Coudes</translation>
     </message>
     <message>
         <source>The points over which the wire runs, from its beginning to its end.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les points par lesquels passe le fil, de son début à sa fin.</translation>
     </message>
 </context>
 <context>
     <name>flowcharts/*</name>
     <message>
         <source>Flowcharts</source>
-        <translation type="unfinished"></translation>
+        <translation>Organigrammes</translation>
     </message>
     <message>
         <source>Speed</source>
-        <translation type="unfinished"></translation>
+        <translation>Vitesse</translation>
     </message>
     <message>
         <source>How fast the flowcharts of the space run.</source>
-        <translation type="unfinished"></translation>
+        <translation>À quelle vitesse s&apos;exécutent les organigrammes de l&apos;espace.</translation>
     </message>
     <message>
         <source>Fast</source>
-        <translation type="unfinished"></translation>
+        <translation>Rapide</translation>
     </message>
     <message>
         <source>Normal</source>
-        <translation type="unfinished"></translation>
+        <translation>Normal</translation>
     </message>
     <message>
         <source>Slow</source>
-        <translation type="unfinished"></translation>
+        <translation>Lente</translation>
     </message>
     <message>
         <source>Manual step</source>
-        <translation type="unfinished"></translation>
+        <translation>Pas à pas</translation>
     </message>
     <message>
         <source>Step</source>
-        <translation type="unfinished"></translation>
+        <translation>Pas</translation>
     </message>
     <message>
         <source>Held down to run the next block at the speed Manual step.</source>
-        <translation type="unfinished"></translation>
+        <translation>Maintenu pour exécuter le bloc suivant à la vitesse Pas à pas.</translation>
     </message>
 </context>
 <context>
     <name>flowcharts/block</name>
     <message>
         <source>Flowchart block</source>
-        <translation type="unfinished"></translation>
+        <translation>Bloc d&apos;organigramme</translation>
     </message>
     <message>
         <source>Comment</source>
-        <translation type="unfinished"></translation>
+        <translation>Commentaire</translation>
     </message>
     <message>
         <source>A remark for the readers of the chart.</source>
-        <translation type="unfinished"></translation>
+        <translation>Une remarque pour les lecteurs de l&apos;organigramme.</translation>
     </message>
     <message>
         <source>Comment shown</source>
-        <translation type="unfinished"></translation>
+        <translation>Commentaire montré</translation>
     </message>
     <message>
         <source>Whether the remark is written beside the block.</source>
-        <translation type="unfinished"></translation>
+        <translation>Si la remarque est écrite à côté du bloc.</translation>
     </message>
     <message>
         <source>Lights up</source>
-        <translation type="unfinished"></translation>
+        <translation>S&apos;allume</translation>
     </message>
     <message>
         <source>Whether the block lights up while it runs.</source>
-        <translation type="unfinished"></translation>
+        <translation>Si le bloc s&apos;allume pendant qu&apos;il s&apos;exécute.</translation>
     </message>
     <message>
         <source>Stops here</source>
-        <translation type="unfinished"></translation>
+        <translation>S&apos;arrête ici</translation>
     </message>
     <message>
         <source>Whether the chart halts before the block, until it is stepped on.</source>
-        <translation type="unfinished"></translation>
+        <translation>Si l&apos;organigramme s&apos;arrête avant le bloc, jusqu&apos;au pas suivant.</translation>
     </message>
     <message>
         <source>Runs now</source>
-        <translation type="unfinished"></translation>
+        <translation>En cours</translation>
     </message>
     <message>
         <source>Whether a running chart is at the block.</source>
-        <translation type="unfinished"></translation>
+        <translation>Si un organigramme en cours est à ce bloc.</translation>
     </message>
     <message>
         <source>Fill</source>
-        <translation type="unfinished"></translation>
+        <translation>Remplissage</translation>
     </message>
     <message>
         <source>The colour inside the block.</source>
-        <translation type="unfinished"></translation>
+        <translation>La couleur à l&apos;intérieur du bloc.</translation>
     </message>
 </context>
 <context>
     <name>flowcharts/decision</name>
     <message>
         <source>Decision</source>
-        <translation type="unfinished"></translation>
+        <translation>Décision</translation>
     </message>
     <message>
         <source>Input</source>
-        <translation type="unfinished"></translation>
+        <translation>Entrée</translation>
     </message>
     <message>
         <source>The output name of the switch or sensor that is asked.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le nom de sortie de l&apos;interrupteur ou du capteur interrogé.</translation>
     </message>
     <message>
         <source>Question</source>
-        <translation type="unfinished"></translation>
+        <translation>Question</translation>
     </message>
     <message>
         <source>What is asked about the input.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce qui est demandé sur l&apos;entrée.</translation>
     </message>
     <message>
         <source>is on</source>
-        <translation type="unfinished"></translation>
+        <translation>est allumé</translation>
     </message>
     <message>
         <source>is off</source>
-        <translation type="unfinished"></translation>
+        <translation>est éteint</translation>
     </message>
     <message>
         <source>is greater than</source>
-        <translation type="unfinished"></translation>
+        <translation>est plus grand que</translation>
     </message>
     <message>
         <source>is less than</source>
-        <translation type="unfinished"></translation>
+        <translation>est plus petit que</translation>
     </message>
     <message>
         <source>Compared with</source>
-        <translation type="unfinished"></translation>
+        <translation>Comparé à</translation>
     </message>
     <message>
         <source>The number that the input is compared with.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le nombre auquel l&apos;entrée est comparée.</translation>
     </message>
     <message>
         <source>Yes branch</source>
-        <translation type="unfinished"></translation>
+        <translation>Branche oui</translation>
     </message>
     <message>
         <source>Where the chart goes on when the answer is yes.</source>
-        <translation type="unfinished"></translation>
+        <translation>Où l&apos;organigramme continue quand la réponse est oui.</translation>
     </message>
     <message>
         <source>down</source>
-        <translation type="unfinished"></translation>
+        <translation>bas</translation>
     </message>
     <message>
         <source>right</source>
-        <translation type="unfinished"></translation>
+        <translation>droite</translation>
     </message>
     <message>
         <source>Asks until yes</source>
-        <translation type="unfinished"></translation>
+        <translation>Demande jusqu&apos;à oui</translation>
     </message>
     <message>
         <source>Whether the block waits until the answer is yes.</source>
-        <translation type="unfinished"></translation>
+        <translation>Si le bloc attend que la réponse soit oui.</translation>
     </message>
     <message>
         <source>Answers shown</source>
-        <translation type="unfinished"></translation>
+        <translation>Réponses montrées</translation>
     </message>
     <message>
         <source>Whether Yes and No are written at the branches.</source>
-        <translation type="unfinished"></translation>
+        <translation>Si Oui et Non sont écrits aux branches.</translation>
     </message>
     <message>
         <source>Watched part</source>
-        <translation type="unfinished"></translation>
+        <translation>Pièce observée</translation>
     </message>
     <message>
         <source>The part whose state is asked when no input is named.</source>
-        <translation type="unfinished"></translation>
+        <translation>La pièce dont l&apos;état est demandé quand aucune entrée n&apos;est nommée.</translation>
     </message>
     <message>
         <source>is on?</source>
-        <translation type="unfinished"></translation>
+        <translation>est allumé ?</translation>
     </message>
     <message>
         <source>is off?</source>
-        <translation type="unfinished"></translation>
+        <translation>est éteint ?</translation>
     </message>
 </context>
 <context>
     <name>flowcharts/link</name>
     <message>
         <source>Link</source>
-        <translation type="unfinished"></translation>
+        <translation>Lien</translation>
     </message>
     <message>
         <source>Arrow</source>
-        <translation type="unfinished"></translation>
+        <translation>Flèche</translation>
     </message>
     <message>
         <source>Whether the end has an arrow head.</source>
-        <translation type="unfinished"></translation>
+        <translation>Si la fin a une pointe de flèche.</translation>
     </message>
     <message>
         <source>Dashed</source>
-        <translation type="unfinished"></translation>
+        <translation>Tireté</translation>
     </message>
     <message>
         <source>Whether the line is dashed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Si le trait est tireté.</translation>
     </message>
     <message>
         <source>Route</source>
-        <translation type="unfinished"></translation>
+        <translation>Parcours</translation>
     </message>
     <message>
         <source>Straight from block to block, or along right angles.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tout droit de bloc à bloc, ou par angles droits.</translation>
     </message>
     <message>
         <source>square</source>
-        <translation type="unfinished"></translation>
+        <translation>carrée</translation>
     </message>
     <message>
         <source>straight</source>
-        <translation type="unfinished"></translation>
+        <translation>droit</translation>
     </message>
     <message>
         <source>Bends</source>
-        <translation type="unfinished"></translation>
+        <translation>Coudes</translation>
     </message>
     <message>
         <source>The points over which the line runs, from its beginning to its end.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les points par lesquels passe le trait, de son début à sa fin.</translation>
     </message>
 </context>
 <context>
     <name>flowcharts/procedure</name>
     <message>
         <source>Procedure</source>
-        <translation type="unfinished"></translation>
+        <translation>Procédure</translation>
     </message>
     <message>
         <source>Repeats</source>
-        <translation type="unfinished"></translation>
+        <translation>Répétitions</translation>
     </message>
     <message>
         <source>How often the chart in the pop-up is run.</source>
-        <translation type="unfinished"></translation>
+        <translation>Combien de fois l&apos;organigramme de la bulle est exécuté.</translation>
     </message>
     <message>
         <source>Opens while it runs</source>
-        <translation type="unfinished"></translation>
+        <translation>S&apos;ouvre pendant l&apos;exécution</translation>
     </message>
     <message>
         <source>Whether the pop-up with the chart opens while the procedure runs.</source>
-        <translation type="unfinished"></translation>
+        <translation>Si la bulle avec l&apos;organigramme s&apos;ouvre pendant que la procédure s&apos;exécute.</translation>
     </message>
     <message>
         <source>Ends alone</source>
-        <translation type="unfinished"></translation>
+        <translation>Finit seule</translation>
     </message>
     <message>
         <source>Whether a stop block inside ends only the procedure rather than the whole chart.</source>
-        <translation type="unfinished"></translation>
+        <translation>Si un bloc d&apos;arrêt à l&apos;intérieur ne termine que la procédure plutôt que tout l&apos;organigramme.</translation>
     </message>
     <message>
         <source>Parameters</source>
-        <translation type="unfinished"></translation>
+        <translation>Paramètres</translation>
     </message>
     <message>
         <source>The names of the numbers handed to the procedure.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les noms des nombres transmis à la procédure.</translation>
     </message>
 </context>
 <context>
     <name>flowcharts/start</name>
     <message>
         <source>Start</source>
-        <translation type="unfinished"></translation>
+        <translation>Départ</translation>
     </message>
     <message>
         <source>Starts by itself</source>
-        <translation type="unfinished"></translation>
+        <translation>Démarre de lui-même</translation>
     </message>
     <message>
         <source>Whether the chart runs as soon as the model starts.</source>
-        <translation type="unfinished"></translation>
+        <translation>Si l&apos;organigramme s&apos;exécute dès que le modèle démarre.</translation>
     </message>
     <message>
         <source>Starts when</source>
-        <translation type="unfinished"></translation>
+        <translation>Démarre quand</translation>
     </message>
     <message>
         <source>Whether one or all of the named inputs must be on for the chart to start.</source>
-        <translation type="unfinished"></translation>
+        <translation>Si une ou toutes les entrées nommées doivent être actives pour que l&apos;organigramme démarre.</translation>
     </message>
     <message>
         <source>any input</source>
-        <translation type="unfinished"></translation>
+        <translation>une entrée</translation>
     </message>
     <message>
         <source>all inputs</source>
-        <translation type="unfinished"></translation>
+        <translation>toutes les entrées</translation>
     </message>
     <message>
         <source>Inputs</source>
-        <translation type="unfinished"></translation>
+        <translation>Entrées</translation>
     </message>
     <message>
         <source>The names of the switches and sensors that start the chart.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les noms des interrupteurs et capteurs qui démarrent l&apos;organigramme.</translation>
     </message>
     <message>
         <source>Delay</source>
-        <translation type="unfinished"></translation>
+        <translation>Retard</translation>
     </message>
     <message>
         <source>How long the chart waits before its first block.</source>
-        <translation type="unfinished"></translation>
+        <translation>Combien de temps l&apos;organigramme attend avant son premier bloc.</translation>
     </message>
 </context>
 <context>
     <name>flowcharts/step</name>
     <message>
         <source>Step</source>
-        <translation type="unfinished"></translation>
+        <translation>Pas</translation>
     </message>
     <message>
         <source>Action</source>
-        <translation type="unfinished"></translation>
+        <translation>Action</translation>
     </message>
     <message>
         <source>What the block does with its output.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce que le bloc fait de sa sortie.</translation>
     </message>
     <message>
         <source>Switch</source>
-        <translation type="unfinished"></translation>
+        <translation>Interrupteur</translation>
     </message>
     <message>
         <source>Flash</source>
-        <translation type="unfinished"></translation>
+        <translation>Éclat</translation>
     </message>
     <message>
         <source>Fade</source>
-        <translation type="unfinished"></translation>
+        <translation>Fondu</translation>
     </message>
     <message>
         <source>Wait</source>
-        <translation type="unfinished"></translation>
+        <translation>Attente</translation>
     </message>
     <message>
         <source>Output</source>
-        <translation type="unfinished"></translation>
+        <translation>Sortie</translation>
     </message>
     <message>
         <source>The output name of the components that the block switches.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le nom de sortie des composants que le bloc commute.</translation>
     </message>
     <message>
         <source>Switches on</source>
-        <translation type="unfinished"></translation>
+        <translation>Allume</translation>
     </message>
     <message>
         <source>Whether the block switches the output on rather than off.</source>
-        <translation type="unfinished"></translation>
+        <translation>Si le bloc allume la sortie plutôt que de l&apos;éteindre.</translation>
     </message>
     <message>
         <source>Waits</source>
-        <translation type="unfinished"></translation>
+        <translation>Attend</translation>
     </message>
     <message>
         <source>Whether the chart goes on only when the time is over.</source>
-        <translation type="unfinished"></translation>
+        <translation>Si l&apos;organigramme ne continue que lorsque le temps est écoulé.</translation>
     </message>
     <message>
         <source>Other outputs</source>
-        <translation type="unfinished"></translation>
+        <translation>Autres sorties</translation>
     </message>
     <message>
         <source>Whether all other outputs are switched off at the same time.</source>
-        <translation type="unfinished"></translation>
+        <translation>Si toutes les autres sorties sont éteintes en même temps.</translation>
     </message>
     <message>
         <source>unchanged</source>
-        <translation type="unfinished"></translation>
+        <translation>inchangées</translation>
     </message>
     <message>
         <source>off</source>
-        <translation type="unfinished"></translation>
+        <translation>éteintes</translation>
     </message>
     <message>
         <source>Time</source>
-        <translation type="unfinished"></translation>
+        <translation>Temps</translation>
     </message>
     <message>
         <source>How long the step lasts.</source>
-        <translation type="unfinished"></translation>
+        <translation>Combien de temps dure le pas.</translation>
     </message>
     <message>
         <source>Strength</source>
-        <translation type="unfinished"></translation>
+        <translation>Intensité</translation>
     </message>
     <message>
         <source>How strongly the output is switched on, in percent.</source>
-        <translation type="unfinished"></translation>
+        <translation>Avec quelle force la sortie est allumée, en pour cent.</translation>
     </message>
     <message>
         <source>More outputs</source>
-        <translation type="unfinished"></translation>
+        <translation>Sorties supplémentaires</translation>
     </message>
     <message>
         <source>Further outputs, each with the state that it takes.</source>
-        <translation type="unfinished"></translation>
+        <translation>D&apos;autres sorties, chacune avec l&apos;état qu&apos;elle prend.</translation>
     </message>
     <message>
         <source>Wait only</source>
-        <translation type="unfinished"></translation>
+        <translation>Attendre seulement</translation>
     </message>
 </context>
 <context>
     <name>flowcharts/stop</name>
     <message>
         <source>Stop</source>
-        <translation type="unfinished"></translation>
+        <translation>Arrêt</translation>
     </message>
     <message>
         <source>Starts again</source>
-        <translation type="unfinished"></translation>
+        <translation>Recommence</translation>
     </message>
     <message>
         <source>Whether the chart begins again from its start.</source>
-        <translation type="unfinished"></translation>
+        <translation>Si l&apos;organigramme recommence depuis son départ.</translation>
     </message>
     <message>
         <source>Outputs</source>
-        <translation type="unfinished"></translation>
+        <translation>Sorties</translation>
     </message>
     <message>
         <source>Whether the outputs stay as they are at the end, or are switched off.</source>
-        <translation type="unfinished"></translation>
+        <translation>Si les sorties restent telles quelles à la fin, ou sont éteintes.</translation>
     </message>
     <message>
         <source>keep</source>
-        <translation type="unfinished"></translation>
+        <translation>garder</translation>
     </message>
     <message>
         <source>switch off</source>
-        <translation type="unfinished"></translation>
+        <translation>éteindre</translation>
     </message>
     <message>
         <source>Message</source>
-        <translation type="unfinished"></translation>
+        <translation>Message</translation>
     </message>
     <message>
         <source>What is shown to the reader at the end.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce qui est montré au lecteur à la fin.</translation>
     </message>
 </context>
 <context>
     <name>flowcharts/terminal</name>
     <message>
         <source>Terminal</source>
-        <translation type="unfinished"></translation>
+        <translation>Borne</translation>
     </message>
     <message>
         <source>Direction</source>
-        <translation type="unfinished"></translation>
+        <translation>Sens</translation>
     </message>
     <message>
         <source>Whether the chart comes in or goes out here.</source>
-        <translation type="unfinished"></translation>
+        <translation>Si l&apos;organigramme entre ou sort ici.</translation>
     </message>
     <message>
         <source>in</source>
-        <translation type="unfinished"></translation>
+        <translation>entrée</translation>
     </message>
     <message>
         <source>out</source>
-        <translation type="unfinished"></translation>
+        <translation>sortie</translation>
     </message>
     <message>
         <source>Arrow shown</source>
-        <translation type="unfinished"></translation>
+        <translation>Flèche montrée</translation>
     </message>
     <message>
         <source>Whether an arrow head is drawn at the terminal.</source>
-        <translation type="unfinished"></translation>
+        <translation>Si une pointe de flèche est dessinée à la borne.</translation>
     </message>
 </context>
 <context>
     <name>mechanics/axle</name>
     <message>
         <source>Axle</source>
-        <translation type="unfinished"></translation>
+        <translation>Axe</translation>
     </message>
     <message>
         <source>Diameter</source>
-        <translation type="unfinished"></translation>
+        <translation>Diamètre</translation>
     </message>
     <message>
         <source>The diameter of the axle.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le diamètre de l&apos;axe.</translation>
     </message>
     <message>
         <source>Runs freely</source>
-        <translation type="unfinished"></translation>
+        <translation>Tourne librement</translation>
     </message>
     <message>
         <source>Whether the wheel turns on the axle rather than with it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Si la roue tourne sur l&apos;axe plutôt qu&apos;avec lui.</translation>
     </message>
 </context>
 <context>
     <name>mechanics/belt</name>
     <message>
         <source>Belt</source>
-        <translation type="unfinished"></translation>
+        <translation>Courroie</translation>
     </message>
     <message>
         <source>Crossed</source>
-        <translation type="unfinished"></translation>
+        <translation>Croisée</translation>
     </message>
     <message>
         <source>Whether the belt is crossed, so that the wheels turn against each other.</source>
-        <translation type="unfinished"></translation>
+        <translation>Si la courroie est croisée, de sorte que les roues tournent en sens contraires.</translation>
     </message>
     <message>
         <source>Toothed</source>
-        <translation type="unfinished"></translation>
+        <translation>Crantée</translation>
     </message>
     <message>
         <source>Whether the belt has teeth and cannot slip.</source>
-        <translation type="unfinished"></translation>
+        <translation>Si la courroie a des crans et ne peut pas glisser.</translation>
     </message>
     <message>
         <source>Material</source>
-        <translation type="unfinished"></translation>
+        <translation>Matière</translation>
     </message>
     <message>
         <source>Rubber that stretches, or cord that does not.</source>
-        <translation type="unfinished"></translation>
+        <translation>Du caoutchouc qui s&apos;étire, ou de la corde qui ne s&apos;étire pas.</translation>
     </message>
     <message>
         <source>rubber</source>
-        <translation type="unfinished"></translation>
+        <translation>caoutchouc</translation>
     </message>
     <message>
         <source>cord</source>
-        <translation type="unfinished"></translation>
+        <translation>corde</translation>
     </message>
 </context>
 <context>
     <name>mechanics/cam</name>
     <message>
         <source>Cam</source>
-        <translation type="unfinished"></translation>
+        <translation>Came</translation>
     </message>
     <message>
         <source>Profile</source>
-        <translation type="unfinished"></translation>
+        <translation>Profil</translation>
     </message>
     <message>
         <source>The outline of the cam.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le contour de la came.</translation>
     </message>
     <message>
         <source>Pear</source>
-        <translation type="unfinished"></translation>
+        <translation>Poire</translation>
     </message>
     <message>
         <source>Eccentric circle</source>
-        <translation type="unfinished"></translation>
+        <translation>Cercle excentré</translation>
     </message>
     <message>
         <source>Snail</source>
-        <translation type="unfinished"></translation>
+        <translation>Escargot</translation>
     </message>
     <message>
         <source>Lift</source>
-        <translation type="unfinished"></translation>
+        <translation>Levée</translation>
     </message>
     <message>
         <source>How far the cam moves its follower.</source>
-        <translation type="unfinished"></translation>
+        <translation>De combien la came déplace son poussoir.</translation>
     </message>
     <message>
         <source>Return spring</source>
-        <translation type="unfinished"></translation>
+        <translation>Ressort de rappel</translation>
     </message>
     <message>
         <source>Whether a spring presses the follower on the cam.</source>
-        <translation type="unfinished"></translation>
+        <translation>Si un ressort presse le poussoir sur la came.</translation>
     </message>
     <message>
         <source>Follower</source>
-        <translation type="unfinished"></translation>
+        <translation>Poussoir</translation>
     </message>
     <message>
         <source>A flat foot, or a roller.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un pied plat, ou un galet.</translation>
     </message>
     <message>
         <source>flat</source>
-        <translation type="unfinished"></translation>
+        <translation>plat</translation>
     </message>
     <message>
         <source>roller</source>
-        <translation type="unfinished"></translation>
+        <translation>galet</translation>
     </message>
     <message>
         <source>Lift table</source>
-        <translation type="unfinished"></translation>
+        <translation>Table des levées</translation>
     </message>
     <message>
         <source>The lift in millimetres at some angles in degrees.</source>
-        <translation type="unfinished"></translation>
+        <translation>La levée en millimètres à quelques angles en degrés.</translation>
     </message>
 </context>
 <context>
     <name>mechanics/gear</name>
     <message>
         <source>Gear</source>
-        <translation type="unfinished"></translation>
+        <translation>Roue dentée</translation>
     </message>
     <message>
         <source>Teeth</source>
-        <translation type="unfinished"></translation>
+        <translation>Dents</translation>
     </message>
     <message>
         <source>The number of teeth.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le nombre de dents.</translation>
     </message>
     <message>
         <source>Module</source>
-        <translation type="unfinished"></translation>
+        <translation>Module</translation>
     </message>
     <message>
         <source>The pitch diameter divided by the number of teeth; gears that mesh have the same.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le diamètre primitif divisé par le nombre de dents ; les roues qui engrènent ont le même.</translation>
     </message>
     <message>
         <source>Pressure angle</source>
-        <translation type="unfinished"></translation>
+        <translation>Angle de pression</translation>
     </message>
     <message>
         <source>The angle at which the teeth press on each other.</source>
-        <translation type="unfinished"></translation>
+        <translation>L&apos;angle sous lequel les dents se pressent.</translation>
     </message>
     <message>
         <source>Face width</source>
-        <translation type="unfinished"></translation>
+        <translation>Largeur de denture</translation>
     </message>
     <message>
         <source>How wide the teeth are along the axle.</source>
-        <translation type="unfinished"></translation>
+        <translation>La largeur des dents le long de l&apos;axe.</translation>
     </message>
     <message>
         <source>Teeth drawn</source>
-        <translation type="unfinished"></translation>
+        <translation>Dents dessinées</translation>
     </message>
     <message>
         <source>Whether the teeth are drawn, or only the pitch circle.</source>
-        <translation type="unfinished"></translation>
+        <translation>Si les dents sont dessinées, ou seulement le cercle primitif.</translation>
     </message>
     <message>
         <source>Slanting teeth</source>
-        <translation type="unfinished"></translation>
+        <translation>Dents inclinées</translation>
     </message>
     <message>
         <source>Whether the teeth stand aslant to the axle.</source>
-        <translation type="unfinished"></translation>
+        <translation>Si les dents sont inclinées par rapport à l&apos;axe.</translation>
     </message>
     <message>
         <source>Hand</source>
-        <translation type="unfinished"></translation>
+        <translation>Sens de l&apos;hélice</translation>
     </message>
     <message>
         <source>Which way slanting teeth lean.</source>
-        <translation type="unfinished"></translation>
+        <translation>De quel côté penchent les dents inclinées.</translation>
     </message>
     <message>
         <source>right</source>
-        <translation type="unfinished"></translation>
+        <translation>droite</translation>
     </message>
     <message>
         <source>left</source>
-        <translation type="unfinished"></translation>
+        <translation>gauche</translation>
     </message>
     <message>
         <source>Meshes with</source>
-        <translation type="unfinished"></translation>
+        <translation>Engrène avec</translation>
     </message>
     <message>
         <source>The gear whose teeth these ones drive.</source>
-        <translation type="unfinished"></translation>
+        <translation>La roue dentée que ces dents entraînent.</translation>
     </message>
     <message>
         <source>Hub offset</source>
-        <translation type="unfinished"></translation>
+        <translation>Décalage du moyeu</translation>
     </message>
     <message>
         <source>How far the hub is from the middle of the wheel.</source>
-        <translation type="unfinished"></translation>
+        <translation>À quelle distance le moyeu est du milieu de la roue.</translation>
     </message>
 </context>
 <context>
     <name>mechanics/machine-part</name>
     <message>
         <source>Machine part</source>
-        <translation type="unfinished"></translation>
+        <translation>Pièce mécanique</translation>
     </message>
     <message>
         <source>Material</source>
-        <translation type="unfinished"></translation>
+        <translation>Matière</translation>
     </message>
     <message>
         <source>What the part is made of.</source>
-        <translation type="unfinished"></translation>
+        <translation>De quoi la pièce est faite.</translation>
     </message>
     <message>
         <source>Acetal</source>
-        <translation type="unfinished"></translation>
+        <translation>Acétal</translation>
     </message>
     <message>
         <source>Nylon</source>
-        <translation type="unfinished"></translation>
+        <translation>Nylon</translation>
     </message>
     <message>
         <source>Wood</source>
-        <translation type="unfinished"></translation>
+        <translation>Bois</translation>
     </message>
     <message>
         <source>Brass</source>
-        <translation type="unfinished"></translation>
+        <translation>Laiton</translation>
     </message>
     <message>
         <source>Steel</source>
-        <translation type="unfinished"></translation>
+        <translation>Acier</translation>
     </message>
     <message>
         <source>Mass</source>
-        <translation type="unfinished"></translation>
+        <translation>Masse</translation>
     </message>
     <message>
         <source>The mass of the part.</source>
-        <translation type="unfinished"></translation>
+        <translation>La masse de la pièce.</translation>
     </message>
     <message>
         <source>Held fast</source>
-        <translation type="unfinished"></translation>
+        <translation>Bloquée</translation>
     </message>
     <message>
         <source>Whether the part is fixed to the base and cannot turn.</source>
-        <translation type="unfinished"></translation>
+        <translation>Si la pièce est fixée à la base et ne peut pas tourner.</translation>
     </message>
     <message>
         <source>Direction shown</source>
-        <translation type="unfinished"></translation>
+        <translation>Sens montré</translation>
     </message>
     <message>
         <source>Whether an arrow shows the way the part turns.</source>
-        <translation type="unfinished"></translation>
+        <translation>Si une flèche montre le sens de rotation de la pièce.</translation>
     </message>
     <message>
         <source>Speed shown</source>
-        <translation type="unfinished"></translation>
+        <translation>Vitesse montrée</translation>
     </message>
     <message>
         <source>Whether the turning speed is written on the part.</source>
-        <translation type="unfinished"></translation>
+        <translation>Si la vitesse de rotation est écrite sur la pièce.</translation>
     </message>
     <message>
         <source>Tint</source>
-        <translation type="unfinished"></translation>
+        <translation>Teinte</translation>
     </message>
     <message>
         <source>The colour of the part.</source>
-        <translation type="unfinished"></translation>
+        <translation>La couleur de la pièce.</translation>
     </message>
 </context>
 <context>
     <name>mechanics/motor</name>
     <message>
         <source>Motor</source>
-        <translation type="unfinished"></translation>
+        <translation>Moteur</translation>
     </message>
     <message>
         <source>Runs at the start</source>
-        <translation type="unfinished"></translation>
+        <translation>Tourne au départ</translation>
     </message>
     <message>
         <source>Whether the motor runs when the model starts.</source>
-        <translation type="unfinished"></translation>
+        <translation>Si le moteur tourne quand le modèle démarre.</translation>
     </message>
     <message>
         <source>Direction</source>
-        <translation type="unfinished"></translation>
+        <translation>Sens</translation>
     </message>
     <message>
         <source>Which way the motor turns.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dans quel sens tourne le moteur.</translation>
     </message>
     <message>
         <source>clockwise</source>
-        <translation type="unfinished"></translation>
+        <translation>horaire</translation>
     </message>
     <message>
         <source>counterclockwise</source>
-        <translation type="unfinished"></translation>
+        <translation>antihoraire</translation>
     </message>
     <message>
         <source>With gear box</source>
-        <translation type="unfinished"></translation>
+        <translation>Avec réducteur</translation>
     </message>
     <message>
         <source>Whether a gear box is built in.</source>
-        <translation type="unfinished"></translation>
+        <translation>Si un réducteur est intégré.</translation>
     </message>
     <message>
         <source>Gear box ratio</source>
-        <translation type="unfinished"></translation>
+        <translation>Rapport de réduction</translation>
     </message>
     <message>
         <source>How many turns of the motor make one turn of the shaft.</source>
-        <translation type="unfinished"></translation>
+        <translation>Combien de tours du moteur font un tour de l&apos;arbre.</translation>
     </message>
     <message>
         <source>Supply voltage</source>
-        <translation type="unfinished"></translation>
+        <translation>Tension d&apos;alimentation</translation>
     </message>
     <message>
         <source>The voltage for which the motor is made.</source>
-        <translation type="unfinished"></translation>
+        <translation>La tension pour laquelle le moteur est fait.</translation>
     </message>
     <message>
         <source>Speed</source>
-        <translation type="unfinished"></translation>
+        <translation>Vitesse</translation>
     </message>
     <message>
         <source>How fast the motor turns without load.</source>
-        <translation type="unfinished"></translation>
+        <translation>La vitesse du moteur sans charge.</translation>
     </message>
     <message>
         <source>Output name</source>
-        <translation type="unfinished"></translation>
+        <translation>Nom de sortie</translation>
     </message>
     <message>
         <source>The name by which flowcharts switch the motor; empty when none does.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le nom sous lequel les organigrammes commutent le moteur ; vide si aucun ne le fait.</translation>
     </message>
     <message>
         <source>Level now</source>
-        <translation type="unfinished"></translation>
+        <translation>Niveau actuel</translation>
     </message>
     <message>
         <source>How strongly a running flowchart has switched the motor on, in percent; -1 while none has.</source>
-        <translation type="unfinished"></translation>
+        <translation>Avec quelle force un organigramme en cours a allumé le moteur, en pour cent ; -1 tant qu&apos;aucun ne l&apos;a fait.</translation>
     </message>
     <message>
         <source>Powered by</source>
-        <translation type="unfinished"></translation>
+        <translation>Alimenté par</translation>
     </message>
     <message>
         <source>The battery that drives the motor.</source>
-        <translation type="unfinished"></translation>
+        <translation>La pile qui entraîne le moteur.</translation>
     </message>
 </context>
 <context>
     <name>mechanics/pulley</name>
     <message>
         <source>Pulley</source>
-        <translation type="unfinished"></translation>
+        <translation>Poulie</translation>
     </message>
     <message>
         <source>Groove diameter</source>
-        <translation type="unfinished"></translation>
+        <translation>Diamètre de la gorge</translation>
     </message>
     <message>
         <source>The diameter at which the belt runs.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le diamètre sur lequel passe la courroie.</translation>
     </message>
     <message>
         <source>Groove</source>
-        <translation type="unfinished"></translation>
+        <translation>Gorge</translation>
     </message>
     <message>
         <source>The shape of the groove.</source>
-        <translation type="unfinished"></translation>
+        <translation>La forme de la gorge.</translation>
     </message>
     <message>
         <source>round</source>
-        <translation type="unfinished"></translation>
+        <translation>ronde</translation>
     </message>
     <message>
         <source>V</source>
-        <translation type="unfinished"></translation>
+        <translation>V</translation>
     </message>
     <message>
         <source>With rims</source>
-        <translation type="unfinished"></translation>
+        <translation>Avec rebords</translation>
     </message>
     <message>
         <source>Whether rims keep the belt in the groove.</source>
-        <translation type="unfinished"></translation>
+        <translation>Si des rebords gardent la courroie dans la gorge.</translation>
     </message>
     <message>
         <source>Belt slips</source>
-        <translation type="unfinished"></translation>
+        <translation>La courroie glisse</translation>
     </message>
     <message>
         <source>Whether the belt may slip when the load is too great.</source>
-        <translation type="unfinished"></translation>
+        <translation>Si la courroie peut glisser quand la charge est trop grande.</translation>
     </message>
     <message>
         <source>Steps</source>
-        <translation type="unfinished"></translation>
+        <translation>Étages</translation>
     </message>
     <message>
         <source>The groove diameters of a stepped pulley in metres, the greatest first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les diamètres des gorges d&apos;une poulie étagée en mètres, le plus grand d&apos;abord.</translation>
     </message>
 </context>
 <context>
     <name>mechanics/shaft</name>
     <message>
         <source>Shaft</source>
-        <translation type="unfinished"></translation>
+        <translation>Arbre</translation>
     </message>
     <message>
         <source>Diameter</source>
-        <translation type="unfinished"></translation>
+        <translation>Diamètre</translation>
     </message>
     <message>
         <source>The diameter of the shaft.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le diamètre de l&apos;arbre.</translation>
     </message>
     <message>
         <source>Hollow</source>
-        <translation type="unfinished"></translation>
+        <translation>Creux</translation>
     </message>
     <message>
         <source>Whether the shaft is a tube.</source>
-        <translation type="unfinished"></translation>
+        <translation>Si l&apos;arbre est un tube.</translation>
     </message>
     <message>
         <source>With key</source>
-        <translation type="unfinished"></translation>
+        <translation>Avec clavette</translation>
     </message>
     <message>
         <source>Whether a key makes the wheels turn with the shaft.</source>
-        <translation type="unfinished"></translation>
+        <translation>Si une clavette fait tourner les roues avec l&apos;arbre.</translation>
     </message>
     <message>
         <source>Ends</source>
-        <translation type="unfinished"></translation>
+        <translation>Bouts</translation>
     </message>
     <message>
         <source>Plain ends, or rounded ones.</source>
-        <translation type="unfinished"></translation>
+        <translation>Des bouts droits, ou arrondis.</translation>
     </message>
     <message>
         <source>plain</source>
-        <translation type="unfinished"></translation>
+        <translation>droits</translation>
     </message>
     <message>
         <source>rounded</source>
-        <translation type="unfinished"></translation>
+        <translation>arrondis</translation>
     </message>
     <message>
         <source>Bearings</source>
-        <translation type="unfinished"></translation>
+        <translation>Paliers</translation>
     </message>
     <message>
         <source>Where the shaft is held, seen from its centre.</source>
-        <translation type="unfinished"></translation>
+        <translation>Où l&apos;arbre est tenu, vu de son centre.</translation>
     </message>
     <message>
         <source>Twist</source>
-        <translation type="unfinished"></translation>
+        <translation>Torsion</translation>
     </message>
     <message>
         <source>How far the shaft twists under full load.</source>
-        <translation type="unfinished"></translation>
+        <translation>De combien l&apos;arbre se tord en pleine charge.</translation>
     </message>
 </context>
 </TS>

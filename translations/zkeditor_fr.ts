@@ -5,1644 +5,1645 @@
     <name>AboutBox</name>
     <message>
         <source>About zkauthor</source>
-        <translation type="unfinished"></translation>
+        <translation>À propos de zkauthor</translation>
     </message>
     <message>
         <source>zkauthor %1</source>
-        <translation type="unfinished"></translation>
+        <translation>zkauthor %1</translation>
     </message>
     <message>
         <source>Shows and edits interactive teaching models: scenes with parts, their connections and properties.</source>
-        <translation type="unfinished"></translation>
+        <translation>Montre et modifie des modèles pédagogiques interactifs : des scènes avec des pièces, leurs liaisons et leurs propriétés.</translation>
     </message>
     <message>
         <source>Folder of your own parts</source>
-        <translation type="unfinished"></translation>
+        <translation>Dossier de vos propres pièces</translation>
     </message>
 </context>
 <context>
     <name>Actions</name>
     <message>
         <source>&amp;New</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Nouveau</translation>
     </message>
     <message>
         <source>Start an empty document</source>
-        <translation type="unfinished"></translation>
+        <translation>Commencer un document vide</translation>
     </message>
     <message>
         <source>&amp;Open...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ouvrir...</translation>
     </message>
     <message>
         <source>Open a document</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouvrir un document</translation>
     </message>
     <message>
         <source>&amp;Save</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Enregistrer</translation>
     </message>
     <message>
         <source>Save the document</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer le document</translation>
     </message>
     <message>
         <source>Save &amp;As...</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer &amp;sous...</translation>
     </message>
     <message>
         <source>Save the document under another name</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer le document sous un autre nom</translation>
     </message>
     <message>
         <source>Re&amp;vert</source>
-        <translation type="unfinished"></translation>
+        <translation>Re&amp;venir</translation>
     </message>
     <message>
         <source>Go back to what was last saved</source>
-        <translation type="unfinished"></translation>
+        <translation>Revenir à ce qui a été enregistré en dernier</translation>
     </message>
     <message>
         <source>&amp;Close</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Fermer</translation>
     </message>
     <message>
         <source>Close the document</source>
-        <translation type="unfinished"></translation>
+        <translation>Fermer le document</translation>
     </message>
     <message>
         <source>&amp;Quit</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Quitter</translation>
     </message>
     <message>
         <source>Close the program</source>
-        <translation type="unfinished"></translation>
+        <translation>Fermer le programme</translation>
     </message>
     <message>
         <source>&amp;Undo</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Annuler</translation>
     </message>
     <message>
         <source>Take back the last change</source>
-        <translation type="unfinished"></translation>
+        <translation>Reprendre la dernière modification</translation>
     </message>
     <message>
         <source>&amp;Redo</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Rétablir</translation>
     </message>
     <message>
         <source>Do again what was taken back</source>
-        <translation type="unfinished"></translation>
+        <translation>Refaire ce qui a été annulé</translation>
     </message>
     <message>
         <source>Cu&amp;t</source>
-        <translation type="unfinished"></translation>
+        <translation>Co&amp;uper</translation>
     </message>
     <message>
         <source>Move the selected parts to the clipboard</source>
-        <translation type="unfinished"></translation>
+        <translation>Déplacer les pièces sélectionnées vers le presse-papiers</translation>
     </message>
     <message>
         <source>&amp;Copy</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Copier</translation>
     </message>
     <message>
         <source>Copy the selected parts to the clipboard</source>
-        <translation type="unfinished"></translation>
+        <translation>Copier les pièces sélectionnées dans le presse-papiers</translation>
     </message>
     <message>
         <source>&amp;Paste</source>
-        <translation type="unfinished"></translation>
+        <translation>C&amp;oller</translation>
     </message>
     <message>
         <source>Add the parts on the clipboard</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajouter les pièces du presse-papiers</translation>
     </message>
     <message>
         <source>Dup&amp;licate</source>
-        <translation type="unfinished"></translation>
+        <translation>Dup&amp;liquer</translation>
     </message>
     <message>
         <source>Add copies of the selected parts</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajouter des copies des pièces sélectionnées</translation>
     </message>
     <message>
         <source>&amp;Delete</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Supprimer</translation>
     </message>
     <message>
         <source>Delete the selected parts</source>
-        <translation type="unfinished"></translation>
+        <translation>Supprimer les pièces sélectionnées</translation>
     </message>
     <message>
         <source>Select &amp;All</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Tout sélectionner</translation>
     </message>
     <message>
         <source>Select every part of the scene</source>
-        <translation type="unfinished"></translation>
+        <translation>Sélectionner toutes les pièces de la scène</translation>
     </message>
     <message>
         <source>Select Ne&amp;xt</source>
-        <translation type="unfinished"></translation>
+        <translation>Sélectionner la suiva&amp;nte</translation>
     </message>
     <message>
         <source>Select the next part</source>
-        <translation type="unfinished"></translation>
+        <translation>Sélectionner la pièce suivante</translation>
     </message>
     <message>
         <source>Select Pre&amp;vious</source>
-        <translation type="unfinished"></translation>
+        <translation>Sélectionner la précé&amp;dente</translation>
     </message>
     <message>
         <source>Select the part before</source>
-        <translation type="unfinished"></translation>
+        <translation>Sélectionner la pièce précédente</translation>
     </message>
     <message>
         <source>Rotate Le&amp;ft</source>
-        <translation type="unfinished"></translation>
+        <translation>Tourner à &amp;gauche</translation>
     </message>
     <message>
         <source>Turn the selected parts a quarter to the left</source>
-        <translation type="unfinished"></translation>
+        <translation>Tourner les pièces sélectionnées d&apos;un quart de tour à gauche</translation>
     </message>
     <message>
         <source>R&amp;otate Right</source>
-        <translation type="unfinished"></translation>
+        <translation>Tourner à dro&amp;ite</translation>
     </message>
     <message>
         <source>Turn the selected parts a quarter to the right</source>
-        <translation type="unfinished"></translation>
+        <translation>Tourner les pièces sélectionnées d&apos;un quart de tour à droite</translation>
     </message>
     <message>
         <source>Zoom &amp;In</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Agrandir</translation>
     </message>
     <message>
         <source>Show things larger</source>
-        <translation type="unfinished"></translation>
+        <translation>Tout montrer en plus grand</translation>
     </message>
     <message>
         <source>Zoom &amp;Out</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Réduire</translation>
     </message>
     <message>
         <source>Show things smaller</source>
-        <translation type="unfinished"></translation>
+        <translation>Tout montrer en plus petit</translation>
     </message>
     <message>
         <source>&amp;Real Size</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Taille réelle</translation>
     </message>
     <message>
         <source>Show things in their real size</source>
-        <translation type="unfinished"></translation>
+        <translation>Tout montrer en taille réelle</translation>
     </message>
     <message>
         <source>&amp;Fit</source>
-        <translation type="unfinished"></translation>
+        <translation>A&amp;juster</translation>
     </message>
     <message>
         <source>Show the whole scene</source>
-        <translation type="unfinished"></translation>
+        <translation>Montrer toute la scène</translation>
     </message>
     <message>
         <source>Open Pop-&amp;up</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouvrir la &amp;bulle</translation>
     </message>
     <message>
         <source>Show the pop-up of the selected part</source>
-        <translation type="unfinished"></translation>
+        <translation>Montrer la bulle de la pièce sélectionnée</translation>
     </message>
     <message>
         <source>New &amp;Scene</source>
-        <translation type="unfinished"></translation>
+        <translation>Nouvelle &amp;scène</translation>
     </message>
     <message>
         <source>Add an empty scene</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajouter une scène vide</translation>
     </message>
     <message>
         <source>Delete S&amp;cene</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Supprimer la scène</translation>
     </message>
     <message>
         <source>Delete the scene on view</source>
-        <translation type="unfinished"></translation>
+        <translation>Supprimer la scène affichée</translation>
     </message>
     <message>
         <source>Pa&amp;ge Setup...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Mise en page...</translation>
     </message>
     <message>
         <source>Paper, margins and scale</source>
-        <translation type="unfinished"></translation>
+        <translation>Papier, marges et échelle</translation>
     </message>
     <message>
         <source>Print Previe&amp;w...</source>
-        <translation type="unfinished"></translation>
+        <translation>Ape&amp;rçu avant impression...</translation>
     </message>
     <message>
         <source>Show the pages as they are printed</source>
-        <translation type="unfinished"></translation>
+        <translation>Montrer les pages telles qu&apos;elles seront imprimées</translation>
     </message>
     <message>
         <source>&amp;Print...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Imprimer...</translation>
     </message>
     <message>
         <source>Print the document</source>
-        <translation type="unfinished"></translation>
+        <translation>Imprimer le document</translation>
     </message>
     <message>
         <source>Export to P&amp;DF...</source>
-        <translation type="unfinished"></translation>
+        <translation>Exporter en P&amp;DF...</translation>
     </message>
     <message>
         <source>Write the pages into a PDF file</source>
-        <translation type="unfinished"></translation>
+        <translation>Écrire les pages dans un fichier PDF</translation>
     </message>
     <message>
         <source>E&amp;xport to SVG...</source>
-        <translation type="unfinished"></translation>
+        <translation>Exporter en SV&amp;G...</translation>
     </message>
     <message>
         <source>Write the scene on view as a drawing</source>
-        <translation type="unfinished"></translation>
+        <translation>Écrire la scène affichée sous forme de dessin</translation>
     </message>
     <message>
         <source>&amp;Save as Custom Part...</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer comme pièce &amp;personnelle...</translation>
     </message>
     <message>
         <source>Offer the selected part among the parts from now on</source>
-        <translation type="unfinished"></translation>
+        <translation>Proposer désormais la pièce sélectionnée parmi les pièces</translation>
     </message>
     <message>
         <source>Pr&amp;eferences...</source>
-        <translation type="unfinished"></translation>
+        <translation>Préféren&amp;ces...</translation>
     </message>
     <message>
         <source>How the program works for you</source>
-        <translation type="unfinished"></translation>
+        <translation>Comment le programme travaille pour vous</translation>
     </message>
     <message>
         <source>&amp;Licence...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Licence...</translation>
     </message>
     <message>
         <source>Show or enter the licence</source>
-        <translation type="unfinished"></translation>
+        <translation>Montrer ou saisir la licence</translation>
     </message>
     <message>
         <source>&amp;About zkauthor</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;À propos de zkauthor</translation>
     </message>
     <message>
         <source>What this program is</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce qu&apos;est ce programme</translation>
     </message>
     <message>
         <source>&amp;File</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Fichier</translation>
     </message>
     <message>
         <source>Open &amp;Recent</source>
-        <translation type="unfinished"></translation>
+        <translation>Documents récen&amp;ts</translation>
     </message>
     <message>
         <source>&amp;Edit</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Édition</translation>
     </message>
     <message>
         <source>&amp;View</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Affichage</translation>
     </message>
     <message>
         <source>&amp;Insert</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Insertion</translation>
     </message>
     <message>
         <source>&amp;Run</source>
-        <translation type="unfinished"></translation>
+        <translation>E&amp;xécution</translation>
     </message>
     <message>
         <source>&amp;Help</source>
-        <translation type="unfinished"></translation>
+        <translation>Ai&amp;de</translation>
     </message>
     <message>
         <source>Tools</source>
-        <translation type="unfinished"></translation>
+        <translation>Outils</translation>
     </message>
     <message>
         <source>Badge</source>
-        <translation type="unfinished"></translation>
+        <translation>Badge</translation>
     </message>
 </context>
 <context>
     <name>AddCustomPartDialog</name>
     <message>
         <source>Add custom part</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajouter une pièce personnelle</translation>
     </message>
     <message>
         <source>Part &amp;name:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Nom de la pièce :</translation>
     </message>
     <message>
         <source>The part name must be unique and can contain no spaces.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le nom de la pièce doit être unique et ne peut contenir aucun espace.</translation>
     </message>
     <message>
         <source>Part &amp;label:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Étiquette de la pièce :</translation>
     </message>
     <message>
         <source>The part label appears in the part tree.</source>
-        <translation type="unfinished"></translation>
+        <translation>L&apos;étiquette de la pièce apparaît dans l&apos;arbre des pièces.</translation>
     </message>
     <message>
         <source>Part &amp;group:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Groupe de la pièce :</translation>
     </message>
     <message>
         <source>The part group defines part tree folder the part appears in.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le groupe de la pièce définit le dossier de l&apos;arbre dans lequel elle apparaît.</translation>
     </message>
     <message>
         <source>Part &amp;level:</source>
-        <translation type="unfinished"></translation>
+        <translation>Ni&amp;veau de la pièce :</translation>
     </message>
     <message>
         <source>This define&apos;s the part&apos;s educational level, e.g. keystate.</source>
-        <translation type="unfinished"></translation>
+        <translation>Définit le niveau scolaire de la pièce, par exemple la classe.</translation>
     </message>
     <message>
         <source>&amp;Add</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ajouter</translation>
     </message>
     <message>
         <source>&amp;Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>A&amp;nnuler</translation>
     </message>
     <message>
         <source>The part id %1 is already in use.
 Please enter another id</source>
-        <translation type="unfinished"></translation>
+        <translation>L&apos;identifiant %1 est déjà utilisé.
+Veuillez en saisir un autre</translation>
     </message>
 </context>
 <context>
     <name>AddNodesCommand</name>
     <message numerus="yes">
         <source>Adding of %n object(s)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Ajout de %n objet</numerusform>
+            <numerusform>Ajout de %n objets</numerusform>
         </translation>
     </message>
     <message>
         <source>The place to add to is not there any more.</source>
-        <translation type="unfinished"></translation>
+        <translation>L&apos;endroit où ajouter n&apos;existe plus.</translation>
     </message>
     <message>
         <source>An object of the class &quot;%1&quot; cannot stand there.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un objet de la classe « %1 » ne peut pas se trouver là.</translation>
     </message>
     <message>
         <source>An instance id is in use already.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un numéro d&apos;instance est déjà utilisé.</translation>
     </message>
     <message>
         <source>Adding of a part</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajout d&apos;une pièce</translation>
     </message>
     <message>
         <source>There is no such kind of part.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cette sorte de pièce n&apos;existe pas.</translation>
     </message>
     <message>
         <source>Adding of a subpart</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajout d&apos;une sous-pièce</translation>
     </message>
     <message>
         <source>The part is not there any more.</source>
-        <translation type="unfinished"></translation>
+        <translation>La pièce n&apos;existe plus.</translation>
     </message>
     <message>
         <source>The part cannot have a subpart of the class &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>La pièce ne peut pas avoir de sous-pièce de la classe « %1 ».</translation>
     </message>
     <message>
         <source>The part has all the subparts of that role that it can have.</source>
-        <translation type="unfinished"></translation>
+        <translation>La pièce a déjà toutes les sous-pièces de ce rôle qu&apos;elle peut avoir.</translation>
     </message>
     <message>
         <source>Adding of a scene</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajout d&apos;une scène</translation>
     </message>
 </context>
 <context>
     <name>AddResourceCommand</name>
     <message>
         <source>Import of %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Importation de %1</translation>
     </message>
     <message>
         <source>There is nothing to import.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il n&apos;y a rien à importer.</translation>
     </message>
 </context>
 <context>
     <name>AdvancedPalette</name>
     <message>
         <source>Advanced</source>
-        <translation type="unfinished"></translation>
+        <translation>Avancé</translation>
     </message>
     <message>
         <source>Click Action</source>
-        <translation type="unfinished"></translation>
+        <translation>Action du clic</translation>
     </message>
     <message>
         <source>Duplication</source>
-        <translation type="unfinished"></translation>
+        <translation>Duplication</translation>
     </message>
     <message>
         <source>Pop-up</source>
-        <translation type="unfinished"></translation>
+        <translation>Bulle</translation>
     </message>
     <message>
         <source>Nothing</source>
-        <translation type="unfinished"></translation>
+        <translation>Rien</translation>
     </message>
     <message>
         <source>Show the pop-up</source>
-        <translation type="unfinished"></translation>
+        <translation>Montrer la bulle</translation>
     </message>
     <message>
         <source>Open a link</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouvrir un lien</translation>
     </message>
     <message>
         <source>Show a scene</source>
-        <translation type="unfinished"></translation>
+        <translation>Montrer une scène</translation>
     </message>
     <message>
         <source>&amp;Link</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Lien</translation>
     </message>
     <message>
         <source>&amp;Scene</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Scène</translation>
     </message>
     <message>
         <source>Cl&amp;ick</source>
-        <translation type="unfinished"></translation>
+        <translation>Cl&amp;ic</translation>
     </message>
     <message>
         <source> mm</source>
-        <translation type="unfinished"></translation>
+        <translation> mm</translation>
     </message>
     <message>
         <source>&amp;Copies</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Copies</translation>
     </message>
     <message>
         <source>Offset &amp;right</source>
-        <translation type="unfinished"></translation>
+        <translation>Décalage à &amp;droite</translation>
     </message>
     <message>
         <source>Offset &amp;down</source>
-        <translation type="unfinished"></translation>
+        <translation>Décalage vers le &amp;bas</translation>
     </message>
     <message>
         <source>D&amp;uplicate</source>
-        <translation type="unfinished"></translation>
+        <translation>D&amp;upliquer</translation>
     </message>
     <message>
         <source>Adds the copies, each beside the one before it</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajoute les copies, chacune à côté de la précédente</translation>
     </message>
     <message>
         <source>None</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucune</translation>
     </message>
     <message>
         <source>What is selected has no pop-up</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce qui est sélectionné n&apos;a pas de bulle</translation>
     </message>
     <message>
         <source>Select a part to see its pop-up</source>
-        <translation type="unfinished"></translation>
+        <translation>Sélectionnez une pièce pour voir sa bulle</translation>
     </message>
     <message>
         <source>Show &amp;Pop-up</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Montrer la bulle</translation>
     </message>
 </context>
 <context>
     <name>AssocPalette</name>
     <message>
         <source>Associations</source>
-        <translation type="unfinished"></translation>
+        <translation>Relations</translation>
     </message>
     <message>
         <source>Links</source>
-        <translation type="unfinished"></translation>
+        <translation>Liens</translation>
     </message>
     <message>
         <source>Subparts</source>
-        <translation type="unfinished"></translation>
+        <translation>Sous-pièces</translation>
     </message>
     <message>
         <source>Reflections</source>
-        <translation type="unfinished"></translation>
+        <translation>Reflets</translation>
     </message>
     <message>
         <source>Pop-up</source>
-        <translation type="unfinished"></translation>
+        <translation>Bulle</translation>
     </message>
     <message>
         <source>Select a part to see what it has to do with.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sélectionnez une pièce pour voir à quoi elle est liée.</translation>
     </message>
     <message>
         <source>Multiple parts selected</source>
-        <translation type="unfinished"></translation>
+        <translation>Plusieurs pièces sélectionnées</translation>
     </message>
 </context>
 <context>
     <name>AssociationList</name>
     <message>
         <source>Remove the reflection</source>
-        <translation type="unfinished"></translation>
+        <translation>Retirer le reflet</translation>
     </message>
     <message>
         <source>Detach</source>
-        <translation type="unfinished"></translation>
+        <translation>Détacher</translation>
     </message>
     <message>
         <source>and %1 more</source>
-        <translation type="unfinished"></translation>
+        <translation>et %1 de plus</translation>
     </message>
     <message>
         <source>None</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucune</translation>
     </message>
     <message>
         <source>Select</source>
-        <translation type="unfinished"></translation>
+        <translation>Sélectionner</translation>
     </message>
 </context>
 <context>
     <name>Associations</name>
     <message>
         <source>%1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 : %2</translation>
     </message>
     <message>
         <source>Follows</source>
-        <translation type="unfinished"></translation>
+        <translation>Suit</translation>
     </message>
     <message>
         <source>Followed by</source>
-        <translation type="unfinished"></translation>
+        <translation>Suivie par</translation>
     </message>
     <message>
         <source>%1 of %2 follows %3 of %4</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 de %2 suit %3 de %4</translation>
     </message>
     <message>
         <source>Controls</source>
-        <translation type="unfinished"></translation>
+        <translation>Commandes</translation>
     </message>
     <message>
         <source>Pads</source>
-        <translation type="unfinished"></translation>
+        <translation>Pastilles</translation>
     </message>
     <message>
         <source>Body</source>
-        <translation type="unfinished"></translation>
+        <translation>Corps</translation>
     </message>
     <message>
         <source>Others</source>
-        <translation type="unfinished"></translation>
+        <translation>Autres</translation>
     </message>
     <message>
         <source>Pop-up</source>
-        <translation type="unfinished"></translation>
+        <translation>Bulle</translation>
     </message>
     <message>
         <source>Parts in it</source>
-        <translation type="unfinished"></translation>
+        <translation>Pièces à l&apos;intérieur</translation>
     </message>
     <message>
         <source>Refers to</source>
-        <translation type="unfinished"></translation>
+        <translation>Renvoie à</translation>
     </message>
     <message>
         <source>Reflection of</source>
-        <translation type="unfinished"></translation>
+        <translation>Reflet de</translation>
     </message>
     <message>
         <source>%1 in %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 dans %2</translation>
     </message>
 </context>
 <context>
     <name>BrandWidget</name>
     <message>
         <source>About the product</source>
-        <translation type="unfinished"></translation>
+        <translation>À propos du produit</translation>
     </message>
 </context>
 <context>
     <name>ColorNames</name>
     <message>
         <source>Black</source>
-        <translation type="unfinished"></translation>
+        <translation>Noir</translation>
     </message>
     <message>
         <source>Dim grey</source>
-        <translation type="unfinished"></translation>
+        <translation>Gris foncé</translation>
     </message>
     <message>
         <source>Grey</source>
-        <translation type="unfinished"></translation>
+        <translation>Gris</translation>
     </message>
     <message>
         <source>Silver</source>
-        <translation type="unfinished"></translation>
+        <translation>Argent</translation>
     </message>
     <message>
         <source>White</source>
-        <translation type="unfinished"></translation>
+        <translation>Blanc</translation>
     </message>
     <message>
         <source>Brown</source>
-        <translation type="unfinished"></translation>
+        <translation>Marron</translation>
     </message>
     <message>
         <source>Maroon</source>
-        <translation type="unfinished"></translation>
+        <translation>Bordeaux</translation>
     </message>
     <message>
         <source>Pink</source>
-        <translation type="unfinished"></translation>
+        <translation>Rose</translation>
     </message>
     <message>
         <source>Red</source>
-        <translation type="unfinished"></translation>
+        <translation>Rouge</translation>
     </message>
     <message>
         <source>Orange</source>
-        <translation type="unfinished"></translation>
+        <translation>Orange</translation>
     </message>
     <message>
         <source>Yellow</source>
-        <translation type="unfinished"></translation>
+        <translation>Jaune</translation>
     </message>
     <message>
         <source>Lime</source>
-        <translation type="unfinished"></translation>
+        <translation>Citron vert</translation>
     </message>
     <message>
         <source>Cyan</source>
-        <translation type="unfinished"></translation>
+        <translation>Cyan</translation>
     </message>
     <message>
         <source>Blue</source>
-        <translation type="unfinished"></translation>
+        <translation>Bleu</translation>
     </message>
     <message>
         <source>Violet</source>
-        <translation type="unfinished"></translation>
+        <translation>Violet</translation>
     </message>
     <message>
         <source>Magenta</source>
-        <translation type="unfinished"></translation>
+        <translation>Magenta</translation>
     </message>
     <message>
         <source>Gold</source>
-        <translation type="unfinished"></translation>
+        <translation>Or</translation>
     </message>
     <message>
         <source>Olive</source>
-        <translation type="unfinished"></translation>
+        <translation>Olive</translation>
     </message>
     <message>
         <source>Green</source>
-        <translation type="unfinished"></translation>
+        <translation>Vert</translation>
     </message>
     <message>
         <source>Teal</source>
-        <translation type="unfinished"></translation>
+        <translation>Bleu canard</translation>
     </message>
     <message>
         <source>Sky blue</source>
-        <translation type="unfinished"></translation>
+        <translation>Bleu ciel</translation>
     </message>
     <message>
         <source>Navy</source>
-        <translation type="unfinished"></translation>
+        <translation>Bleu marine</translation>
     </message>
     <message>
         <source>Purple</source>
-        <translation type="unfinished"></translation>
+        <translation>Pourpre</translation>
     </message>
     <message>
         <source>Indigo</source>
-        <translation type="unfinished"></translation>
+        <translation>Indigo</translation>
     </message>
 </context>
 <context>
     <name>ColorPopup</name>
     <message>
         <source>Colours</source>
-        <translation type="unfinished"></translation>
+        <translation>Couleurs</translation>
     </message>
     <message>
         <source>Standard colours</source>
-        <translation type="unfinished"></translation>
+        <translation>Couleurs courantes</translation>
     </message>
     <message>
         <source>Colours in this document</source>
-        <translation type="unfinished"></translation>
+        <translation>Couleurs de ce document</translation>
     </message>
     <message>
         <source>&amp;More...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Autres...</translation>
     </message>
 </context>
 <context>
     <name>CommandLog</name>
     <message>
         <source>document type declarations are not allowed</source>
-        <translation type="unfinished"></translation>
+        <translation>les déclarations de type de document ne sont pas permises</translation>
     </message>
     <message>
         <source>this is no recorded session</source>
-        <translation type="unfinished"></translation>
+        <translation>ce n&apos;est pas une session enregistrée</translation>
     </message>
     <message>
         <source>the format version is missing or not known</source>
-        <translation type="unfinished"></translation>
+        <translation>la version du format manque ou n&apos;est pas connue</translation>
     </message>
     <message>
         <source>there is no command &lt;%1&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>il n&apos;y a pas de commande &lt;%1&gt;</translation>
     </message>
     <message>
         <source>the content of &lt;%1&gt; is faulty</source>
-        <translation type="unfinished"></translation>
+        <translation>le contenu de &lt;%1&gt; est incorrect</translation>
     </message>
     <message>
         <source>&lt;%1&gt; failed: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;%1&gt; a échoué : %2</translation>
     </message>
     <message>
         <source>there is nothing to undo</source>
-        <translation type="unfinished"></translation>
+        <translation>il n&apos;y a rien à annuler</translation>
     </message>
     <message>
         <source>there is nothing to redo</source>
-        <translation type="unfinished"></translation>
+        <translation>il n&apos;y a rien à rétablir</translation>
     </message>
 </context>
 <context>
     <name>CommandLogPane</name>
     <message>
         <source>Re&amp;cord</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Enregistrer</translation>
     </message>
     <message>
         <source>&amp;Save Recording...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Sauvegarder l&apos;enregistrement...</translation>
     </message>
     <message>
         <source>Commands</source>
-        <translation type="unfinished"></translation>
+        <translation>Commandes</translation>
     </message>
     <message>
         <source>No command was given yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucune commande n&apos;a encore été donnée.</translation>
     </message>
     <message>
         <source>Record what is done to the document from now on</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer désormais ce qui est fait au document</translation>
     </message>
     <message>
         <source>C&amp;lear</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Vider</translation>
     </message>
     <message>
         <source>Save Recording</source>
-        <translation type="unfinished"></translation>
+        <translation>Sauvegarder l&apos;enregistrement</translation>
     </message>
     <message>
         <source>Recorded sessions (*.xml)</source>
-        <translation type="unfinished"></translation>
+        <translation>Sessions enregistrées (*.xml)</translation>
     </message>
     <message>
         <source>%1 cannot be written: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ne peut pas être écrit : %2</translation>
     </message>
 </context>
 <context>
     <name>ConfirmingObserverCheckBox</name>
     <message>
         <source>Change property value</source>
-        <translation type="unfinished"></translation>
+        <translation>Modifier la valeur de la propriété</translation>
     </message>
 </context>
 <context>
     <name>DebugPalette</name>
     <message>
         <source>Debugging</source>
-        <translation type="unfinished"></translation>
+        <translation>Débogage</translation>
     </message>
     <message>
         <source>Properties</source>
-        <translation type="unfinished"></translation>
+        <translation>Propriétés</translation>
     </message>
     <message>
         <source>Statistics</source>
-        <translation type="unfinished"></translation>
+        <translation>Statistiques</translation>
     </message>
     <message>
         <source>Performance</source>
-        <translation type="unfinished"></translation>
+        <translation>Performances</translation>
     </message>
     <message>
         <source>Commands</source>
-        <translation type="unfinished"></translation>
+        <translation>Commandes</translation>
     </message>
     <message>
         <source>Messages</source>
-        <translation type="unfinished"></translation>
+        <translation>Messages</translation>
     </message>
     <message>
         <source>Nothing is selected.</source>
-        <translation type="unfinished"></translation>
+        <translation>Rien n&apos;est sélectionné.</translation>
     </message>
     <message>
         <source>%1 (the first of %2 selected)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (la première de %2 sélectionnées)</translation>
     </message>
 </context>
 <context>
     <name>DeleteNodeCommand</name>
     <message>
         <source>Deletion of %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Suppression de %1</translation>
     </message>
     <message numerus="yes">
         <source>Deletion of %n object(s)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Suppression de %n objet</numerusform>
+            <numerusform>Suppression de %n objets</numerusform>
         </translation>
     </message>
     <message>
         <source>The object is not there any more.</source>
-        <translation type="unfinished"></translation>
+        <translation>L&apos;objet n&apos;existe plus.</translation>
     </message>
     <message>
         <source>The document itself and pop-ups cannot be deleted.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le document lui-même et les bulles ne peuvent pas être supprimés.</translation>
     </message>
     <message>
         <source>The subpart belongs to its part and cannot be deleted.</source>
-        <translation type="unfinished"></translation>
+        <translation>La sous-pièce appartient à sa pièce et ne peut pas être supprimée.</translation>
     </message>
     <message>
         <source>The last scene cannot be deleted.</source>
-        <translation type="unfinished"></translation>
+        <translation>La dernière scène ne peut pas être supprimée.</translation>
     </message>
 </context>
 <context>
     <name>DocumentFile</name>
     <message>
         <source>this is no document</source>
-        <translation type="unfinished"></translation>
+        <translation>ce n&apos;est pas un document</translation>
     </message>
     <message>
         <source>this is no document: it begins with &lt;%1&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>ce n&apos;est pas un document : il commence par &lt;%1&gt;</translation>
     </message>
     <message>
         <source>the document has no model</source>
-        <translation type="unfinished"></translation>
+        <translation>le document n&apos;a pas de modèle</translation>
     </message>
     <message>
         <source>the format version is missing or no number</source>
-        <translation type="unfinished"></translation>
+        <translation>la version du format manque ou n&apos;est pas un nombre</translation>
     </message>
     <message>
         <source>the format version is %1; this program reads versions up to %2</source>
-        <translation type="unfinished"></translation>
+        <translation>la version du format est %1 ; ce programme lit les versions jusqu&apos;à %2</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is no instance id</source>
-        <translation type="unfinished"></translation>
+        <translation>« %1 » n&apos;est pas un numéro d&apos;instance</translation>
     </message>
     <message>
         <source>a document has one model only</source>
-        <translation type="unfinished"></translation>
+        <translation>un document n&apos;a qu&apos;un modèle</translation>
     </message>
     <message>
         <source>the document has no scene</source>
-        <translation type="unfinished"></translation>
+        <translation>le document n&apos;a pas de scène</translation>
     </message>
     <message>
         <source>&lt;%1&gt; cannot stand here</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;%1&gt; ne peut pas se trouver ici</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is no name of a document&apos;s resource</source>
-        <translation type="unfinished"></translation>
+        <translation>« %1 » n&apos;est pas le nom d&apos;une ressource du document</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is no type of resource</source>
-        <translation type="unfinished"></translation>
+        <translation>« %1 » n&apos;est pas un type de ressource</translation>
     </message>
     <message>
         <source>resource &quot;%1&quot; is there twice</source>
-        <translation type="unfinished"></translation>
+        <translation>la ressource « %1 » est présente deux fois</translation>
     </message>
     <message>
         <source>only text can stand here</source>
-        <translation type="unfinished"></translation>
+        <translation>il ne peut y avoir ici que du texte</translation>
     </message>
     <message>
         <source>resource &quot;%1&quot; is larger than 64 MB</source>
-        <translation type="unfinished"></translation>
+        <translation>la ressource « %1 » dépasse 64 Mo</translation>
     </message>
     <message>
         <source>the data of resource &quot;%1&quot; are damaged</source>
-        <translation type="unfinished"></translation>
+        <translation>les données de la ressource « %1 » sont endommagées</translation>
     </message>
     <message>
         <source>the next instance id was %1, which is too low; it is %2 now</source>
-        <translation type="unfinished"></translation>
+        <translation>le prochain numéro d&apos;instance était %1, ce qui est trop petit ; c&apos;est maintenant %2</translation>
     </message>
     <message>
         <source>nodes are nested deeper than %1</source>
-        <translation type="unfinished"></translation>
+        <translation>les nœuds sont imbriqués à plus de %1 niveaux</translation>
     </message>
     <message>
         <source>this is no fragment</source>
-        <translation type="unfinished"></translation>
+        <translation>ce n&apos;est pas un fragment</translation>
     </message>
     <message>
         <source>the format version is missing or not known</source>
-        <translation type="unfinished"></translation>
+        <translation>la version du format manque ou n&apos;est pas connue</translation>
     </message>
     <message numerus="yes">
         <source>%1 %n more warning(s) left out</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1 %n autre avertissement omis</numerusform>
+            <numerusform>%1 %n autres avertissements omis</numerusform>
         </translation>
     </message>
     <message>
         <source>attribute &quot;%1&quot; of &lt;%2&gt; is not known and was dropped</source>
-        <translation type="unfinished"></translation>
+        <translation>l&apos;attribut « %1 » de &lt;%2&gt; n&apos;est pas connu et a été abandonné</translation>
     </message>
     <message>
         <source>the class is missing</source>
-        <translation type="unfinished"></translation>
+        <translation>la classe manque</translation>
     </message>
     <message>
         <source>&quot;%1&quot; names no domain</source>
-        <translation type="unfinished"></translation>
+        <translation>« %1 » ne désigne aucun domaine</translation>
     </message>
     <message>
         <source>class &quot;%1&quot; is not known</source>
-        <translation type="unfinished"></translation>
+        <translation>la classe « %1 » n&apos;est pas connue</translation>
     </message>
     <message>
         <source>more than %1 classes are not known</source>
-        <translation type="unfinished"></translation>
+        <translation>plus de %1 classes ne sont pas connues</translation>
     </message>
     <message>
         <source>class &quot;%1&quot; is not known; kept as it is</source>
-        <translation type="unfinished"></translation>
+        <translation>la classe « %1 » n&apos;est pas connue ; conservée telle quelle</translation>
     </message>
     <message>
         <source>class &quot;%1&quot; is of another kind than &lt;%2&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>la classe « %1 » est d&apos;une autre sorte que &lt;%2&gt;</translation>
     </message>
     <message>
         <source>instance id %1 is used twice</source>
-        <translation type="unfinished"></translation>
+        <translation>le numéro d&apos;instance %1 est utilisé deux fois</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is no lock</source>
-        <translation type="unfinished"></translation>
+        <translation>« %1 » n&apos;est pas un verrou</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is neither true nor false</source>
-        <translation type="unfinished"></translation>
+        <translation>« %1 » n&apos;est ni true ni false</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is no kind of reflection</source>
-        <translation type="unfinished"></translation>
+        <translation>« %1 » n&apos;est pas une sorte de reflet</translation>
     </message>
     <message>
         <source>&lt;%1&gt; has no class</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;%1&gt; n&apos;a pas de classe</translation>
     </message>
     <message>
         <source>&lt;%1&gt; has no instance id</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;%1&gt; n&apos;a pas de numéro d&apos;instance</translation>
     </message>
     <message>
         <source>a reflection needs both what it reflects and which kind it is</source>
-        <translation type="unfinished"></translation>
+        <translation>un reflet a besoin à la fois de ce qu&apos;il reflète et de sa sorte</translation>
     </message>
     <message numerus="yes">
         <source>there are more than %n nodes</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>il y a plus de %n nœud</numerusform>
+            <numerusform>il y a plus de %n nœuds</numerusform>
         </translation>
     </message>
     <message>
         <source>&lt;%1&gt; is no node</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;%1&gt; n&apos;est pas un nœud</translation>
     </message>
     <message>
         <source>text cannot stand here</source>
-        <translation type="unfinished"></translation>
+        <translation>du texte ne peut pas se trouver ici</translation>
     </message>
     <message>
         <source>document type declarations are not allowed</source>
-        <translation type="unfinished"></translation>
+        <translation>les déclarations de type de document ne sont pas permises</translation>
     </message>
     <message>
         <source>this cannot stand here</source>
-        <translation type="unfinished"></translation>
+        <translation>cela ne peut pas se trouver ici</translation>
     </message>
     <message>
         <source>nothing can stand after the end of the document</source>
-        <translation type="unfinished"></translation>
+        <translation>rien ne peut suivre la fin du document</translation>
     </message>
     <message>
         <source>&lt;%1&gt; is not known; kept as it is</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;%1&gt; n&apos;est pas connu ; conservé tel quel</translation>
     </message>
     <message>
         <source>a part has one pop-up only</source>
-        <translation type="unfinished"></translation>
+        <translation>une pièce n&apos;a qu&apos;une bulle</translation>
     </message>
     <message>
         <source>&lt;value&gt; has no key</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;value&gt; n&apos;a pas de clé</translation>
     </message>
     <message>
         <source>a proxy needs both a node and a key to follow</source>
-        <translation type="unfinished"></translation>
+        <translation>un lien a besoin à la fois d&apos;un nœud et d&apos;une clé à suivre</translation>
     </message>
     <message>
         <source>the text of a value is longer than 64 MB</source>
-        <translation type="unfinished"></translation>
+        <translation>le texte d&apos;une valeur dépasse 64 Mo</translation>
     </message>
     <message>
         <source>this is no %1</source>
-        <translation type="unfinished"></translation>
+        <translation>ce n&apos;est pas du type %1</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is no %2 (property &quot;%3&quot;)</source>
-        <translation type="unfinished"></translation>
+        <translation>« %1 » n&apos;est pas du type %2 (propriété « %3 »)</translation>
     </message>
     <message>
         <source>class &quot;%1&quot; has no property &quot;%2&quot;; kept as it is</source>
-        <translation type="unfinished"></translation>
+        <translation>la classe « %1 » n&apos;a pas de propriété « %2 » ; conservée telle quelle</translation>
     </message>
     <message>
         <source>property &quot;%1&quot; is not kept in files; dropped</source>
-        <translation type="unfinished"></translation>
+        <translation>la propriété « %1 » n&apos;est pas gardée dans les fichiers ; abandonnée</translation>
     </message>
     <message>
         <source>property &quot;%1&quot; is given twice; the first value counts</source>
-        <translation type="unfinished"></translation>
+        <translation>la propriété « %1 » est donnée deux fois ; la première valeur compte</translation>
     </message>
     <message>
         <source>the value of property &quot;%1&quot; is not allowed; kept: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>la valeur de la propriété « %1 » n&apos;est pas permise ; conservée : %2</translation>
     </message>
     <message>
         <source>the id &quot;%1&quot; is used twice; kept</source>
-        <translation type="unfinished"></translation>
+        <translation>l&apos;identifiant « %1 » est utilisé deux fois ; conservé</translation>
     </message>
     <message>
         <source>property &quot;%1&quot; of node %2 follows itself, directly or through others</source>
-        <translation type="unfinished"></translation>
+        <translation>la propriété « %1 » du nœud %2 se suit elle-même, directement ou par d&apos;autres</translation>
     </message>
     <message>
         <source>property &quot;%1&quot; follows one that is not there (&quot;%2&quot; of node %3); kept as it is</source>
-        <translation type="unfinished"></translation>
+        <translation>la propriété « %1 » en suit une qui n&apos;existe pas (« %2 » du nœud %3) ; conservée telle quelle</translation>
     </message>
     <message>
         <source>property &quot;%1&quot; (%2) cannot follow &quot;%3&quot; (%4)</source>
-        <translation type="unfinished"></translation>
+        <translation>la propriété « %1 » (%2) ne peut pas suivre « %3 » (%4)</translation>
     </message>
     <message>
         <source>node %1, which is reflected here, is not there; kept as it is</source>
-        <translation type="unfinished"></translation>
+        <translation>le nœud %1, qui est reflété ici, n&apos;existe pas ; conservé tel quel</translation>
     </message>
     <message>
         <source>elements are nested too deep</source>
-        <translation type="unfinished"></translation>
+        <translation>les éléments sont trop imbriqués</translation>
     </message>
     <message>
         <source>an unknown element is longer than 64 MB</source>
-        <translation type="unfinished"></translation>
+        <translation>un élément inconnu dépasse 64 Mo</translation>
     </message>
 </context>
 <context>
     <name>DocumentFiles</name>
     <message>
         <source>Untitled</source>
-        <translation type="unfinished"></translation>
+        <translation>Sans titre</translation>
     </message>
     <message>
         <source>Changes not saved</source>
-        <translation type="unfinished"></translation>
+        <translation>Modifications non enregistrées</translation>
     </message>
     <message>
         <source>Save the changes to %1?</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer les modifications de %1 ?</translation>
     </message>
     <message>
         <source>Open</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouvrir</translation>
     </message>
     <message>
         <source>%1 cannot be opened.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ne peut pas être ouvert.</translation>
     </message>
     <message>
         <source>Save As</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer sous</translation>
     </message>
     <message>
         <source>%1 could not be saved.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 n&apos;a pas pu être enregistré.</translation>
     </message>
     <message>
         <source>Saved %1</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 enregistré</translation>
     </message>
     <message>
         <source>Revert</source>
-        <translation type="unfinished"></translation>
+        <translation>Revenir</translation>
     </message>
     <message>
         <source>Lose all changes made since %1 was last saved?</source>
-        <translation type="unfinished"></translation>
+        <translation>Perdre toutes les modifications faites depuis le dernier enregistrement de %1 ?</translation>
     </message>
 </context>
 <context>
     <name>DocumentImpl</name>
     <message>
         <source>There is no such part.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cette pièce n&apos;existe pas.</translation>
     </message>
     <message>
         <source>The id names no class of a domain.</source>
-        <translation type="unfinished"></translation>
+        <translation>L&apos;identifiant ne désigne aucune classe d&apos;un domaine.</translation>
     </message>
     <message>
         <source>The id is already in use.</source>
-        <translation type="unfinished"></translation>
+        <translation>L&apos;identifiant est déjà utilisé.</translation>
     </message>
     <message>
         <source>Nothing can be changed while an undo or redo is under way.</source>
-        <translation type="unfinished"></translation>
+        <translation>Rien ne peut être modifié pendant une annulation ou un rétablissement.</translation>
     </message>
     <message>
         <source>%1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 : %2</translation>
     </message>
 </context>
 <context>
     <name>ExpressionParser</name>
     <message>
         <source>The expression is not complete.</source>
-        <translation type="unfinished"></translation>
+        <translation>L&apos;expression n&apos;est pas complète.</translation>
     </message>
     <message>
         <source>A closing bracket is missing.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il manque une parenthèse fermante.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; at position %2 is not known.</source>
-        <translation type="unfinished"></translation>
+        <translation>« %1 » à la position %2 n&apos;est pas connu.</translation>
     </message>
     <message>
         <source>The function before position %1 takes another number of arguments.</source>
-        <translation type="unfinished"></translation>
+        <translation>La fonction avant la position %1 prend un autre nombre d&apos;arguments.</translation>
     </message>
     <message>
         <source>The expression is not correct at position %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>L&apos;expression n&apos;est pas correcte à la position %1.</translation>
     </message>
     <message>
         <source>The result is not a number.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le résultat n&apos;est pas un nombre.</translation>
     </message>
     <message>
         <source>The result is too large, or something is divided by zero.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le résultat est trop grand, ou il y a une division par zéro.</translation>
     </message>
     <message>
         <source>The expression is too long.</source>
-        <translation type="unfinished"></translation>
+        <translation>L&apos;expression est trop longue.</translation>
     </message>
     <message>
         <source>There is no number.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il n&apos;y a pas de nombre.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; at position %2 is not a unit that can be converted to %3.</source>
-        <translation type="unfinished"></translation>
+        <translation>« %1 » à la position %2 n&apos;est pas une unité convertible en %3.</translation>
     </message>
     <message>
         <source>Too many brackets are open.</source>
-        <translation type="unfinished"></translation>
+        <translation>Trop de parenthèses sont ouvertes.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; at position %2 is not expected there.</source>
-        <translation type="unfinished"></translation>
+        <translation>« %1 » n&apos;est pas attendu à la position %2.</translation>
     </message>
 </context>
 <context>
     <name>FlowchartBar</name>
     <message>
         <source>Flowcharts</source>
-        <translation type="unfinished"></translation>
+        <translation>Organigrammes</translation>
     </message>
     <message>
         <source>&amp;Run Flowcharts</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Exécuter les organigrammes</translation>
     </message>
     <message>
         <source>Pause</source>
-        <translation type="unfinished"></translation>
+        <translation>Pause</translation>
     </message>
     <message>
         <source>Start the flowcharts, or stop them</source>
-        <translation type="unfinished"></translation>
+        <translation>Démarrer les organigrammes, ou les arrêter</translation>
     </message>
     <message>
         <source>Run flowcharts</source>
-        <translation type="unfinished"></translation>
+        <translation>Exécuter les organigrammes</translation>
     </message>
     <message>
         <source>Start the flowcharts, or stop them (F5)</source>
-        <translation type="unfinished"></translation>
+        <translation>Démarrer les organigrammes, ou les arrêter (F5)</translation>
     </message>
     <message>
         <source>All flowcharts have come to their end.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tous les organigrammes sont arrivés à leur fin.</translation>
     </message>
     <message>
         <source>There is no flowchart in this document: add a start block first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il n&apos;y a pas d&apos;organigramme dans ce document : ajoutez d&apos;abord un bloc de départ.</translation>
     </message>
     <message>
         <source>Flowchart</source>
-        <translation type="unfinished"></translation>
+        <translation>Organigramme</translation>
     </message>
     <message>
         <source>The link &quot;%1&quot; cannot be opened.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le lien « %1 » ne peut pas être ouvert.</translation>
     </message>
 </context>
 <context>
     <name>FlowchartRunner</name>
     <message>
         <source>The block &quot;%1&quot; waits for &quot;%2&quot;, but nothing has that output name.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le bloc « %1 » attend « %2 », mais rien ne porte ce nom de sortie.</translation>
     </message>
     <message>
         <source>The chart leads to &quot;%1&quot;, which is no block.</source>
-        <translation type="unfinished"></translation>
+        <translation>L&apos;organigramme mène à « %1 », qui n&apos;est pas un bloc.</translation>
     </message>
     <message>
         <source>The block &quot;%1&quot; switches &quot;%2&quot;, but nothing has that output name.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le bloc « %1 » commute « %2 », mais rien ne porte ce nom de sortie.</translation>
     </message>
     <message>
         <source>Nothing follows the block &quot;%1&quot;: the chart ends there.</source>
-        <translation type="unfinished"></translation>
+        <translation>Rien ne suit le bloc « %1 » : l&apos;organigramme s&apos;y termine.</translation>
     </message>
     <message>
         <source>Nothing follows one of the answers of &quot;%1&quot;: the chart ends there.</source>
-        <translation type="unfinished"></translation>
+        <translation>Rien ne suit l&apos;une des réponses de « %1 » : l&apos;organigramme s&apos;y termine.</translation>
     </message>
     <message>
         <source>The procedure &quot;%1&quot; has no start block in its pop-up.</source>
-        <translation type="unfinished"></translation>
+        <translation>La procédure « %1 » n&apos;a pas de bloc de départ dans sa bulle.</translation>
     </message>
     <message>
         <source>The procedure &quot;%1&quot; calls itself again and again.</source>
-        <translation type="unfinished"></translation>
+        <translation>La procédure « %1 » s&apos;appelle elle-même sans fin.</translation>
     </message>
     <message>
         <source>The decision &quot;%1&quot; does not say what it asks.</source>
-        <translation type="unfinished"></translation>
+        <translation>La décision « %1 » ne dit pas ce qu&apos;elle demande.</translation>
     </message>
     <message>
         <source>The decision &quot;%1&quot; asks &quot;%2&quot;, but nothing has that output name.</source>
-        <translation type="unfinished"></translation>
+        <translation>La décision « %1 » interroge « %2 », mais rien ne porte ce nom de sortie.</translation>
     </message>
 </context>
 <context>
     <name>FlowchartSpeedWidget</name>
     <message>
         <source>Speed of the flowcharts</source>
-        <translation type="unfinished"></translation>
+        <translation>Vitesse des organigrammes</translation>
     </message>
     <message>
         <source>How fast the flowcharts run</source>
-        <translation type="unfinished"></translation>
+        <translation>À quelle vitesse les organigrammes s&apos;exécutent</translation>
     </message>
     <message>
         <source>Flowcharts:</source>
-        <translation type="unfinished"></translation>
+        <translation>Organigrammes :</translation>
     </message>
     <message>
         <source>Step</source>
-        <translation type="unfinished"></translation>
+        <translation>Pas</translation>
     </message>
     <message>
         <source>Run the next block</source>
-        <translation type="unfinished"></translation>
+        <translation>Exécuter le bloc suivant</translation>
     </message>
 </context>
 <context>
     <name>FontChooser</name>
     <message>
         <source>Light</source>
-        <translation type="unfinished"></translation>
+        <translation>Léger</translation>
     </message>
     <message>
         <source>Normal</source>
-        <translation type="unfinished"></translation>
+        <translation>Normal</translation>
     </message>
     <message>
         <source>Medium</source>
-        <translation type="unfinished"></translation>
+        <translation>Moyen</translation>
     </message>
     <message>
         <source>Half bold</source>
-        <translation type="unfinished"></translation>
+        <translation>Demi-gras</translation>
     </message>
     <message>
         <source>Bold</source>
-        <translation type="unfinished"></translation>
+        <translation>Gras</translation>
     </message>
     <message>
         <source>Black</source>
-        <translation type="unfinished"></translation>
+        <translation>Noir</translation>
     </message>
     <message>
         <source>Italic</source>
-        <translation type="unfinished"></translation>
+        <translation>Italique</translation>
     </message>
     <message>
         <source>AaBbYyZz 123</source>
-        <translation type="unfinished"></translation>
+        <translation>AaBbYyZz 123</translation>
     </message>
     <message>
         <source>Sample</source>
-        <translation type="unfinished"></translation>
+        <translation>Échantillon</translation>
     </message>
     <message>
         <source>All fonts...</source>
-        <translation type="unfinished"></translation>
+        <translation>Toutes les polices...</translation>
     </message>
     <message>
         <source>...</source>
-        <translation type="unfinished"></translation>
+        <translation>...</translation>
     </message>
     <message>
         <source>%1, family</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, famille</translation>
     </message>
     <message>
         <source>%1, size in points</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, taille en points</translation>
     </message>
     <message>
         <source>Size in points</source>
-        <translation type="unfinished"></translation>
+        <translation>Taille en points</translation>
     </message>
     <message>
         <source>%1, weight</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, graisse</translation>
     </message>
     <message>
         <source>%1, italic</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, italique</translation>
     </message>
     <message>
         <source>The size is a number from 1 to 1000.</source>
-        <translation type="unfinished"></translation>
+        <translation>La taille est un nombre de 1 à 1000.</translation>
     </message>
 </context>
 <context>
     <name>GetCustomPartLabel</name>
     <message>
         <source>Choose custom part label</source>
-        <translation type="unfinished"></translation>
+        <translation>Choisir l&apos;étiquette de la pièce personnelle</translation>
     </message>
     <message>
         <source>Part &amp;label:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Étiquette de la pièce :</translation>
     </message>
     <message>
         <source>The part label appears in the part tree.</source>
-        <translation type="unfinished"></translation>
+        <translation>L&apos;étiquette de la pièce apparaît dans l&apos;arbre des pièces.</translation>
     </message>
     <message>
         <source>&amp;Save Part</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Enregistrer la pièce</translation>
     </message>
     <message>
         <source>&amp;Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>A&amp;nnuler</translation>
     </message>
 </context>
 <context>
     <name>IdProvider</name>
     <message>
         <source>The id must not be empty.</source>
-        <translation type="unfinished"></translation>
+        <translation>L&apos;identifiant ne doit pas être vide.</translation>
     </message>
     <message>
         <source>The id is longer than 100 characters.</source>
-        <translation type="unfinished"></translation>
+        <translation>L&apos;identifiant dépasse 100 caractères.</translation>
     </message>
     <message>
         <source>The id must not contain blanks.</source>
-        <translation type="unfinished"></translation>
+        <translation>L&apos;identifiant ne doit pas contenir d&apos;espaces.</translation>
     </message>
     <message>
         <source>Another subpart has this id.</source>
-        <translation type="unfinished"></translation>
+        <translation>Une autre sous-pièce a cet identifiant.</translation>
     </message>
     <message>
         <source>Another part has this id.</source>
-        <translation type="unfinished"></translation>
+        <translation>Une autre pièce a cet identifiant.</translation>
     </message>
 </context>
 <context>
     <name>InsertMenu</name>
     <message>
         <source>Connect the two selected parts</source>
-        <translation type="unfinished"></translation>
+        <translation>Relier les deux pièces sélectionnées</translation>
     </message>
 </context>
 <context>
     <name>Inspector</name>
     <message>
         <source>Inspector</source>
-        <translation type="unfinished"></translation>
+        <translation>Inspecteur</translation>
     </message>
     <message>
         <source>Class</source>
-        <translation type="unfinished"></translation>
+        <translation>Classe</translation>
     </message>
     <message>
         <source>Id</source>
-        <translation type="unfinished"></translation>
+        <translation>Identifiant</translation>
     </message>
     <message>
         <source>InstanceId</source>
-        <translation type="unfinished"></translation>
+        <translation>Numéro d&apos;instance</translation>
     </message>
     <message>
         <source>Nodes</source>
-        <translation type="unfinished"></translation>
+        <translation>Nœuds</translation>
     </message>
 </context>
 <context>
     <name>Licence</name>
     <message>
         <source>Please enter the licence code.</source>
-        <translation type="unfinished"></translation>
+        <translation>Veuillez saisir le code de licence.</translation>
     </message>
     <message>
         <source>Typing error in group %1: &quot;%2&quot; does not occur in licence codes.</source>
-        <translation type="unfinished"></translation>
+        <translation>Faute de frappe dans le groupe %1 : « %2 » n&apos;apparaît pas dans les codes de licence.</translation>
     </message>
     <message>
         <source>Typing error in group %1: it has %2 characters instead of %3.</source>
-        <translation type="unfinished"></translation>
+        <translation>Faute de frappe dans le groupe %1 : il a %2 caractères au lieu de %3.</translation>
     </message>
     <message>
         <source>The code is too long: no licence code has so many groups.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le code est trop long : aucun code de licence n&apos;a autant de groupes.</translation>
     </message>
     <message>
         <source>Typing error in group %1: please compare it letter by letter. Groups may also be missing, doubled or exchanged.</source>
-        <translation type="unfinished"></translation>
+        <translation>Faute de frappe dans le groupe %1 : veuillez le comparer lettre par lettre. Des groupes peuvent aussi manquer, être doublés ou intervertis.</translation>
     </message>
     <message>
         <source>The secret key cannot be used.</source>
-        <translation type="unfinished"></translation>
+        <translation>La clé secrète ne peut pas être utilisée.</translation>
     </message>
     <message>
         <source>A licence needs a holder and a product.</source>
-        <translation type="unfinished"></translation>
+        <translation>Une licence a besoin d&apos;un titulaire et d&apos;un produit.</translation>
     </message>
     <message>
         <source>The dates of a licence lie between 2000 and 2179, and it does not expire before it is issued.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les dates d&apos;une licence se situent entre 2000 et 2179, et elle n&apos;expire pas avant d&apos;être émise.</translation>
     </message>
     <message>
         <source>A licence has from 1 to 65535 seats.</source>
-        <translation type="unfinished"></translation>
+        <translation>Une licence a de 1 à 65535 postes.</translation>
     </message>
     <message>
         <source>Holder, product and edition have at most 80 letters each.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le titulaire, le produit et l&apos;édition ont au plus 80 lettres chacun.</translation>
     </message>
     <message>
         <source>Holder, product and edition are too long together.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le titulaire, le produit et l&apos;édition sont trop longs ensemble.</translation>
     </message>
     <message>
         <source>This code was not made for this program: its signature is not right. Please ask whoever gave it to you.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce code n&apos;a pas été fait pour ce programme : sa signature n&apos;est pas la bonne. Veuillez demander à la personne qui vous l&apos;a donné.</translation>
     </message>
     <message>
         <source>The code has %1 groups, but %2 were entered.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le code a %1 groupes, mais %2 ont été saisis.</translation>
     </message>
     <message>
         <source>This code is for the product %1; this program is %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce code est pour le produit %1 ; ce programme est %2.</translation>
     </message>
     <message>
         <source>This code was issued on %1, but the clock of this computer says that today is %2. Please set the clock.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce code a été émis le %1, mais l&apos;horloge de cet ordinateur dit que nous sommes le %2. Veuillez régler l&apos;horloge.</translation>
     </message>
     <message>
         <source>This licence expired on %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cette licence a expiré le %1.</translation>
     </message>
 </context>
 <context>
     <name>LicenceDialog</name>
     <message>
         <source>Licence</source>
-        <translation type="unfinished"></translation>
+        <translation>Licence</translation>
     </message>
     <message>
         <source>Licence &amp;code:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Code de licence :</translation>
     </message>
     <message>
         <source>Licence code</source>
-        <translation type="unfinished"></translation>
+        <translation>Code de licence</translation>
     </message>
     <message>
         <source>Paste the code here, or type it group by group</source>
-        <translation type="unfinished"></translation>
+        <translation>Collez le code ici, ou tapez-le groupe par groupe</translation>
     </message>
     <message>
         <source>&amp;Remove</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Retirer</translation>
     </message>
     <message>
         <source>Forget the licence code on this computer</source>
-        <translation type="unfinished"></translation>
+        <translation>Oublier le code de licence sur cet ordinateur</translation>
     </message>
     <message>
         <source>&amp;Ok</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;OK</translation>
     </message>
     <message>
         <source>&amp;Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>A&amp;nnuler</translation>
     </message>
     <message>
         <source>A licence code is made of groups of %1 letters and digits. Small letters are as good as capitals.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un code de licence est fait de groupes de %1 lettres et chiffres. Les minuscules valent les majuscules.</translation>
     </message>
     <message>
         <source>The code is right. It is for %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le code est juste. Il est pour %1.</translation>
     </message>
     <message numerus="yes">
         <source>Right so far: %n groups.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Juste jusqu&apos;ici : %n groupe.</numerusform>
+            <numerusform>Juste jusqu&apos;ici : %n groupes.</numerusform>
         </translation>
     </message>
 </context>
@@ -1650,257 +1651,257 @@ Please enter another id</source>
     <name>LicenceManager</name>
     <message>
         <source>The program was used on %1 before, but the clock of this computer says that today is %2. Please set the clock.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le programme a déjà été utilisé le %1, mais l&apos;horloge de cet ordinateur dit que nous sommes le %2. Veuillez régler l&apos;horloge.</translation>
     </message>
     <message>
         <source>Unlicensed evaluation.</source>
-        <translation type="unfinished"></translation>
+        <translation>Évaluation sans licence.</translation>
     </message>
     <message>
         <source>Unlicensed evaluation. %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Évaluation sans licence. %1</translation>
     </message>
     <message>
         <source>Licensed to %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Licence accordée à %1.</translation>
     </message>
     <message>
         <source>Licensed to %1, edition %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Licence accordée à %1, édition %2.</translation>
     </message>
     <message numerus="yes">
         <source>For %n seats.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Pour %n poste.</numerusform>
+            <numerusform>Pour %n postes.</numerusform>
         </translation>
     </message>
     <message>
         <source>The licence expires today.</source>
-        <translation type="unfinished"></translation>
+        <translation>La licence expire aujourd&apos;hui.</translation>
     </message>
     <message numerus="yes">
         <source>The licence expires in %n days.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>La licence expire dans %n jour.</numerusform>
+            <numerusform>La licence expire dans %n jours.</numerusform>
         </translation>
     </message>
     <message>
         <source>unlicensed evaluation</source>
-        <translation type="unfinished"></translation>
+        <translation>évaluation sans licence</translation>
     </message>
     <message>
         <source>licence expires today</source>
-        <translation type="unfinished"></translation>
+        <translation>la licence expire aujourd&apos;hui</translation>
     </message>
     <message numerus="yes">
         <source>licence expires in %n days</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>la licence expire dans %n jour</numerusform>
+            <numerusform>la licence expire dans %n jours</numerusform>
         </translation>
     </message>
     <message>
         <source>Printed with an unlicensed evaluation copy</source>
-        <translation type="unfinished"></translation>
+        <translation>Imprimé avec une copie d&apos;évaluation sans licence</translation>
     </message>
 </context>
 <context>
     <name>LineEdit</name>
     <message>
         <source>Cu&amp;t</source>
-        <translation type="unfinished"></translation>
+        <translation>Co&amp;uper</translation>
     </message>
     <message>
         <source>&amp;Copy</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Copier</translation>
     </message>
     <message>
         <source>&amp;Paste</source>
-        <translation type="unfinished"></translation>
+        <translation>C&amp;oller</translation>
     </message>
     <message>
         <source>Clear</source>
-        <translation type="unfinished"></translation>
+        <translation>Vider</translation>
     </message>
     <message>
         <source>Select All</source>
-        <translation type="unfinished"></translation>
+        <translation>Tout sélectionner</translation>
     </message>
 </context>
 <context>
     <name>ListEditor</name>
     <message>
         <source>Move up</source>
-        <translation type="unfinished"></translation>
+        <translation>Monter</translation>
     </message>
     <message>
         <source>Move down</source>
-        <translation type="unfinished"></translation>
+        <translation>Descendre</translation>
     </message>
 </context>
 <context>
     <name>LockPalette</name>
     <message>
         <source>Property Value Editing</source>
-        <translation type="unfinished"></translation>
+        <translation>Modification des valeurs</translation>
     </message>
     <message>
         <source>Position</source>
-        <translation type="unfinished"></translation>
+        <translation>Position</translation>
     </message>
     <message>
         <source>Size</source>
-        <translation type="unfinished"></translation>
+        <translation>Taille</translation>
     </message>
     <message>
         <source>Orientation</source>
-        <translation type="unfinished"></translation>
+        <translation>Orientation</translation>
     </message>
     <message>
         <source>Locking</source>
-        <translation type="unfinished"></translation>
+        <translation>Verrouillage</translation>
     </message>
 </context>
 <context>
     <name>MainWindow</name>
     <message>
         <source>Selection</source>
-        <translation type="unfinished"></translation>
+        <translation>Sélection</translation>
     </message>
     <message>
         <source>Place of the mouse pointer</source>
-        <translation type="unfinished"></translation>
+        <translation>Endroit du pointeur de la souris</translation>
     </message>
     <message>
         <source>Zoom</source>
-        <translation type="unfinished"></translation>
+        <translation>Zoom</translation>
     </message>
     <message>
         <source>That could not be done.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cela n&apos;a pas pu être fait.</translation>
     </message>
     <message>
         <source>%1 %</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 %</translation>
     </message>
     <message>
         <source>&amp;Undo %1</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Annuler : %1</translation>
     </message>
     <message>
         <source>&amp;Undo</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Annuler</translation>
     </message>
     <message>
         <source>&amp;Redo %1</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Rétablir : %1</translation>
     </message>
     <message>
         <source>&amp;Redo</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Rétablir</translation>
     </message>
     <message>
         <source>Nothing selected</source>
-        <translation type="unfinished"></translation>
+        <translation>Rien de sélectionné</translation>
     </message>
     <message numerus="yes">
         <source>%Ln selected</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%Ln sélectionnée</numerusform>
+            <numerusform>%Ln sélectionnées</numerusform>
         </translation>
     </message>
     <message>
         <source>%1, %2 mm</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, %2 mm</translation>
     </message>
     <message>
         <source>There is no part with the id &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il n&apos;y a pas de pièce avec l&apos;identifiant « %1 ».</translation>
     </message>
 </context>
 <context>
     <name>MessagesPane</name>
     <message>
         <source>Messages</source>
-        <translation type="unfinished"></translation>
+        <translation>Messages</translation>
     </message>
     <message>
         <source>There was no message yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il n&apos;y a pas encore eu de message.</translation>
     </message>
     <message>
         <source>Open &amp;Console Window</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouvrir la &amp;console</translation>
     </message>
 </context>
 <context>
     <name>ModelsBrowser</name>
     <message>
         <source>document type declarations are not allowed</source>
-        <translation type="unfinished"></translation>
+        <translation>les déclarations de type de document ne sont pas permises</translation>
     </message>
     <message>
         <source>&amp;Add Folder...</source>
-        <translation type="unfinished"></translation>
+        <translation>A&amp;jouter un dossier...</translation>
     </message>
     <message>
         <source>&amp;Remove Folder</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Retirer le dossier</translation>
     </message>
     <message>
         <source>&amp;Open</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ouvrir</translation>
     </message>
     <message>
         <source>Show the documents of one more folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Montrer les documents d&apos;un dossier de plus</translation>
     </message>
     <message>
         <source>Show the folder no longer; nothing on the disk is touched</source>
-        <translation type="unfinished"></translation>
+        <translation>Ne plus montrer le dossier ; rien ne change sur le disque</translation>
     </message>
     <message>
         <source>Models</source>
-        <translation type="unfinished"></translation>
+        <translation>Modèles</translation>
     </message>
     <message>
         <source>No folder yet. Add one to see its documents here.</source>
-        <translation type="unfinished"></translation>
+        <translation>Pas encore de dossier. Ajoutez-en un pour voir ses documents ici.</translation>
     </message>
     <message>
         <source>Add Folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajouter un dossier</translation>
     </message>
 </context>
 <context>
     <name>ModelsModel</name>
     <message>
         <source>The folder is not there or cannot be read.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le dossier n&apos;existe pas ou ne peut pas être lu.</translation>
     </message>
     <message>
         <source>%1 (no documents)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (aucun document)</translation>
     </message>
     <message>
         <source>Cannot be read: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Illisible : %1</translation>
     </message>
 </context>
 <context>
     <name>MoveGesture</name>
     <message>
         <source>Move part</source>
-        <translation type="unfinished"></translation>
+        <translation>Déplacement d&apos;une pièce</translation>
     </message>
     <message numerus="yes">
         <source>Move %n parts</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Déplacement de %n pièce</numerusform>
+            <numerusform>Déplacement de %n pièces</numerusform>
         </translation>
     </message>
 </context>
@@ -1908,604 +1909,604 @@ Please enter another id</source>
     <name>NoSelectionPane</name>
     <message>
         <source>Select a part to see and change its properties.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sélectionnez une pièce pour voir et modifier ses propriétés.</translation>
     </message>
     <message>
         <source>Scene Properties</source>
-        <translation type="unfinished"></translation>
+        <translation>Propriétés de la scène</translation>
     </message>
     <message>
         <source>Shows the properties of the scene on view</source>
-        <translation type="unfinished"></translation>
+        <translation>Montre les propriétés de la scène affichée</translation>
     </message>
 </context>
 <context>
     <name>ObserverColorPicker</name>
     <message>
         <source>%1, name of the colour</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, nom de la couleur</translation>
     </message>
     <message>
         <source>This names no colour.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cela ne désigne aucune couleur.</translation>
     </message>
 </context>
 <context>
     <name>ObserverComboBox</name>
     <message>
         <source>true</source>
-        <translation type="unfinished"></translation>
+        <translation>vrai</translation>
     </message>
     <message>
         <source>false</source>
-        <translation type="unfinished"></translation>
+        <translation>faux</translation>
     </message>
 </context>
 <context>
     <name>ObserverLineEdit</name>
     <message>
         <source>This text does not stand for a value of the kind that is needed here.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce texte ne représente pas une valeur de la sorte voulue ici.</translation>
     </message>
 </context>
 <context>
     <name>ObserverPoint</name>
     <message>
         <source>%1, x</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, x</translation>
     </message>
     <message>
         <source>%1, y</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, y</translation>
     </message>
 </context>
 <context>
     <name>Package</name>
     <message>
         <source>it differs from &quot;%1&quot; only by its extension</source>
-        <translation type="unfinished"></translation>
+        <translation>il ne diffère de « %1 » que par son extension</translation>
     </message>
     <message>
         <source>&lt;%1&gt; has no attribute &quot;%2&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;%1&gt; n&apos;a pas d&apos;attribut « %2 »</translation>
     </message>
     <message>
         <source>&lt;%1&gt; cannot stand in &lt;%2&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;%1&gt; ne peut pas se trouver dans &lt;%2&gt;</translation>
     </message>
     <message>
         <source>&lt;%1&gt; cannot have text here</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;%1&gt; ne peut pas avoir de texte ici</translation>
     </message>
     <message>
         <source>the file is larger than 16 MB</source>
-        <translation type="unfinished"></translation>
+        <translation>le fichier dépasse 16 Mo</translation>
     </message>
     <message>
         <source>the elements are nested too deep</source>
-        <translation type="unfinished"></translation>
+        <translation>les éléments sont trop imbriqués</translation>
     </message>
     <message>
         <source>document types and entities are not understood</source>
-        <translation type="unfinished"></translation>
+        <translation>les types de document et les entités ne sont pas compris</translation>
     </message>
     <message>
         <source>&lt;%1&gt; needs a key without blanks</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;%1&gt; a besoin d&apos;une clé sans espaces</translation>
     </message>
     <message>
         <source>the property &quot;%1&quot; is made by the program itself</source>
-        <translation type="unfinished"></translation>
+        <translation>la propriété « %1 » est faite par le programme lui-même</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is no type of a property</source>
-        <translation type="unfinished"></translation>
+        <translation>« %1 » n&apos;est pas un type de propriété</translation>
     </message>
     <message>
         <source>the property &quot;%1&quot; is inherited with the type %2</source>
-        <translation type="unfinished"></translation>
+        <translation>la propriété « %1 » est héritée avec le type %2</translation>
     </message>
     <message>
         <source>a property has only one &lt;%1&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>une propriété n&apos;a qu&apos;un &lt;%1&gt;</translation>
     </message>
     <message>
         <source>the attribute &quot;%1&quot; is no whole number from %2 on: &quot;%3&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>l&apos;attribut « %1 » n&apos;est pas un nombre entier à partir de %2 : « %3 »</translation>
     </message>
     <message>
         <source>the attribute &quot;%1&quot; is none of %2: &quot;%3&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>l&apos;attribut « %1 » n&apos;est aucun de %2 : « %3 »</translation>
     </message>
     <message>
         <source>there is no resource &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>il n&apos;y a pas de ressource « %1 »</translation>
     </message>
     <message>
         <source>the resource &quot;%1&quot; is of the type %2, not %3</source>
-        <translation type="unfinished"></translation>
+        <translation>la ressource « %1 » est du type %2, pas %3</translation>
     </message>
     <message>
         <source>values of the type %1 have no unit</source>
-        <translation type="unfinished"></translation>
+        <translation>les valeurs du type %1 n&apos;ont pas d&apos;unité</translation>
     </message>
     <message>
         <source>the unit &quot;%1&quot; is not known</source>
-        <translation type="unfinished"></translation>
+        <translation>l&apos;unité « %1 » n&apos;est pas connue</translation>
     </message>
     <message>
         <source>the flag &quot;%1&quot; is not known</source>
-        <translation type="unfinished"></translation>
+        <translation>l&apos;indicateur « %1 » n&apos;est pas connu</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is no value of the type %2</source>
-        <translation type="unfinished"></translation>
+        <translation>« %1 » n&apos;est pas une valeur du type %2</translation>
     </message>
     <message>
         <source>a value of the type %1 is a text</source>
-        <translation type="unfinished"></translation>
+        <translation>une valeur du type %1 est un texte</translation>
     </message>
     <message>
         <source>the content is no value of the type %1</source>
-        <translation type="unfinished"></translation>
+        <translation>le contenu n&apos;est pas une valeur du type %1</translation>
     </message>
     <message>
         <source>the property has a default already</source>
-        <translation type="unfinished"></translation>
+        <translation>la propriété a déjà une valeur par défaut</translation>
     </message>
     <message>
         <source>a default of the type %1 stands in an element &lt;default&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>une valeur par défaut du type %1 se trouve dans un élément &lt;default&gt;</translation>
     </message>
     <message>
         <source>values of the type %1 have no format</source>
-        <translation type="unfinished"></translation>
+        <translation>les valeurs du type %1 n&apos;ont pas de format</translation>
     </message>
     <message>
         <source>the unit &quot;%1&quot; does not measure the same as &quot;%2&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>l&apos;unité « %1 » ne mesure pas la même chose que « %2 »</translation>
     </message>
     <message>
         <source>a validator needs a kind</source>
-        <translation type="unfinished"></translation>
+        <translation>une règle de validation a besoin d&apos;une sorte</translation>
     </message>
     <message>
         <source>values of the type %1 have no range</source>
-        <translation type="unfinished"></translation>
+        <translation>les valeurs du type %1 n&apos;ont pas d&apos;intervalle</translation>
     </message>
     <message>
         <source>the minimum %1 is greater than the maximum %2</source>
-        <translation type="unfinished"></translation>
+        <translation>le minimum %1 est plus grand que le maximum %2</translation>
     </message>
     <message>
         <source>values of the type %1 cannot be chosen from a set</source>
-        <translation type="unfinished"></translation>
+        <translation>les valeurs du type %1 ne peuvent pas être choisies dans un ensemble</translation>
     </message>
     <message>
         <source>the set is empty</source>
-        <translation type="unfinished"></translation>
+        <translation>l&apos;ensemble est vide</translation>
     </message>
     <message>
         <source>only texts have a pattern</source>
-        <translation type="unfinished"></translation>
+        <translation>seuls les textes ont un motif</translation>
     </message>
     <message>
         <source>the expression &quot;%1&quot; is faulty: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>l&apos;expression « %1 » est incorrecte : %2</translation>
     </message>
     <message>
         <source>it is empty</source>
-        <translation type="unfinished"></translation>
+        <translation>elle est vide</translation>
     </message>
     <message>
         <source>only resources are chosen from resources</source>
-        <translation type="unfinished"></translation>
+        <translation>seules les ressources sont choisies parmi des ressources</translation>
     </message>
     <message>
         <source>the property &quot;%1&quot; does not allow the value &quot;%2&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>la propriété « %1 » ne permet pas la valeur « %2 »</translation>
     </message>
     <message>
         <source>the file cannot be read: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>le fichier ne peut pas être lu : %1</translation>
     </message>
     <message>
         <source>this is no package but &lt;%1&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>ce n&apos;est pas un paquet mais &lt;%1&gt;</translation>
     </message>
     <message>
         <source>the attribute &quot;format&quot; is missing</source>
-        <translation type="unfinished"></translation>
+        <translation>l&apos;attribut « format » manque</translation>
     </message>
     <message>
         <source>the package has the format %1, this program understands %2</source>
-        <translation type="unfinished"></translation>
+        <translation>le paquet a le format %1, ce programme comprend %2</translation>
     </message>
     <message>
         <source>a package needs a name of letters, digits, &apos;-&apos; and &apos;_&apos;</source>
-        <translation type="unfinished"></translation>
+        <translation>un paquet a besoin d&apos;un nom fait de lettres, de chiffres, de « - » et de « _ »</translation>
     </message>
     <message>
         <source>the package &quot;%1&quot; must stand in a folder of that name</source>
-        <translation type="unfinished"></translation>
+        <translation>le paquet « %1 » doit se trouver dans un dossier de ce nom</translation>
     </message>
     <message>
         <source>no package can have the name &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>aucun paquet ne peut porter le nom « %1 »</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is no class id such as &quot;electronics/led&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>« %1 » n&apos;est pas un identifiant de classe comme « electronics/led »</translation>
     </message>
     <message>
         <source>the class &quot;%1&quot; is defined twice</source>
-        <translation type="unfinished"></translation>
+        <translation>la classe « %1 » est définie deux fois</translation>
     </message>
     <message>
         <source>another package defines the class &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>un autre paquet définit la classe « %1 »</translation>
     </message>
     <message>
         <source>there is no class %1</source>
-        <translation type="unfinished"></translation>
+        <translation>il n&apos;y a pas de classe %1</translation>
     </message>
     <message>
         <source>the class %1 needs itself as a base or subpart</source>
-        <translation type="unfinished"></translation>
+        <translation>la classe %1 a besoin d&apos;elle-même comme base ou sous-pièce</translation>
     </message>
     <message>
         <source>the classes are nested too deep</source>
-        <translation type="unfinished"></translation>
+        <translation>les classes sont trop imbriquées</translation>
     </message>
     <message>
         <source>a class without a base needs a kind</source>
-        <translation type="unfinished"></translation>
+        <translation>une classe sans base a besoin d&apos;une sorte</translation>
     </message>
     <message>
         <source>the base %1 is of another kind</source>
-        <translation type="unfinished"></translation>
+        <translation>la base %1 est d&apos;une autre sorte</translation>
     </message>
     <message>
         <source>domains have ids such as &quot;electronics/*&quot;, other classes have not</source>
-        <translation type="unfinished"></translation>
+        <translation>les domaines ont des identifiants comme « electronics/* », les autres classes non</translation>
     </message>
     <message>
         <source>the class %1 is no pop-up</source>
-        <translation type="unfinished"></translation>
+        <translation>la classe %1 n&apos;est pas une bulle</translation>
     </message>
     <message>
         <source>only parts have a pop-up</source>
-        <translation type="unfinished"></translation>
+        <translation>seules les pièces ont une bulle</translation>
     </message>
     <message>
         <source>a class without a pop-up cannot show its pane</source>
-        <translation type="unfinished"></translation>
+        <translation>une classe sans bulle ne peut pas en montrer le volet</translation>
     </message>
     <message>
         <source>the property &quot;%1&quot; is given twice</source>
-        <translation type="unfinished"></translation>
+        <translation>la propriété « %1 » est donnée deux fois</translation>
     </message>
     <message>
         <source>no base of the class has the property &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>aucune base de la classe n&apos;a la propriété « %1 »</translation>
     </message>
     <message>
         <source>the name of the form is missing</source>
-        <translation type="unfinished"></translation>
+        <translation>le nom du formulaire manque</translation>
     </message>
     <message>
         <source>a substitution needs a string and either a resource or a text</source>
-        <translation type="unfinished"></translation>
+        <translation>une substitution a besoin d&apos;une chaîne et soit d&apos;une ressource, soit d&apos;un texte</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is substituted twice</source>
-        <translation type="unfinished"></translation>
+        <translation>« %1 » est remplacé deux fois</translation>
     </message>
     <message>
         <source>only parts and subparts have subparts</source>
-        <translation type="unfinished"></translation>
+        <translation>seules les pièces et les sous-pièces ont des sous-pièces</translation>
     </message>
     <message>
         <source>there are two rules for the same role</source>
-        <translation type="unfinished"></translation>
+        <translation>il y a deux règles pour le même rôle</translation>
     </message>
     <message>
         <source>the class of the subpart is missing</source>
-        <translation type="unfinished"></translation>
+        <translation>la classe de la sous-pièce manque</translation>
     </message>
     <message>
         <source>no subpart can be of the class %1</source>
-        <translation type="unfinished"></translation>
+        <translation>aucune sous-pièce ne peut être de la classe %1</translation>
     </message>
     <message>
         <source>the class %1 has no property &quot;%2&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>la classe %1 n&apos;a pas de propriété « %2 »</translation>
     </message>
     <message>
         <source>a rule for subparts needs one role</source>
-        <translation type="unfinished"></translation>
+        <translation>une règle pour les sous-pièces a besoin d&apos;un rôle</translation>
     </message>
     <message>
         <source>there is no class &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>il n&apos;y a pas de classe « %1 »</translation>
     </message>
     <message>
         <source>there is a package &quot;%1&quot; already</source>
-        <translation type="unfinished"></translation>
+        <translation>il y a déjà un paquet « %1 »</translation>
     </message>
     <message>
         <source>%1 cannot be written: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ne peut pas être écrit : %2</translation>
     </message>
     <message>
         <source>the class belongs to no domain</source>
-        <translation type="unfinished"></translation>
+        <translation>la classe n&apos;appartient à aucun domaine</translation>
     </message>
     <message>
         <source>there is a class &quot;%1&quot; already</source>
-        <translation type="unfinished"></translation>
+        <translation>il y a déjà une classe « %1 »</translation>
     </message>
     <message>
         <source>the packages &quot;%1&quot; and &quot;%2&quot; would need each other</source>
-        <translation type="unfinished"></translation>
+        <translation>les paquets « %1 » et « %2 » auraient besoin l&apos;un de l&apos;autre</translation>
     </message>
     <message>
         <source>the folder %1 cannot be made</source>
-        <translation type="unfinished"></translation>
+        <translation>le dossier %1 ne peut pas être créé</translation>
     </message>
     <message>
         <source>the package &quot;%1&quot; is not the user&apos;s</source>
-        <translation type="unfinished"></translation>
+        <translation>le paquet « %1 » n&apos;est pas celui de l&apos;utilisateur</translation>
     </message>
 </context>
 <context>
     <name>PageSetupDialog</name>
     <message>
         <source>Page Setup</source>
-        <translation type="unfinished"></translation>
+        <translation>Mise en page</translation>
     </message>
     <message>
         <source>&amp;Margins (mm):</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Marges (mm) :</translation>
     </message>
     <message>
         <source>Top</source>
-        <translation type="unfinished"></translation>
+        <translation>Haut</translation>
     </message>
     <message>
         <source>Left</source>
-        <translation type="unfinished"></translation>
+        <translation>Gauche</translation>
     </message>
     <message>
         <source>Bottom</source>
-        <translation type="unfinished"></translation>
+        <translation>Bas</translation>
     </message>
     <message>
         <source>Right</source>
-        <translation type="unfinished"></translation>
+        <translation>Droite</translation>
     </message>
     <message>
         <source>Page &amp;Size:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Taille de la page :</translation>
     </message>
     <message>
         <source>O&amp;rientation:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Orientation :</translation>
     </message>
     <message>
         <source>Scale to Page &amp;Width:</source>
-        <translation type="unfinished"></translation>
+        <translation>Mettre à la &amp;largeur de la page :</translation>
     </message>
     <message>
         <source> %</source>
-        <translation type="unfinished"></translation>
+        <translation> %</translation>
     </message>
     <message>
         <source>Scale &amp;Factor:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Facteur d&apos;échelle :</translation>
     </message>
     <message>
         <source>The first page with its margins</source>
-        <translation type="unfinished"></translation>
+        <translation>La première page avec ses marges</translation>
     </message>
     <message>
         <source>&amp;Ok</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;OK</translation>
     </message>
     <message>
         <source>&amp;Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>A&amp;nnuler</translation>
     </message>
     <message>
         <source>%1 margin in millimetres</source>
-        <translation type="unfinished"></translation>
+        <translation>Marge : %1, en millimètres</translation>
     </message>
     <message>
         <source>Portrait</source>
-        <translation type="unfinished"></translation>
+        <translation>Portrait</translation>
     </message>
     <message>
         <source>Landscape</source>
-        <translation type="unfinished"></translation>
+        <translation>Paysage</translation>
     </message>
     <message>
         <source>A0 (841 x 1189 mm)</source>
-        <translation type="unfinished"></translation>
+        <translation>A0 (841 x 1189 mm)</translation>
     </message>
     <message>
         <source>A1 (594 x 841 mm)</source>
-        <translation type="unfinished"></translation>
+        <translation>A1 (594 x 841 mm)</translation>
     </message>
     <message>
         <source>A2 (420 x 594 mm)</source>
-        <translation type="unfinished"></translation>
+        <translation>A2 (420 x 594 mm)</translation>
     </message>
     <message>
         <source>A3 (297 x 420 mm)</source>
-        <translation type="unfinished"></translation>
+        <translation>A3 (297 x 420 mm)</translation>
     </message>
     <message>
         <source>A4 (210 x 297 mm)</source>
-        <translation type="unfinished"></translation>
+        <translation>A4 (210 x 297 mm)</translation>
     </message>
     <message>
         <source>A5 (148 x 210 mm)</source>
-        <translation type="unfinished"></translation>
+        <translation>A5 (148 x 210 mm)</translation>
     </message>
     <message>
         <source>A6 (105 x 148 mm)</source>
-        <translation type="unfinished"></translation>
+        <translation>A6 (105 x 148 mm)</translation>
     </message>
     <message>
         <source>A7 (74 x 105 mm)</source>
-        <translation type="unfinished"></translation>
+        <translation>A7 (74 x 105 mm)</translation>
     </message>
     <message>
         <source>A8 (52 x 74 mm)</source>
-        <translation type="unfinished"></translation>
+        <translation>A8 (52 x 74 mm)</translation>
     </message>
     <message>
         <source>A9 (37 x 52 mm)</source>
-        <translation type="unfinished"></translation>
+        <translation>A9 (37 x 52 mm)</translation>
     </message>
     <message>
         <source>B0 (1000 x 1414 mm)</source>
-        <translation type="unfinished"></translation>
+        <translation>B0 (1000 x 1414 mm)</translation>
     </message>
     <message>
         <source>B1 (707 x 1000 mm)</source>
-        <translation type="unfinished"></translation>
+        <translation>B1 (707 x 1000 mm)</translation>
     </message>
     <message>
         <source>B2 (500 x 707 mm)</source>
-        <translation type="unfinished"></translation>
+        <translation>B2 (500 x 707 mm)</translation>
     </message>
     <message>
         <source>B3 (353 x 500 mm)</source>
-        <translation type="unfinished"></translation>
+        <translation>B3 (353 x 500 mm)</translation>
     </message>
     <message>
         <source>B4 (250 x 353 mm)</source>
-        <translation type="unfinished"></translation>
+        <translation>B4 (250 x 353 mm)</translation>
     </message>
     <message>
         <source>B5 (176 x 250 mm)</source>
-        <translation type="unfinished"></translation>
+        <translation>B5 (176 x 250 mm)</translation>
     </message>
     <message>
         <source>B6 (125 x 176 mm)</source>
-        <translation type="unfinished"></translation>
+        <translation>B6 (125 x 176 mm)</translation>
     </message>
     <message>
         <source>B7 (88 x 125 mm)</source>
-        <translation type="unfinished"></translation>
+        <translation>B7 (88 x 125 mm)</translation>
     </message>
     <message>
         <source>B8 (62 x 88 mm)</source>
-        <translation type="unfinished"></translation>
+        <translation>B8 (62 x 88 mm)</translation>
     </message>
     <message>
         <source>B9 (44 x 62 mm)</source>
-        <translation type="unfinished"></translation>
+        <translation>B9 (44 x 62 mm)</translation>
     </message>
     <message>
         <source>B10 (31 x 44 mm)</source>
-        <translation type="unfinished"></translation>
+        <translation>B10 (31 x 44 mm)</translation>
     </message>
     <message>
         <source>C5E (163 x 229 mm)</source>
-        <translation type="unfinished"></translation>
+        <translation>C5E (163 x 229 mm)</translation>
     </message>
     <message>
         <source>DLE (110 x 220 mm)</source>
-        <translation type="unfinished"></translation>
+        <translation>DLE (110 x 220 mm)</translation>
     </message>
     <message>
         <source>Executive (191 x 254 mm)</source>
-        <translation type="unfinished"></translation>
+        <translation>Executive (191 x 254 mm)</translation>
     </message>
     <message>
         <source>Folio (210 x 330 mm)</source>
-        <translation type="unfinished"></translation>
+        <translation>Folio (210 x 330 mm)</translation>
     </message>
     <message>
         <source>Ledger (432 x 279 mm)</source>
-        <translation type="unfinished"></translation>
+        <translation>Ledger (432 x 279 mm)</translation>
     </message>
     <message>
         <source>Legal (216 x 356 mm)</source>
-        <translation type="unfinished"></translation>
+        <translation>Legal (216 x 356 mm)</translation>
     </message>
     <message>
         <source>Letter (216 x 279 mm)</source>
-        <translation type="unfinished"></translation>
+        <translation>Letter (216 x 279 mm)</translation>
     </message>
     <message>
         <source>Tabloid (279 x 432 mm)</source>
-        <translation type="unfinished"></translation>
+        <translation>Tabloid (279 x 432 mm)</translation>
     </message>
     <message>
         <source>Envelope #10 (105 x 241 mm)</source>
-        <translation type="unfinished"></translation>
+        <translation>Enveloppe #10 (105 x 241 mm)</translation>
     </message>
 </context>
 <context>
     <name>PaletteBoxSection</name>
     <message>
         <source>Section</source>
-        <translation type="unfinished"></translation>
+        <translation>Section</translation>
     </message>
 </context>
 <context>
     <name>PaletteButtonBar</name>
     <message>
         <source>expanded</source>
-        <translation type="unfinished"></translation>
+        <translation>dépliée</translation>
     </message>
     <message>
         <source>collapsed</source>
-        <translation type="unfinished"></translation>
+        <translation>repliée</translation>
     </message>
 </context>
 <context>
     <name>Palettes</name>
     <message>
         <source>Side Pane</source>
-        <translation type="unfinished"></translation>
+        <translation>Volet latéral</translation>
     </message>
     <message>
         <source>I&amp;nspector...</source>
-        <translation type="unfinished"></translation>
+        <translation>I&amp;nspecteur...</translation>
     </message>
     <message>
         <source>Show the tree of everything in the document</source>
-        <translation type="unfinished"></translation>
+        <translation>Montrer l&apos;arbre de tout ce qui est dans le document</translation>
     </message>
 </context>
 <context>
     <name>PanelTopArea</name>
     <message>
         <source>Name</source>
-        <translation type="unfinished"></translation>
+        <translation>Nom</translation>
     </message>
     <message>
         <source>A short name without blanks by which other things refer to it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un nom court sans espaces par lequel les autres choses désignent la pièce.</translation>
     </message>
     <message>
         <source>Nothing selected</source>
-        <translation type="unfinished"></translation>
+        <translation>Rien de sélectionné</translation>
     </message>
     <message>
         <source>%1 × %2</source>
         <extracomment>A number of parts of one kind: &quot;3 × LED&quot;</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1 × %2</translation>
     </message>
     <message numerus="yes">
         <source>%Ln parts</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%Ln pièce</numerusform>
+            <numerusform>%Ln pièces</numerusform>
         </translation>
     </message>
 </context>
@@ -2513,713 +2514,713 @@ Please enter another id</source>
     <name>PartEditor</name>
     <message>
         <source>Select the two parts that it shall connect first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sélectionnez d&apos;abord les deux pièces à relier.</translation>
     </message>
     <message>
         <source>What was dropped is not a part.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce qui a été déposé n&apos;est pas une pièce.</translation>
     </message>
 </context>
 <context>
     <name>PartHelp</name>
     <message>
         <source>Group: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Groupe : %1</translation>
     </message>
     <message>
         <source>About %1</source>
-        <translation type="unfinished"></translation>
+        <translation>À propos de %1</translation>
     </message>
 </context>
 <context>
     <name>PartIdLineEdit</name>
     <message numerus="yes">
         <source>Rename %n parts</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Renommer %n pièce</numerusform>
+            <numerusform>Renommer %n pièces</numerusform>
         </translation>
     </message>
     <message>
         <source>There is one number in an id: write # once.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un identifiant contient un seul numéro : écrivez # une fois.</translation>
     </message>
     <message>
         <source>...</source>
-        <translation type="unfinished"></translation>
+        <translation>...</translation>
     </message>
 </context>
 <context>
     <name>PartsModel</name>
     <message>
         <source>Package: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Paquet : %1</translation>
     </message>
     <message>
         <source>Key stage: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Niveau : %1</translation>
     </message>
 </context>
 <context>
     <name>PartsTree</name>
     <message>
         <source>Search parts</source>
-        <translation type="unfinished"></translation>
+        <translation>Chercher des pièces</translation>
     </message>
     <message>
         <source>Parts</source>
-        <translation type="unfinished"></translation>
+        <translation>Pièces</translation>
     </message>
     <message>
         <source>There are no parts.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il n&apos;y a pas de pièces.</translation>
     </message>
     <message>
         <source>No part matches the search.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucune pièce ne correspond à la recherche.</translation>
     </message>
 </context>
 <context>
     <name>PerfMeter</name>
     <message>
         <source>Performance</source>
-        <translation type="unfinished"></translation>
+        <translation>Performances</translation>
     </message>
 </context>
 <context>
     <name>PlusMinusButton</name>
     <message>
         <source>Add</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajouter</translation>
     </message>
     <message>
         <source>Remove</source>
-        <translation type="unfinished"></translation>
+        <translation>Retirer</translation>
     </message>
 </context>
 <context>
     <name>Preferences</name>
     <message>
         <source>As each property says</source>
-        <translation type="unfinished"></translation>
+        <translation>Comme le dit chaque propriété</translation>
     </message>
     <message>
         <source>Millimetres</source>
-        <translation type="unfinished"></translation>
+        <translation>Millimètres</translation>
     </message>
     <message>
         <source>Centimetres</source>
-        <translation type="unfinished"></translation>
+        <translation>Centimètres</translation>
     </message>
     <message>
         <source>Inches</source>
-        <translation type="unfinished"></translation>
+        <translation>Pouces</translation>
     </message>
     <message>
         <source>The crash report only</source>
-        <translation type="unfinished"></translation>
+        <translation>Seulement dans le rapport d&apos;incident</translation>
     </message>
     <message>
         <source>Standard output</source>
-        <translation type="unfinished"></translation>
+        <translation>Sortie standard</translation>
     </message>
     <message>
         <source>Standard error</source>
-        <translation type="unfinished"></translation>
+        <translation>Sortie d&apos;erreur standard</translation>
     </message>
     <message>
         <source>A file (velmor.log)</source>
-        <translation type="unfinished"></translation>
+        <translation>Dans un fichier (velmor.log)</translation>
     </message>
     <message>
         <source>A window</source>
-        <translation type="unfinished"></translation>
+        <translation>Dans une fenêtre</translation>
     </message>
     <message>
         <source>Nowhere</source>
-        <translation type="unfinished"></translation>
+        <translation>Nulle part</translation>
     </message>
     <message>
         <source>The system&apos;s</source>
-        <translation type="unfinished"></translation>
+        <translation>Celle du système</translation>
     </message>
     <message>
         <source>Preferences</source>
-        <translation type="unfinished"></translation>
+        <translation>Préférences</translation>
     </message>
     <message>
         <source>Takes effect when the program starts again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Prend effet au prochain démarrage du programme.</translation>
     </message>
     <message>
         <source>&amp;Language:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Langue :</translation>
     </message>
     <message>
         <source>For documents that are opened from now on.</source>
-        <translation type="unfinished"></translation>
+        <translation>Pour les documents ouverts à partir de maintenant.</translation>
     </message>
     <message>
         <source>Show lengths &amp;in:</source>
-        <translation type="unfinished"></translation>
+        <translation>Montrer les lon&amp;gueurs en :</translation>
     </message>
     <message>
         <source>All</source>
-        <translation type="unfinished"></translation>
+        <translation>Tous</translation>
     </message>
     <message>
         <source>Steps kept for &amp;undo:</source>
-        <translation type="unfinished"></translation>
+        <translation>Pas gardés pour l&apos;ann&amp;ulation :</translation>
     </message>
     <message>
         <source>The &amp;wheel zooms scenes (with Ctrl it scrolls them)</source>
-        <translation type="unfinished"></translation>
+        <translation>La &amp;molette change le zoom des scènes (avec Ctrl elle les fait défiler)</translation>
     </message>
     <message>
         <source>&amp;Messages go to:</source>
-        <translation type="unfinished"></translation>
+        <translation>Les m&amp;essages vont :</translation>
     </message>
     <message>
         <source>The preferences hold until the program ends: they cannot be kept.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les préférences valent jusqu&apos;à la fin du programme : elles ne peuvent pas être gardées.</translation>
     </message>
 </context>
 <context>
     <name>PrintCommand</name>
     <message>
         <source>There is nothing to print, or the margins leave no room on the paper.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il n&apos;y a rien à imprimer, ou les marges ne laissent pas de place sur le papier.</translation>
     </message>
     <message numerus="yes">
         <source>At this scale the document needs %n pages; no more than %1 are exported.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>À cette échelle, le document a besoin de %n page ; pas plus de %1 ne sont exportées.</numerusform>
+            <numerusform>À cette échelle, le document a besoin de %n pages ; pas plus de %1 ne sont exportées.</numerusform>
         </translation>
     </message>
     <message>
         <source>%1 cannot be written: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ne peut pas être écrit : %2</translation>
     </message>
 </context>
 <context>
     <name>Printing</name>
     <message>
         <source>Untitled</source>
-        <translation type="unfinished"></translation>
+        <translation>Sans titre</translation>
     </message>
     <message>
         <source>The document could not be printed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le document n&apos;a pas pu être imprimé.</translation>
     </message>
     <message>
         <source>The printer did not take the pages.</source>
-        <translation type="unfinished"></translation>
+        <translation>L&apos;imprimante n&apos;a pas accepté les pages.</translation>
     </message>
     <message>
         <source>Export to PDF</source>
-        <translation type="unfinished"></translation>
+        <translation>Exporter en PDF</translation>
     </message>
     <message>
         <source>PDF files (*.pdf)</source>
-        <translation type="unfinished"></translation>
+        <translation>Fichiers PDF (*.pdf)</translation>
     </message>
     <message>
         <source>Exported %1</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 exporté</translation>
     </message>
     <message>
         <source>%1 could not be written.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 n&apos;a pas pu être écrit.</translation>
     </message>
     <message>
         <source>Export to SVG</source>
-        <translation type="unfinished"></translation>
+        <translation>Exporter en SVG</translation>
     </message>
     <message>
         <source>SVG drawings (*.svg)</source>
-        <translation type="unfinished"></translation>
+        <translation>Dessins SVG (*.svg)</translation>
     </message>
 </context>
 <context>
     <name>ProductPackage</name>
     <message>
         <source>All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Tous les fichiers (*)</translation>
     </message>
     <message>
         <source>Models (*.%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>Modèles (*.%1)</translation>
     </message>
 </context>
 <context>
     <name>PropPalette</name>
     <message>
         <source>Properties</source>
-        <translation type="unfinished"></translation>
+        <translation>Propriétés</translation>
     </message>
     <message>
         <source>Multiple parts selected</source>
-        <translation type="unfinished"></translation>
+        <translation>Plusieurs pièces sélectionnées</translation>
     </message>
     <message>
         <source>This part has no properties</source>
-        <translation type="unfinished"></translation>
+        <translation>Cette pièce n&apos;a pas de propriétés</translation>
     </message>
     <message>
         <source>Scene Properties</source>
-        <translation type="unfinished"></translation>
+        <translation>Propriétés de la scène</translation>
     </message>
 </context>
 <context>
     <name>PropertyChoiceModel</name>
     <message>
         <source>The property is not there any more.</source>
-        <translation type="unfinished"></translation>
+        <translation>La propriété n&apos;existe plus.</translation>
     </message>
     <message>
         <source>Part</source>
-        <translation type="unfinished"></translation>
+        <translation>Pièce</translation>
     </message>
     <message>
         <source>Property</source>
-        <translation type="unfinished"></translation>
+        <translation>Propriété</translation>
     </message>
     <message>
         <source>Type</source>
-        <translation type="unfinished"></translation>
+        <translation>Type</translation>
     </message>
     <message>
         <source>Value</source>
-        <translation type="unfinished"></translation>
+        <translation>Valeur</translation>
     </message>
     <message>
         <source>Link</source>
-        <translation type="unfinished"></translation>
+        <translation>Lien</translation>
     </message>
     <message>
         <source>Can be linked</source>
-        <translation type="unfinished"></translation>
+        <translation>Peut être liée</translation>
     </message>
     <message>
         <source>Linked</source>
-        <translation type="unfinished"></translation>
+        <translation>Liée</translation>
     </message>
     <message>
         <source>Possible</source>
-        <translation type="unfinished"></translation>
+        <translation>Possible</translation>
     </message>
 </context>
 <context>
     <name>PropertyFilter</name>
     <message>
         <source>One of the properties is gone.</source>
-        <translation type="unfinished"></translation>
+        <translation>L&apos;une des propriétés n&apos;existe plus.</translation>
     </message>
     <message>
         <source>A property cannot follow itself.</source>
-        <translation type="unfinished"></translation>
+        <translation>Une propriété ne peut pas se suivre elle-même.</translation>
     </message>
     <message>
         <source>The properties belong to different documents.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les propriétés appartiennent à des documents différents.</translation>
     </message>
     <message>
         <source>This property cannot be followed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cette propriété ne peut pas être suivie.</translation>
     </message>
     <message>
         <source>The property is of another type.</source>
-        <translation type="unfinished"></translation>
+        <translation>La propriété est d&apos;un autre type.</translation>
     </message>
     <message>
         <source>The property follows this one already.</source>
-        <translation type="unfinished"></translation>
+        <translation>La propriété suit déjà celle-ci.</translation>
     </message>
 </context>
 <context>
     <name>PropertyListBox</name>
     <message>
         <source>Search</source>
-        <translation type="unfinished"></translation>
+        <translation>Chercher</translation>
     </message>
     <message>
         <source>Search for a property</source>
-        <translation type="unfinished"></translation>
+        <translation>Chercher une propriété</translation>
     </message>
     <message>
         <source>Part whose properties are listed</source>
-        <translation type="unfinished"></translation>
+        <translation>Pièce dont les propriétés sont énumérées</translation>
     </message>
     <message>
         <source>Link</source>
-        <translation type="unfinished"></translation>
+        <translation>Lien</translation>
     </message>
     <message>
         <source>Detach</source>
-        <translation type="unfinished"></translation>
+        <translation>Détacher</translation>
     </message>
     <message>
         <source>All parts</source>
-        <translation type="unfinished"></translation>
+        <translation>Toutes les pièces</translation>
     </message>
     <message>
         <source>Follows %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Suit %1 : %2</translation>
     </message>
 </context>
 <context>
     <name>PropertyTable</name>
     <message>
         <source>Filter properties</source>
-        <translation type="unfinished"></translation>
+        <translation>Filtrer les propriétés</translation>
     </message>
     <message>
         <source>Properties</source>
-        <translation type="unfinished"></translation>
+        <translation>Propriétés</translation>
     </message>
     <message>
         <source>&amp;Copy</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Copier</translation>
     </message>
     <message>
         <source>Copy &amp;All</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Tout copier</translation>
     </message>
 </context>
 <context>
     <name>PropertyTableModel</name>
     <message>
         <source>Key</source>
-        <translation type="unfinished"></translation>
+        <translation>Clé</translation>
     </message>
     <message>
         <source>Label</source>
-        <translation type="unfinished"></translation>
+        <translation>Étiquette</translation>
     </message>
     <message>
         <source>Type</source>
-        <translation type="unfinished"></translation>
+        <translation>Type</translation>
     </message>
     <message>
         <source>Value</source>
-        <translation type="unfinished"></translation>
+        <translation>Valeur</translation>
     </message>
     <message>
         <source>Unit</source>
-        <translation type="unfinished"></translation>
+        <translation>Unité</translation>
     </message>
     <message>
         <source>Flags</source>
-        <translation type="unfinished"></translation>
+        <translation>Indicateurs</translation>
     </message>
     <message>
         <source>Follows</source>
-        <translation type="unfinished"></translation>
+        <translation>Suit</translation>
     </message>
 </context>
 <context>
     <name>ProxyCommands</name>
     <message>
         <source>Link of %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Lien de %1</translation>
     </message>
     <message>
         <source>One of the properties is not there any more.</source>
-        <translation type="unfinished"></translation>
+        <translation>L&apos;une des propriétés n&apos;existe plus.</translation>
     </message>
     <message>
         <source>A property that the program works out cannot follow another.</source>
-        <translation type="unfinished"></translation>
+        <translation>Une propriété que le programme calcule ne peut pas en suivre une autre.</translation>
     </message>
     <message>
         <source>Detaching of %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Détachement de %1</translation>
     </message>
     <message>
         <source>The property is not there any more.</source>
-        <translation type="unfinished"></translation>
+        <translation>La propriété n&apos;existe plus.</translation>
     </message>
 </context>
 <context>
     <name>QXmlStream</name>
     <message>
         <source>Encountered incorrectly encoded content.</source>
-        <translation type="unfinished"></translation>
+        <translation>Contenu mal encodé.</translation>
     </message>
 </context>
 <context>
     <name>QtColorPicker</name>
     <message>
         <source>Different colours</source>
-        <translation type="unfinished"></translation>
+        <translation>Couleurs différentes</translation>
     </message>
 </context>
 <context>
     <name>RecentFiles</name>
     <message>
         <source>No recent files</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucun document récent</translation>
     </message>
 </context>
 <context>
     <name>ReflectCommand</name>
     <message>
         <source>Reflection</source>
-        <translation type="unfinished"></translation>
+        <translation>Reflet</translation>
     </message>
     <message>
         <source>Removal of a reflection</source>
-        <translation type="unfinished"></translation>
+        <translation>Suppression d&apos;un reflet</translation>
     </message>
     <message>
         <source>There is no such part, or no place for the reflection.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il n&apos;y a pas de telle pièce, ou pas de place pour le reflet.</translation>
     </message>
     <message>
         <source>A reflection stands in a scene or a pop-up.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un reflet se trouve dans une scène ou une bulle.</translation>
     </message>
     <message>
         <source>There is no such reflection.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il n&apos;y a pas de tel reflet.</translation>
     </message>
     <message>
         <source>The part has nothing of the kind to reflect.</source>
-        <translation type="unfinished"></translation>
+        <translation>La pièce n&apos;a rien de cette sorte à refléter.</translation>
     </message>
     <message>
         <source>An instance id is in use already.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un numéro d&apos;instance est déjà utilisé.</translation>
     </message>
 </context>
 <context>
     <name>ReflectMenu</name>
     <message>
         <source>&amp;Controls</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Commandes</translation>
     </message>
     <message>
         <source>&amp;Pads</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Pastilles</translation>
     </message>
     <message>
         <source>&amp;Body</source>
-        <translation type="unfinished"></translation>
+        <translation>Co&amp;rps</translation>
     </message>
 </context>
 <context>
     <name>RemoveResourceCommand</name>
     <message>
         <source>Removal of %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Suppression de %1</translation>
     </message>
 </context>
 <context>
     <name>Resource</name>
     <message>
         <source>Images</source>
-        <translation type="unfinished"></translation>
+        <translation>Images</translation>
     </message>
     <message>
         <source>Movies</source>
-        <translation type="unfinished"></translation>
+        <translation>Films</translation>
     </message>
     <message>
         <source>Sounds</source>
-        <translation type="unfinished"></translation>
+        <translation>Sons</translation>
     </message>
     <message>
         <source>Texts</source>
-        <translation type="unfinished"></translation>
+        <translation>Textes</translation>
     </message>
     <message>
         <source>Data</source>
-        <translation type="unfinished"></translation>
+        <translation>Données</translation>
     </message>
     <message>
         <source>Scripts</source>
-        <translation type="unfinished"></translation>
+        <translation>Scripts</translation>
     </message>
     <message>
         <source>Fonts</source>
-        <translation type="unfinished"></translation>
+        <translation>Polices</translation>
     </message>
     <message>
         <source>Forms</source>
-        <translation type="unfinished"></translation>
+        <translation>Formulaires</translation>
     </message>
     <message>
         <source>All files</source>
-        <translation type="unfinished"></translation>
+        <translation>Tous les fichiers</translation>
     </message>
 </context>
 <context>
     <name>ResourceChooser</name>
     <message>
         <source>Import a file</source>
-        <translation type="unfinished"></translation>
+        <translation>Importer un fichier</translation>
     </message>
     <message>
         <source>Export to a file</source>
-        <translation type="unfinished"></translation>
+        <translation>Exporter dans un fichier</translation>
     </message>
     <message>
         <source>No resource</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucune ressource</translation>
     </message>
     <message>
         <source>Different</source>
-        <translation type="unfinished"></translation>
+        <translation>Différentes</translation>
     </message>
     <message>
         <source>None</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucune</translation>
     </message>
     <message>
         <source>Missing</source>
-        <translation type="unfinished"></translation>
+        <translation>Manquante</translation>
     </message>
     <message>
         <source>Preview: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Aperçu : %1</translation>
     </message>
     <message>
         <source>Only one file can be taken here.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un seul fichier peut être pris ici.</translation>
     </message>
 </context>
 <context>
     <name>ResourceImport</name>
     <message>
         <source>There is no file &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il n&apos;y a pas de fichier « %1 ».</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is a folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>« %1 » est un dossier.</translation>
     </message>
     <message>
         <source>The file &quot;%1&quot; cannot be read: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Le fichier « %1 » ne peut pas être lu : %2</translation>
     </message>
     <message>
         <source>The file &quot;%1&quot; is larger than 64 MB.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le fichier « %1 » dépasse 64 Mo.</translation>
     </message>
     <message>
         <source>The file &quot;%1&quot; cannot be used here: it does not hold data of the kind &quot;%2&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le fichier « %1 » ne peut pas être utilisé ici : il ne contient pas de données de la sorte « %2 ».</translation>
     </message>
     <message>
         <source>Reading files...</source>
-        <translation type="unfinished"></translation>
+        <translation>Lecture des fichiers...</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Annuler</translation>
     </message>
     <message>
         <source>Import</source>
-        <translation type="unfinished"></translation>
+        <translation>Importation</translation>
     </message>
     <message>
         <source>The file &quot;%1&quot; cannot be written: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Le fichier « %1 » ne peut pas être écrit : %2</translation>
     </message>
 </context>
 <context>
     <name>ResourceListBox</name>
     <message>
         <source>Add files</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajouter des fichiers</translation>
     </message>
     <message>
         <source>Remove</source>
-        <translation type="unfinished"></translation>
+        <translation>Retirer</translation>
     </message>
     <message>
         <source>The selected parts have different lists</source>
-        <translation type="unfinished"></translation>
+        <translation>Les pièces sélectionnées ont des listes différentes</translation>
     </message>
     <message>
         <source>Preview: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Aperçu : %1</translation>
     </message>
 </context>
 <context>
     <name>ResourceModel</name>
     <message>
         <source>Name</source>
-        <translation type="unfinished"></translation>
+        <translation>Nom</translation>
     </message>
     <message>
         <source>%1 is missing</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 manque</translation>
     </message>
 </context>
 <context>
     <name>ResourceRename</name>
     <message>
         <source>The name must not be empty.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le nom ne doit pas être vide.</translation>
     </message>
     <message>
         <source>The name must not contain a slash.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le nom ne doit pas contenir de barre oblique.</translation>
     </message>
     <message>
         <source>Another resource has this name.</source>
-        <translation type="unfinished"></translation>
+        <translation>Une autre ressource a ce nom.</translation>
     </message>
 </context>
 <context>
     <name>SceneView</name>
     <message>
         <source>Scene %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Scène %1</translation>
     </message>
     <message>
         <source>Arrow keys move the selected parts by one millimetre, with Shift by ten.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les touches fléchées déplacent les pièces sélectionnées d&apos;un millimètre, avec Maj de dix.</translation>
     </message>
 </context>
 <context>
     <name>SelectAllCommand</name>
     <message>
         <source>Selection of everything</source>
-        <translation type="unfinished"></translation>
+        <translation>Sélection de tout</translation>
     </message>
     <message>
         <source>The scene is not there any more.</source>
-        <translation type="unfinished"></translation>
+        <translation>La scène n&apos;existe plus.</translation>
     </message>
 </context>
 <context>
     <name>SetNodeIndexCommand</name>
     <message>
         <source>Change of order</source>
-        <translation type="unfinished"></translation>
+        <translation>Changement d&apos;ordre</translation>
     </message>
     <message>
         <source>There is no such object to move.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il n&apos;y a pas de tel objet à déplacer.</translation>
     </message>
 </context>
 <context>
     <name>SetUILockedCommand</name>
     <message numerus="yes">
         <source>Locking of %n object(s)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Verrouillage de %n objet</numerusform>
+            <numerusform>Verrouillage de %n objets</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>Unlocking of %n object(s)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Déverrouillage de %n objet</numerusform>
+            <numerusform>Déverrouillage de %n objets</numerusform>
         </translation>
     </message>
 </context>
@@ -3227,633 +3228,633 @@ Please enter another id</source>
     <name>SetValueCommand</name>
     <message>
         <source>Change of %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Modification de %1</translation>
     </message>
     <message numerus="yes">
         <source>Change of %1 (%n objects)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Modification de %1 (%n objet)</numerusform>
+            <numerusform>Modification de %1 (%n objets)</numerusform>
         </translation>
     </message>
     <message>
         <source>The object is not there any more.</source>
-        <translation type="unfinished"></translation>
+        <translation>L&apos;objet n&apos;existe plus.</translation>
     </message>
     <message>
         <source>There is no property &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il n&apos;y a pas de propriété « %1 ».</translation>
     </message>
     <message>
         <source>The property &quot;%1&quot; is worked out by the program and cannot be set.</source>
-        <translation type="unfinished"></translation>
+        <translation>La propriété « %1 » est calculée par le programme et ne peut pas être fixée.</translation>
     </message>
     <message>
         <source>The property &quot;%1&quot; follows another one and cannot be set.</source>
-        <translation type="unfinished"></translation>
+        <translation>La propriété « %1 » en suit une autre et ne peut pas être fixée.</translation>
     </message>
     <message>
         <source>The property &quot;%1&quot; cannot hold a value of the type %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>La propriété « %1 » ne peut pas contenir une valeur du type %2.</translation>
     </message>
 </context>
 <context>
     <name>ShortcutButton</name>
     <message>
         <source>Delete</source>
-        <translation type="unfinished"></translation>
+        <translation>Supprimer</translation>
     </message>
     <message>
         <source>Deletes what is selected</source>
-        <translation type="unfinished"></translation>
+        <translation>Supprime ce qui est sélectionné</translation>
     </message>
     <message>
         <source>Duplicate</source>
-        <translation type="unfinished"></translation>
+        <translation>Dupliquer</translation>
     </message>
     <message>
         <source>Adds a copy of what is selected</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajoute une copie de ce qui est sélectionné</translation>
     </message>
     <message>
         <source>Lock</source>
-        <translation type="unfinished"></translation>
+        <translation>Verrouiller</translation>
     </message>
     <message>
         <source>Keeps what is selected from being changed</source>
-        <translation type="unfinished"></translation>
+        <translation>Protège des modifications ce qui est sélectionné</translation>
     </message>
     <message>
         <source>Reflect</source>
-        <translation type="unfinished"></translation>
+        <translation>Refléter</translation>
     </message>
     <message>
         <source>Shows the part in another place as well</source>
-        <translation type="unfinished"></translation>
+        <translation>Montre la pièce aussi à un autre endroit</translation>
     </message>
     <message>
         <source>Show Pop-up</source>
-        <translation type="unfinished"></translation>
+        <translation>Montrer la bulle</translation>
     </message>
     <message>
         <source>Opens the pop-up of the part</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouvre la bulle de la pièce</translation>
     </message>
     <message>
         <source>Help</source>
-        <translation type="unfinished"></translation>
+        <translation>Aide</translation>
     </message>
     <message>
         <source>Tells more about what is selected</source>
-        <translation type="unfinished"></translation>
+        <translation>En dit plus sur ce qui est sélectionné</translation>
     </message>
     <message>
         <source>%1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 : %2</translation>
     </message>
 </context>
 <context>
     <name>ShowPopupCommand</name>
     <message>
         <source>Showing of a pop-up</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouverture d&apos;une bulle</translation>
     </message>
     <message>
         <source>Hiding of a pop-up</source>
-        <translation type="unfinished"></translation>
+        <translation>Fermeture d&apos;une bulle</translation>
     </message>
     <message>
         <source>The part has no pop-up.</source>
-        <translation type="unfinished"></translation>
+        <translation>La pièce n&apos;a pas de bulle.</translation>
     </message>
 </context>
 <context>
     <name>SidePane</name>
     <message>
         <source>Side Pane</source>
-        <translation type="unfinished"></translation>
+        <translation>Volet latéral</translation>
     </message>
     <message>
         <source>Properties</source>
-        <translation type="unfinished"></translation>
+        <translation>Propriétés</translation>
     </message>
     <message>
         <source>Models</source>
-        <translation type="unfinished"></translation>
+        <translation>Modèles</translation>
     </message>
     <message>
         <source>Parts</source>
-        <translation type="unfinished"></translation>
+        <translation>Pièces</translation>
     </message>
 </context>
 <context>
     <name>SpacePropertyPane</name>
     <message>
         <source>This scene has no properties</source>
-        <translation type="unfinished"></translation>
+        <translation>Cette scène n&apos;a pas de propriétés</translation>
     </message>
 </context>
 <context>
     <name>SpaceTabs</name>
     <message>
         <source>Scenes and pop-ups</source>
-        <translation type="unfinished"></translation>
+        <translation>Scènes et bulles</translation>
     </message>
     <message>
         <source>Po&amp;p-ups</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Bulles</translation>
     </message>
     <message>
         <source>Open the pop-up of a part</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouvrir la bulle d&apos;une pièce</translation>
     </message>
     <message>
         <source>Scene</source>
-        <translation type="unfinished"></translation>
+        <translation>Scène</translation>
     </message>
     <message>
         <source>Pop-up</source>
-        <translation type="unfinished"></translation>
+        <translation>Bulle</translation>
     </message>
     <message>
         <source>%1 (%2)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (%2)</translation>
     </message>
     <message>
         <source>No part here has a pop-up</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucune pièce ici n&apos;a de bulle</translation>
     </message>
     <message>
         <source>Double-click a part to open others</source>
-        <translation type="unfinished"></translation>
+        <translation>Un double-clic sur une pièce en ouvre d&apos;autres</translation>
     </message>
 </context>
 <context>
     <name>StartOptions</name>
     <message>
         <source>Shows and edits interactive teaching models.</source>
-        <translation type="unfinished"></translation>
+        <translation>Montre et modifie des modèles pédagogiques interactifs.</translation>
     </message>
     <message>
         <source>Where messages go: stdout, stderr, file (velmor.log in the current folder), console (a window) or none.</source>
-        <translation type="unfinished"></translation>
+        <translation>Où vont les messages : stdout, stderr, file (velmor.log dans le dossier courant), console (une fenêtre) ou none.</translation>
     </message>
     <message>
         <source>Write a picture of the main window into a PNG file and quit.</source>
-        <translation type="unfinished"></translation>
+        <translation>Écrire une image de la fenêtre principale dans un fichier PNG et quitter.</translation>
     </message>
     <message>
         <source>Select the part with this id for the picture. May be given several times.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sélectionner la pièce de cet identifiant pour l&apos;image. Peut être donné plusieurs fois.</translation>
     </message>
     <message>
         <source>Let the picture show the forms of what is selected from top to bottom, alone.</source>
-        <translation type="unfinished"></translation>
+        <translation>L&apos;image ne montre que les formulaires de la sélection, de haut en bas.</translation>
     </message>
     <message>
         <source>Take the picture in dark colours.</source>
-        <translation type="unfinished"></translation>
+        <translation>Faire l&apos;image en couleurs sombres.</translation>
     </message>
     <message>
         <source>The document to open.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le document à ouvrir.</translation>
     </message>
     <message>
         <source>--log takes stdout, stderr, file, console or none, not &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>--log accepte stdout, stderr, file, console ou none, pas « %1 ».</translation>
     </message>
     <message>
         <source>Only one document can be opened, but %1 were given.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un seul document peut être ouvert, mais %1 ont été donnés.</translation>
     </message>
     <message>
         <source>--screenshot needs the name of a file.</source>
-        <translation type="unfinished"></translation>
+        <translation>--screenshot a besoin du nom d&apos;un fichier.</translation>
     </message>
     <message>
         <source>--%1 only works together with --screenshot.</source>
-        <translation type="unfinished"></translation>
+        <translation>--%1 ne fonctionne qu&apos;avec --screenshot.</translation>
     </message>
 </context>
 <context>
     <name>StatisticsPane</name>
     <message>
         <source>Statistics</source>
-        <translation type="unfinished"></translation>
+        <translation>Statistiques</translation>
     </message>
     <message>
         <source>Name</source>
-        <translation type="unfinished"></translation>
+        <translation>Nom</translation>
     </message>
     <message>
         <source>Last</source>
-        <translation type="unfinished"></translation>
+        <translation>Dernier</translation>
     </message>
     <message>
         <source>Mean</source>
-        <translation type="unfinished"></translation>
+        <translation>Moyenne</translation>
     </message>
     <message>
         <source>Least</source>
-        <translation type="unfinished"></translation>
+        <translation>Minimum</translation>
     </message>
     <message>
         <source>Greatest</source>
-        <translation type="unfinished"></translation>
+        <translation>Maximum</translation>
     </message>
     <message>
         <source>Samples</source>
-        <translation type="unfinished"></translation>
+        <translation>Mesures</translation>
     </message>
     <message>
         <source>Curve of the selected statistic</source>
-        <translation type="unfinished"></translation>
+        <translation>Courbe de la statistique sélectionnée</translation>
     </message>
     <message>
         <source>Re&amp;fresh</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Actualiser</translation>
     </message>
     <message>
         <source>Rese&amp;t</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Remettre à zéro</translation>
     </message>
     <message>
         <source>Forget all samples</source>
-        <translation type="unfinished"></translation>
+        <translation>Oublier toutes les mesures</translation>
     </message>
     <message>
         <source>%1 (%2)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (%2)</translation>
     </message>
 </context>
 <context>
     <name>SubpartComboBox</name>
     <message>
         <source>None</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucune</translation>
     </message>
     <message>
         <source>Subpart</source>
-        <translation type="unfinished"></translation>
+        <translation>Sous-pièce</translation>
     </message>
 </context>
 <context>
     <name>SubpartListView</name>
     <message>
         <source>Add</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajouter</translation>
     </message>
     <message>
         <source>Remove</source>
-        <translation type="unfinished"></translation>
+        <translation>Retirer</translation>
     </message>
     <message>
         <source>Subparts</source>
-        <translation type="unfinished"></translation>
+        <translation>Sous-pièces</translation>
     </message>
     <message>
         <source>Every part of this kind has this subpart</source>
-        <translation type="unfinished"></translation>
+        <translation>Chaque pièce de cette sorte a cette sous-pièce</translation>
     </message>
     <message>
         <source>Remove (Del)</source>
-        <translation type="unfinished"></translation>
+        <translation>Retirer (Suppr)</translation>
     </message>
 </context>
 <context>
     <name>Unit</name>
     <message>
         <source>metres</source>
-        <translation type="unfinished"></translation>
+        <translation>mètres</translation>
     </message>
     <message>
         <source>millimetres</source>
-        <translation type="unfinished"></translation>
+        <translation>millimètres</translation>
     </message>
     <message>
         <source>centimetres</source>
-        <translation type="unfinished"></translation>
+        <translation>centimètres</translation>
     </message>
     <message>
         <source>kilometres</source>
-        <translation type="unfinished"></translation>
+        <translation>kilomètres</translation>
     </message>
     <message>
         <source>micrometres</source>
-        <translation type="unfinished"></translation>
+        <translation>micromètres</translation>
     </message>
     <message>
         <source>inches</source>
-        <translation type="unfinished"></translation>
+        <translation>pouces</translation>
     </message>
     <message>
         <source>feet</source>
-        <translation type="unfinished"></translation>
+        <translation>pieds</translation>
     </message>
     <message>
         <source>degrees</source>
-        <translation type="unfinished"></translation>
+        <translation>degrés</translation>
     </message>
     <message>
         <source>radians</source>
-        <translation type="unfinished"></translation>
+        <translation>radians</translation>
     </message>
     <message>
         <source>ohms</source>
-        <translation type="unfinished"></translation>
+        <translation>ohms</translation>
     </message>
     <message>
         <source>milliohms</source>
-        <translation type="unfinished"></translation>
+        <translation>milliohms</translation>
     </message>
     <message>
         <source>kilohms</source>
-        <translation type="unfinished"></translation>
+        <translation>kilohms</translation>
     </message>
     <message>
         <source>megohms</source>
-        <translation type="unfinished"></translation>
+        <translation>mégohms</translation>
     </message>
     <message>
         <source>volts</source>
-        <translation type="unfinished"></translation>
+        <translation>volts</translation>
     </message>
     <message>
         <source>millivolts</source>
-        <translation type="unfinished"></translation>
+        <translation>millivolts</translation>
     </message>
     <message>
         <source>kilovolts</source>
-        <translation type="unfinished"></translation>
+        <translation>kilovolts</translation>
     </message>
     <message>
         <source>amperes</source>
-        <translation type="unfinished"></translation>
+        <translation>ampères</translation>
     </message>
     <message>
         <source>milliamperes</source>
-        <translation type="unfinished"></translation>
+        <translation>milliampères</translation>
     </message>
     <message>
         <source>microamperes</source>
-        <translation type="unfinished"></translation>
+        <translation>microampères</translation>
     </message>
     <message>
         <source>watts</source>
-        <translation type="unfinished"></translation>
+        <translation>watts</translation>
     </message>
     <message>
         <source>milliwatts</source>
-        <translation type="unfinished"></translation>
+        <translation>milliwatts</translation>
     </message>
     <message>
         <source>farads</source>
-        <translation type="unfinished"></translation>
+        <translation>farads</translation>
     </message>
     <message>
         <source>microfarads</source>
-        <translation type="unfinished"></translation>
+        <translation>microfarads</translation>
     </message>
     <message>
         <source>nanofarads</source>
-        <translation type="unfinished"></translation>
+        <translation>nanofarads</translation>
     </message>
     <message>
         <source>picofarads</source>
-        <translation type="unfinished"></translation>
+        <translation>picofarads</translation>
     </message>
     <message>
         <source>seconds</source>
-        <translation type="unfinished"></translation>
+        <translation>secondes</translation>
     </message>
     <message>
         <source>milliseconds</source>
-        <translation type="unfinished"></translation>
+        <translation>millisecondes</translation>
     </message>
     <message>
         <source>microseconds</source>
-        <translation type="unfinished"></translation>
+        <translation>microsecondes</translation>
     </message>
     <message>
         <source>minutes</source>
-        <translation type="unfinished"></translation>
+        <translation>minutes</translation>
     </message>
     <message>
         <source>hours</source>
-        <translation type="unfinished"></translation>
+        <translation>heures</translation>
     </message>
     <message>
         <source>hertz</source>
-        <translation type="unfinished"></translation>
+        <translation>hertz</translation>
     </message>
     <message>
         <source>kilohertz</source>
-        <translation type="unfinished"></translation>
+        <translation>kilohertz</translation>
     </message>
     <message>
         <source>megahertz</source>
-        <translation type="unfinished"></translation>
+        <translation>mégahertz</translation>
     </message>
     <message>
         <source>kilograms</source>
-        <translation type="unfinished"></translation>
+        <translation>kilogrammes</translation>
     </message>
     <message>
         <source>grams</source>
-        <translation type="unfinished"></translation>
+        <translation>grammes</translation>
     </message>
     <message>
         <source>newtons</source>
-        <translation type="unfinished"></translation>
+        <translation>newtons</translation>
     </message>
     <message>
         <source>joules</source>
-        <translation type="unfinished"></translation>
+        <translation>joules</translation>
     </message>
     <message>
         <source>kelvins</source>
-        <translation type="unfinished"></translation>
+        <translation>kelvins</translation>
     </message>
     <message>
         <source>degrees Celsius</source>
-        <translation type="unfinished"></translation>
+        <translation>degrés Celsius</translation>
     </message>
     <message>
         <source>degrees Fahrenheit</source>
-        <translation type="unfinished"></translation>
+        <translation>degrés Fahrenheit</translation>
     </message>
     <message>
         <source>metres per second</source>
-        <translation type="unfinished"></translation>
+        <translation>mètres par seconde</translation>
     </message>
     <message>
         <source>revolutions per minute</source>
-        <translation type="unfinished"></translation>
+        <translation>tours par minute</translation>
     </message>
     <message>
         <source>percent</source>
-        <translation type="unfinished"></translation>
+        <translation>pour cent</translation>
     </message>
 </context>
 <context>
     <name>Validator</name>
     <message>
         <source>A value of type %1 is needed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il faut une valeur du type %1.</translation>
     </message>
     <message>
         <source>Only values from %1 to %2 are allowed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Seules les valeurs de %1 à %2 sont permises.</translation>
     </message>
     <message>
         <source>Only these values are allowed: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Seules ces valeurs sont permises : %1.</translation>
     </message>
     <message>
         <source>Only finite numbers are allowed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Seuls les nombres finis sont permis.</translation>
     </message>
     <message>
         <source>Only values from %1 upwards are allowed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Seules les valeurs à partir de %1 sont permises.</translation>
     </message>
     <message>
         <source>Only values up to %1 are allowed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Seules les valeurs jusqu&apos;à %1 sont permises.</translation>
     </message>
     <message>
         <source>The text does not have the form that is needed here.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le texte n&apos;a pas la forme voulue ici.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is not one of the resources offered here.</source>
-        <translation type="unfinished"></translation>
+        <translation>« %1 » n&apos;est pas l&apos;une des ressources proposées ici.</translation>
     </message>
 </context>
 <context>
     <name>Value</name>
     <message>
         <source>none</source>
-        <translation type="unfinished"></translation>
+        <translation>aucun</translation>
     </message>
     <message>
         <source>true</source>
-        <translation type="unfinished"></translation>
+        <translation>vrai</translation>
     </message>
     <message>
         <source>false</source>
-        <translation type="unfinished"></translation>
+        <translation>faux</translation>
     </message>
 </context>
 <context>
     <name>ValueMapListBox</name>
     <message>
         <source>Add</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajouter</translation>
     </message>
     <message>
         <source>Remove</source>
-        <translation type="unfinished"></translation>
+        <translation>Retirer</translation>
     </message>
     <message>
         <source>The selected parts have different entries</source>
-        <translation type="unfinished"></translation>
+        <translation>Les pièces sélectionnées ont des entrées différentes</translation>
     </message>
     <message>
         <source>key</source>
-        <translation type="unfinished"></translation>
+        <translation>clé</translation>
     </message>
     <message>
         <source>The key must not be empty.</source>
-        <translation type="unfinished"></translation>
+        <translation>La clé ne doit pas être vide.</translation>
     </message>
     <message>
         <source>This text does not stand for a value of the kind &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce texte ne représente pas une valeur de la sorte « %1 ».</translation>
     </message>
 </context>
 <context>
     <name>ValueMapModel</name>
     <message>
         <source>Text</source>
-        <translation type="unfinished"></translation>
+        <translation>Texte</translation>
     </message>
     <message>
         <source>Whole number</source>
-        <translation type="unfinished"></translation>
+        <translation>Nombre entier</translation>
     </message>
     <message>
         <source>Number</source>
-        <translation type="unfinished"></translation>
+        <translation>Nombre</translation>
     </message>
     <message>
         <source>Yes or no</source>
-        <translation type="unfinished"></translation>
+        <translation>Oui ou non</translation>
     </message>
     <message>
         <source>Colour</source>
-        <translation type="unfinished"></translation>
+        <translation>Couleur</translation>
     </message>
     <message>
         <source>Point</source>
-        <translation type="unfinished"></translation>
+        <translation>Point</translation>
     </message>
     <message>
         <source>Key</source>
-        <translation type="unfinished"></translation>
+        <translation>Clé</translation>
     </message>
     <message>
         <source>Value</source>
-        <translation type="unfinished"></translation>
+        <translation>Valeur</translation>
     </message>
     <message>
         <source>Kind</source>
-        <translation type="unfinished"></translation>
+        <translation>Sorte</translation>
     </message>
 </context>
 <context>
     <name>ValueXml</name>
     <message>
         <source>The value is nested too deeply.</source>
-        <translation type="unfinished"></translation>
+        <translation>La valeur est trop imbriquée.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is not a value of type &quot;%2&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>« %1 » n&apos;est pas une valeur du type « %2 ».</translation>
     </message>
     <message>
         <source>Element &quot;%1&quot; is not expected; a list holds &quot;item&quot;s.</source>
-        <translation type="unfinished"></translation>
+        <translation>L&apos;élément « %1 » n&apos;est pas attendu ; une liste contient des « item ».</translation>
     </message>
     <message>
         <source>Text is not expected between &quot;item&quot;s.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucun texte n&apos;est attendu entre les « item ».</translation>
     </message>
     <message>
         <source>An item cannot have the type &quot;%1&quot; here.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un élément ne peut pas avoir ici le type « %1 ».</translation>
     </message>
 </context>
 <context>
     <name>main</name>
     <message>
         <source>Messages - zkauthor</source>
-        <translation type="unfinished"></translation>
+        <translation>Messages - zkauthor</translation>
     </message>
     <message>
         <source>zkauthor crashed last time. A report is in the file %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>zkauthor s&apos;est arrêté brutalement la dernière fois. Un rapport se trouve dans le fichier %1.</translation>
     </message>
     <message>
         <source>%1 cannot be opened.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ne peut pas être ouvert.</translation>
     </message>
 </context>
 <context>
     <name>screenshot</name>
     <message>
         <source>The picture %1 cannot be written: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>L&apos;image %1 ne peut pas être écrite : %2</translation>
     </message>
 </context>
 </TS>
