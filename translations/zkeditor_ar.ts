@@ -5,1664 +5,1665 @@
     <name>AboutBox</name>
     <message>
         <source>About zkauthor</source>
-        <translation type="unfinished"></translation>
+        <translation>حول zkauthor</translation>
     </message>
     <message>
         <source>zkauthor %1</source>
-        <translation type="unfinished"></translation>
+        <translation>zkauthor %1</translation>
     </message>
     <message>
         <source>Shows and edits interactive teaching models: scenes with parts, their connections and properties.</source>
-        <translation type="unfinished"></translation>
+        <translation>يعرض النماذج التعليمية التفاعلية ويحررها: مشاهد فيها قطع ووصلاتها وخصائصها.</translation>
     </message>
     <message>
         <source>Folder of your own parts</source>
-        <translation type="unfinished"></translation>
+        <translation>مجلد قطعك الخاصة</translation>
     </message>
 </context>
 <context>
     <name>Actions</name>
     <message>
         <source>&amp;New</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;جديد</translation>
     </message>
     <message>
         <source>Start an empty document</source>
-        <translation type="unfinished"></translation>
+        <translation>بدء مستند فارغ</translation>
     </message>
     <message>
         <source>&amp;Open...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;فتح...</translation>
     </message>
     <message>
         <source>Open a document</source>
-        <translation type="unfinished"></translation>
+        <translation>فتح مستند</translation>
     </message>
     <message>
         <source>&amp;Save</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;حفظ</translation>
     </message>
     <message>
         <source>Save the document</source>
-        <translation type="unfinished"></translation>
+        <translation>حفظ المستند</translation>
     </message>
     <message>
         <source>Save &amp;As...</source>
-        <translation type="unfinished"></translation>
+        <translation>حفظ &amp;باسم...</translation>
     </message>
     <message>
         <source>Save the document under another name</source>
-        <translation type="unfinished"></translation>
+        <translation>حفظ المستند باسم آخر</translation>
     </message>
     <message>
         <source>Re&amp;vert</source>
-        <translation type="unfinished"></translation>
+        <translation>ا&amp;سترجاع</translation>
     </message>
     <message>
         <source>Go back to what was last saved</source>
-        <translation type="unfinished"></translation>
+        <translation>العودة إلى آخر ما حُفظ</translation>
     </message>
     <message>
         <source>&amp;Close</source>
-        <translation type="unfinished"></translation>
+        <translation>إ&amp;غلاق</translation>
     </message>
     <message>
         <source>Close the document</source>
-        <translation type="unfinished"></translation>
+        <translation>إغلاق المستند</translation>
     </message>
     <message>
         <source>&amp;Quit</source>
-        <translation type="unfinished"></translation>
+        <translation>إ&amp;نهاء</translation>
     </message>
     <message>
         <source>Close the program</source>
-        <translation type="unfinished"></translation>
+        <translation>إغلاق البرنامج</translation>
     </message>
     <message>
         <source>&amp;Undo</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;تراجع</translation>
     </message>
     <message>
         <source>Take back the last change</source>
-        <translation type="unfinished"></translation>
+        <translation>التراجع عن آخر تغيير</translation>
     </message>
     <message>
         <source>&amp;Redo</source>
-        <translation type="unfinished"></translation>
+        <translation>إ&amp;عادة</translation>
     </message>
     <message>
         <source>Do again what was taken back</source>
-        <translation type="unfinished"></translation>
+        <translation>إعادة ما تم التراجع عنه</translation>
     </message>
     <message>
         <source>Cu&amp;t</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;قص</translation>
     </message>
     <message>
         <source>Move the selected parts to the clipboard</source>
-        <translation type="unfinished"></translation>
+        <translation>نقل القطع المحددة إلى الحافظة</translation>
     </message>
     <message>
         <source>&amp;Copy</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;نسخ</translation>
     </message>
     <message>
         <source>Copy the selected parts to the clipboard</source>
-        <translation type="unfinished"></translation>
+        <translation>نسخ القطع المحددة إلى الحافظة</translation>
     </message>
     <message>
         <source>&amp;Paste</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;لصق</translation>
     </message>
     <message>
         <source>Add the parts on the clipboard</source>
-        <translation type="unfinished"></translation>
+        <translation>إضافة القطع الموجودة في الحافظة</translation>
     </message>
     <message>
         <source>Dup&amp;licate</source>
-        <translation type="unfinished"></translation>
+        <translation>م&amp;ضاعفة</translation>
     </message>
     <message>
         <source>Add copies of the selected parts</source>
-        <translation type="unfinished"></translation>
+        <translation>إضافة نسخ من القطع المحددة</translation>
     </message>
     <message>
         <source>&amp;Delete</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;حذف</translation>
     </message>
     <message>
         <source>Delete the selected parts</source>
-        <translation type="unfinished"></translation>
+        <translation>حذف القطع المحددة</translation>
     </message>
     <message>
         <source>Select &amp;All</source>
-        <translation type="unfinished"></translation>
+        <translation>تحديد ال&amp;كل</translation>
     </message>
     <message>
         <source>Select every part of the scene</source>
-        <translation type="unfinished"></translation>
+        <translation>تحديد كل قطع المشهد</translation>
     </message>
     <message>
         <source>Select Ne&amp;xt</source>
-        <translation type="unfinished"></translation>
+        <translation>تحديد ال&amp;تالي</translation>
     </message>
     <message>
         <source>Select the next part</source>
-        <translation type="unfinished"></translation>
+        <translation>تحديد القطعة التالية</translation>
     </message>
     <message>
         <source>Select Pre&amp;vious</source>
-        <translation type="unfinished"></translation>
+        <translation>تحديد ال&amp;سابق</translation>
     </message>
     <message>
         <source>Select the part before</source>
-        <translation type="unfinished"></translation>
+        <translation>تحديد القطعة السابقة</translation>
     </message>
     <message>
         <source>Rotate Le&amp;ft</source>
-        <translation type="unfinished"></translation>
+        <translation>تدوير إلى الي&amp;سار</translation>
     </message>
     <message>
         <source>Turn the selected parts a quarter to the left</source>
-        <translation type="unfinished"></translation>
+        <translation>تدوير القطع المحددة ربع دورة إلى اليسار</translation>
     </message>
     <message>
         <source>R&amp;otate Right</source>
-        <translation type="unfinished"></translation>
+        <translation>تدوير إلى الي&amp;مين</translation>
     </message>
     <message>
         <source>Turn the selected parts a quarter to the right</source>
-        <translation type="unfinished"></translation>
+        <translation>تدوير القطع المحددة ربع دورة إلى اليمين</translation>
     </message>
     <message>
         <source>Zoom &amp;In</source>
-        <translation type="unfinished"></translation>
+        <translation>ت&amp;كبير</translation>
     </message>
     <message>
         <source>Show things larger</source>
-        <translation type="unfinished"></translation>
+        <translation>عرض الأشياء أكبر</translation>
     </message>
     <message>
         <source>Zoom &amp;Out</source>
-        <translation type="unfinished"></translation>
+        <translation>ت&amp;صغير</translation>
     </message>
     <message>
         <source>Show things smaller</source>
-        <translation type="unfinished"></translation>
+        <translation>عرض الأشياء أصغر</translation>
     </message>
     <message>
         <source>&amp;Real Size</source>
-        <translation type="unfinished"></translation>
+        <translation>الحجم ال&amp;حقيقي</translation>
     </message>
     <message>
         <source>Show things in their real size</source>
-        <translation type="unfinished"></translation>
+        <translation>عرض الأشياء بحجمها الحقيقي</translation>
     </message>
     <message>
         <source>&amp;Fit</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;ملاءمة</translation>
     </message>
     <message>
         <source>Show the whole scene</source>
-        <translation type="unfinished"></translation>
+        <translation>عرض المشهد كله</translation>
     </message>
     <message>
         <source>Open Pop-&amp;up</source>
-        <translation type="unfinished"></translation>
+        <translation>فتح النافذة المن&amp;بثقة</translation>
     </message>
     <message>
         <source>Show the pop-up of the selected part</source>
-        <translation type="unfinished"></translation>
+        <translation>عرض النافذة المنبثقة للقطعة المحددة</translation>
     </message>
     <message>
         <source>New &amp;Scene</source>
-        <translation type="unfinished"></translation>
+        <translation>مشهد &amp;جديد</translation>
     </message>
     <message>
         <source>Add an empty scene</source>
-        <translation type="unfinished"></translation>
+        <translation>إضافة مشهد فارغ</translation>
     </message>
     <message>
         <source>Delete S&amp;cene</source>
-        <translation type="unfinished"></translation>
+        <translation>ح&amp;ذف المشهد</translation>
     </message>
     <message>
         <source>Delete the scene on view</source>
-        <translation type="unfinished"></translation>
+        <translation>حذف المشهد المعروض</translation>
     </message>
     <message>
         <source>Pa&amp;ge Setup...</source>
-        <translation type="unfinished"></translation>
+        <translation>إ&amp;عداد الصفحة...</translation>
     </message>
     <message>
         <source>Paper, margins and scale</source>
-        <translation type="unfinished"></translation>
+        <translation>الورق والهوامش والمقياس</translation>
     </message>
     <message>
         <source>Print Previe&amp;w...</source>
-        <translation type="unfinished"></translation>
+        <translation>م&amp;عاينة الطباعة...</translation>
     </message>
     <message>
         <source>Show the pages as they are printed</source>
-        <translation type="unfinished"></translation>
+        <translation>عرض الصفحات كما ستُطبع</translation>
     </message>
     <message>
         <source>&amp;Print...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;طباعة...</translation>
     </message>
     <message>
         <source>Print the document</source>
-        <translation type="unfinished"></translation>
+        <translation>طباعة المستند</translation>
     </message>
     <message>
         <source>Export to P&amp;DF...</source>
-        <translation type="unfinished"></translation>
+        <translation>ت&amp;صدير إلى PDF...</translation>
     </message>
     <message>
         <source>Write the pages into a PDF file</source>
-        <translation type="unfinished"></translation>
+        <translation>كتابة الصفحات في ملف PDF</translation>
     </message>
     <message>
         <source>E&amp;xport to SVG...</source>
-        <translation type="unfinished"></translation>
+        <translation>تصدي&amp;ر إلى SVG...</translation>
     </message>
     <message>
         <source>Write the scene on view as a drawing</source>
-        <translation type="unfinished"></translation>
+        <translation>كتابة المشهد المعروض كرسم</translation>
     </message>
     <message>
         <source>&amp;Save as Custom Part...</source>
-        <translation type="unfinished"></translation>
+        <translation>ح&amp;فظ كقطعة خاصة...</translation>
     </message>
     <message>
         <source>Offer the selected part among the parts from now on</source>
-        <translation type="unfinished"></translation>
+        <translation>عرض القطعة المحددة بين القطع من الآن فصاعدًا</translation>
     </message>
     <message>
         <source>Pr&amp;eferences...</source>
-        <translation type="unfinished"></translation>
+        <translation>الت&amp;فضيلات...</translation>
     </message>
     <message>
         <source>How the program works for you</source>
-        <translation type="unfinished"></translation>
+        <translation>كيف يعمل البرنامج من أجلك</translation>
     </message>
     <message>
         <source>&amp;Licence...</source>
-        <translation type="unfinished"></translation>
+        <translation>الت&amp;رخيص...</translation>
     </message>
     <message>
         <source>Show or enter the licence</source>
-        <translation type="unfinished"></translation>
+        <translation>عرض الترخيص أو إدخاله</translation>
     </message>
     <message>
         <source>&amp;About zkauthor</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;حول zkauthor</translation>
     </message>
     <message>
         <source>What this program is</source>
-        <translation type="unfinished"></translation>
+        <translation>ما هو هذا البرنامج</translation>
     </message>
     <message>
         <source>&amp;File</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;ملف</translation>
     </message>
     <message>
         <source>Open &amp;Recent</source>
-        <translation type="unfinished"></translation>
+        <translation>الملفات الأ&amp;خيرة</translation>
     </message>
     <message>
         <source>&amp;Edit</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;تحرير</translation>
     </message>
     <message>
         <source>&amp;View</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;عرض</translation>
     </message>
     <message>
         <source>&amp;Insert</source>
-        <translation type="unfinished"></translation>
+        <translation>إ&amp;دراج</translation>
     </message>
     <message>
         <source>&amp;Run</source>
-        <translation type="unfinished"></translation>
+        <translation>ت&amp;شغيل</translation>
     </message>
     <message>
         <source>&amp;Help</source>
-        <translation type="unfinished"></translation>
+        <translation>م&amp;ساعدة</translation>
     </message>
     <message>
         <source>Tools</source>
-        <translation type="unfinished"></translation>
+        <translation>الأدوات</translation>
     </message>
     <message>
         <source>Badge</source>
-        <translation type="unfinished"></translation>
+        <translation>الشارة</translation>
     </message>
 </context>
 <context>
     <name>AddCustomPartDialog</name>
     <message>
         <source>Add custom part</source>
-        <translation type="unfinished"></translation>
+        <translation>إضافة قطعة خاصة</translation>
     </message>
     <message>
         <source>Part &amp;name:</source>
-        <translation type="unfinished"></translation>
+        <translation>ا&amp;سم القطعة:</translation>
     </message>
     <message>
         <source>The part name must be unique and can contain no spaces.</source>
-        <translation type="unfinished"></translation>
+        <translation>يجب أن يكون اسم القطعة فريدًا وألا يحتوي على مسافات.</translation>
     </message>
     <message>
         <source>Part &amp;label:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;عنوان القطعة:</translation>
     </message>
     <message>
         <source>The part label appears in the part tree.</source>
-        <translation type="unfinished"></translation>
+        <translation>يظهر عنوان القطعة في شجرة القطع.</translation>
     </message>
     <message>
         <source>Part &amp;group:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;مجموعة القطعة:</translation>
     </message>
     <message>
         <source>The part group defines part tree folder the part appears in.</source>
-        <translation type="unfinished"></translation>
+        <translation>تحدد مجموعة القطعة المجلد الذي تظهر فيه في شجرة القطع.</translation>
     </message>
     <message>
         <source>Part &amp;level:</source>
-        <translation type="unfinished"></translation>
+        <translation>مس&amp;توى القطعة:</translation>
     </message>
     <message>
         <source>This define&apos;s the part&apos;s educational level, e.g. keystate.</source>
-        <translation type="unfinished"></translation>
+        <translation>يحدد المستوى التعليمي للقطعة، مثل الصف.</translation>
     </message>
     <message>
         <source>&amp;Add</source>
-        <translation type="unfinished"></translation>
+        <translation>إ&amp;ضافة</translation>
     </message>
     <message>
         <source>&amp;Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>إ&amp;لغاء</translation>
     </message>
     <message>
         <source>The part id %1 is already in use.
 Please enter another id</source>
-        <translation type="unfinished"></translation>
+        <translation>المعرّف %1 مستخدم بالفعل.
+يرجى إدخال معرّف آخر</translation>
     </message>
 </context>
 <context>
     <name>AddNodesCommand</name>
     <message numerus="yes">
         <source>Adding of %n object(s)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>لا إضافة (%n)</numerusform>
+            <numerusform>إضافة كائن واحد (%n)</numerusform>
+            <numerusform>إضافة كائنين (%n)</numerusform>
+            <numerusform>إضافة %n كائنات</numerusform>
+            <numerusform>إضافة %n كائنًا</numerusform>
+            <numerusform>إضافة %n كائن</numerusform>
         </translation>
     </message>
     <message>
         <source>The place to add to is not there any more.</source>
-        <translation type="unfinished"></translation>
+        <translation>لم يعد المكان المطلوب الإضافة إليه موجودًا.</translation>
     </message>
     <message>
         <source>An object of the class &quot;%1&quot; cannot stand there.</source>
-        <translation type="unfinished"></translation>
+        <translation>لا يمكن لكائن من الصنف &quot;%1&quot; أن يكون هناك.</translation>
     </message>
     <message>
         <source>An instance id is in use already.</source>
-        <translation type="unfinished"></translation>
+        <translation>أحد أرقام النسخ مستخدم بالفعل.</translation>
     </message>
     <message>
         <source>Adding of a part</source>
-        <translation type="unfinished"></translation>
+        <translation>إضافة قطعة</translation>
     </message>
     <message>
         <source>There is no such kind of part.</source>
-        <translation type="unfinished"></translation>
+        <translation>لا يوجد نوع كهذا من القطع.</translation>
     </message>
     <message>
         <source>Adding of a subpart</source>
-        <translation type="unfinished"></translation>
+        <translation>إضافة قطعة فرعية</translation>
     </message>
     <message>
         <source>The part is not there any more.</source>
-        <translation type="unfinished"></translation>
+        <translation>لم تعد القطعة موجودة.</translation>
     </message>
     <message>
         <source>The part cannot have a subpart of the class &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>لا يمكن أن تكون للقطعة قطعة فرعية من الصنف &quot;%1&quot;.</translation>
     </message>
     <message>
         <source>The part has all the subparts of that role that it can have.</source>
-        <translation type="unfinished"></translation>
+        <translation>للقطعة بالفعل كل القطع الفرعية الممكنة لهذا الدور.</translation>
     </message>
     <message>
         <source>Adding of a scene</source>
-        <translation type="unfinished"></translation>
+        <translation>إضافة مشهد</translation>
     </message>
 </context>
 <context>
     <name>AddResourceCommand</name>
     <message>
         <source>Import of %1</source>
-        <translation type="unfinished"></translation>
+        <translation>استيراد %1</translation>
     </message>
     <message>
         <source>There is nothing to import.</source>
-        <translation type="unfinished"></translation>
+        <translation>لا يوجد ما يُستورد.</translation>
     </message>
 </context>
 <context>
     <name>AdvancedPalette</name>
     <message>
         <source>Advanced</source>
-        <translation type="unfinished"></translation>
+        <translation>متقدم</translation>
     </message>
     <message>
         <source>Click Action</source>
-        <translation type="unfinished"></translation>
+        <translation>إجراء النقر</translation>
     </message>
     <message>
         <source>Duplication</source>
-        <translation type="unfinished"></translation>
+        <translation>المضاعفة</translation>
     </message>
     <message>
         <source>Pop-up</source>
-        <translation type="unfinished"></translation>
+        <translation>نافذة منبثقة</translation>
     </message>
     <message>
         <source>Nothing</source>
-        <translation type="unfinished"></translation>
+        <translation>لا شيء</translation>
     </message>
     <message>
         <source>Show the pop-up</source>
-        <translation type="unfinished"></translation>
+        <translation>عرض النافذة المنبثقة</translation>
     </message>
     <message>
         <source>Open a link</source>
-        <translation type="unfinished"></translation>
+        <translation>فتح رابط</translation>
     </message>
     <message>
         <source>Show a scene</source>
-        <translation type="unfinished"></translation>
+        <translation>عرض مشهد</translation>
     </message>
     <message>
         <source>&amp;Link</source>
-        <translation type="unfinished"></translation>
+        <translation>ال&amp;رابط</translation>
     </message>
     <message>
         <source>&amp;Scene</source>
-        <translation type="unfinished"></translation>
+        <translation>ال&amp;مشهد</translation>
     </message>
     <message>
         <source>Cl&amp;ick</source>
-        <translation type="unfinished"></translation>
+        <translation>ال&amp;نقر</translation>
     </message>
     <message>
         <source> mm</source>
-        <translation type="unfinished"></translation>
+        <translation> مم</translation>
     </message>
     <message>
         <source>&amp;Copies</source>
-        <translation type="unfinished"></translation>
+        <translation>الن&amp;سخ</translation>
     </message>
     <message>
         <source>Offset &amp;right</source>
-        <translation type="unfinished"></translation>
+        <translation>الإزاحة إلى ال&amp;يمين</translation>
     </message>
     <message>
         <source>Offset &amp;down</source>
-        <translation type="unfinished"></translation>
+        <translation>الإزاحة إلى الأ&amp;سفل</translation>
     </message>
     <message>
         <source>D&amp;uplicate</source>
-        <translation type="unfinished"></translation>
+        <translation>م&amp;ضاعفة</translation>
     </message>
     <message>
         <source>Adds the copies, each beside the one before it</source>
-        <translation type="unfinished"></translation>
+        <translation>يضيف النسخ، كل واحدة بجانب سابقتها</translation>
     </message>
     <message>
         <source>None</source>
-        <translation type="unfinished"></translation>
+        <translation>لا شيء</translation>
     </message>
     <message>
         <source>What is selected has no pop-up</source>
-        <translation type="unfinished"></translation>
+        <translation>ليس لما هو محدد نافذة منبثقة</translation>
     </message>
     <message>
         <source>Select a part to see its pop-up</source>
-        <translation type="unfinished"></translation>
+        <translation>حدد قطعة لترى نافذتها المنبثقة</translation>
     </message>
     <message>
         <source>Show &amp;Pop-up</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;عرض النافذة المنبثقة</translation>
     </message>
 </context>
 <context>
     <name>AssocPalette</name>
     <message>
         <source>Associations</source>
-        <translation type="unfinished"></translation>
+        <translation>العلاقات</translation>
     </message>
     <message>
         <source>Links</source>
-        <translation type="unfinished"></translation>
+        <translation>الارتباطات</translation>
     </message>
     <message>
         <source>Subparts</source>
-        <translation type="unfinished"></translation>
+        <translation>القطع الفرعية</translation>
     </message>
     <message>
         <source>Reflections</source>
-        <translation type="unfinished"></translation>
+        <translation>الانعكاسات</translation>
     </message>
     <message>
         <source>Pop-up</source>
-        <translation type="unfinished"></translation>
+        <translation>نافذة منبثقة</translation>
     </message>
     <message>
         <source>Select a part to see what it has to do with.</source>
-        <translation type="unfinished"></translation>
+        <translation>حدد قطعة لترى ما لها صلة به.</translation>
     </message>
     <message>
         <source>Multiple parts selected</source>
-        <translation type="unfinished"></translation>
+        <translation>عدة قطع محددة</translation>
     </message>
 </context>
 <context>
     <name>AssociationList</name>
     <message>
         <source>Remove the reflection</source>
-        <translation type="unfinished"></translation>
+        <translation>إزالة الانعكاس</translation>
     </message>
     <message>
         <source>Detach</source>
-        <translation type="unfinished"></translation>
+        <translation>فصل</translation>
     </message>
     <message>
         <source>and %1 more</source>
-        <translation type="unfinished"></translation>
+        <translation>و%1 أخرى</translation>
     </message>
     <message>
         <source>None</source>
-        <translation type="unfinished"></translation>
+        <translation>لا شيء</translation>
     </message>
     <message>
         <source>Select</source>
-        <translation type="unfinished"></translation>
+        <translation>تحديد</translation>
     </message>
 </context>
 <context>
     <name>Associations</name>
     <message>
         <source>%1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: %2</translation>
     </message>
     <message>
         <source>Follows</source>
-        <translation type="unfinished"></translation>
+        <translation>تتبع</translation>
     </message>
     <message>
         <source>Followed by</source>
-        <translation type="unfinished"></translation>
+        <translation>تتبعها</translation>
     </message>
     <message>
         <source>%1 of %2 follows %3 of %4</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 من %2 تتبع %3 من %4</translation>
     </message>
     <message>
         <source>Controls</source>
-        <translation type="unfinished"></translation>
+        <translation>عناصر التحكم</translation>
     </message>
     <message>
         <source>Pads</source>
-        <translation type="unfinished"></translation>
+        <translation>نقاط اللحام</translation>
     </message>
     <message>
         <source>Body</source>
-        <translation type="unfinished"></translation>
+        <translation>الجسم</translation>
     </message>
     <message>
         <source>Others</source>
-        <translation type="unfinished"></translation>
+        <translation>أخرى</translation>
     </message>
     <message>
         <source>Pop-up</source>
-        <translation type="unfinished"></translation>
+        <translation>نافذة منبثقة</translation>
     </message>
     <message>
         <source>Parts in it</source>
-        <translation type="unfinished"></translation>
+        <translation>القطع بداخلها</translation>
     </message>
     <message>
         <source>Refers to</source>
-        <translation type="unfinished"></translation>
+        <translation>تشير إلى</translation>
     </message>
     <message>
         <source>Reflection of</source>
-        <translation type="unfinished"></translation>
+        <translation>انعكاس لـ</translation>
     </message>
     <message>
         <source>%1 in %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 في %2</translation>
     </message>
 </context>
 <context>
     <name>BrandWidget</name>
     <message>
         <source>About the product</source>
-        <translation type="unfinished"></translation>
+        <translation>حول المنتج</translation>
     </message>
 </context>
 <context>
     <name>ColorNames</name>
     <message>
         <source>Black</source>
-        <translation type="unfinished"></translation>
+        <translation>أسود</translation>
     </message>
     <message>
         <source>Dim grey</source>
-        <translation type="unfinished"></translation>
+        <translation>رمادي داكن</translation>
     </message>
     <message>
         <source>Grey</source>
-        <translation type="unfinished"></translation>
+        <translation>رمادي</translation>
     </message>
     <message>
         <source>Silver</source>
-        <translation type="unfinished"></translation>
+        <translation>فضي</translation>
     </message>
     <message>
         <source>White</source>
-        <translation type="unfinished"></translation>
+        <translation>أبيض</translation>
     </message>
     <message>
         <source>Brown</source>
-        <translation type="unfinished"></translation>
+        <translation>بني</translation>
     </message>
     <message>
         <source>Maroon</source>
-        <translation type="unfinished"></translation>
+        <translation>كستنائي</translation>
     </message>
     <message>
         <source>Pink</source>
-        <translation type="unfinished"></translation>
+        <translation>وردي</translation>
     </message>
     <message>
         <source>Red</source>
-        <translation type="unfinished"></translation>
+        <translation>أحمر</translation>
     </message>
     <message>
         <source>Orange</source>
-        <translation type="unfinished"></translation>
+        <translation>برتقالي</translation>
     </message>
     <message>
         <source>Yellow</source>
-        <translation type="unfinished"></translation>
+        <translation>أصفر</translation>
     </message>
     <message>
         <source>Lime</source>
-        <translation type="unfinished"></translation>
+        <translation>ليموني</translation>
     </message>
     <message>
         <source>Cyan</source>
-        <translation type="unfinished"></translation>
+        <translation>سماوي</translation>
     </message>
     <message>
         <source>Blue</source>
-        <translation type="unfinished"></translation>
+        <translation>أزرق</translation>
     </message>
     <message>
         <source>Violet</source>
-        <translation type="unfinished"></translation>
+        <translation>بنفسجي</translation>
     </message>
     <message>
         <source>Magenta</source>
-        <translation type="unfinished"></translation>
+        <translation>أرجواني فاتح</translation>
     </message>
     <message>
         <source>Gold</source>
-        <translation type="unfinished"></translation>
+        <translation>ذهبي</translation>
     </message>
     <message>
         <source>Olive</source>
-        <translation type="unfinished"></translation>
+        <translation>زيتوني</translation>
     </message>
     <message>
         <source>Green</source>
-        <translation type="unfinished"></translation>
+        <translation>أخضر</translation>
     </message>
     <message>
         <source>Teal</source>
-        <translation type="unfinished"></translation>
+        <translation>أزرق مخضر</translation>
     </message>
     <message>
         <source>Sky blue</source>
-        <translation type="unfinished"></translation>
+        <translation>أزرق سماوي</translation>
     </message>
     <message>
         <source>Navy</source>
-        <translation type="unfinished"></translation>
+        <translation>كحلي</translation>
     </message>
     <message>
         <source>Purple</source>
-        <translation type="unfinished"></translation>
+        <translation>أرجواني</translation>
     </message>
     <message>
         <source>Indigo</source>
-        <translation type="unfinished"></translation>
+        <translation>نيلي</translation>
     </message>
 </context>
 <context>
     <name>ColorPopup</name>
     <message>
         <source>Colours</source>
-        <translation type="unfinished"></translation>
+        <translation>الألوان</translation>
     </message>
     <message>
         <source>Standard colours</source>
-        <translation type="unfinished"></translation>
+        <translation>الألوان المعتادة</translation>
     </message>
     <message>
         <source>Colours in this document</source>
-        <translation type="unfinished"></translation>
+        <translation>الألوان في هذا المستند</translation>
     </message>
     <message>
         <source>&amp;More...</source>
-        <translation type="unfinished"></translation>
+        <translation>الم&amp;زيد...</translation>
     </message>
 </context>
 <context>
     <name>CommandLog</name>
     <message>
         <source>document type declarations are not allowed</source>
-        <translation type="unfinished"></translation>
+        <translation>تصريحات نوع المستند غير مسموح بها</translation>
     </message>
     <message>
         <source>this is no recorded session</source>
-        <translation type="unfinished"></translation>
+        <translation>هذه ليست جلسة مسجلة</translation>
     </message>
     <message>
         <source>the format version is missing or not known</source>
-        <translation type="unfinished"></translation>
+        <translation>رقم إصدار التنسيق مفقود أو غير معروف</translation>
     </message>
     <message>
         <source>there is no command &lt;%1&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>لا يوجد أمر &lt;%1&gt;</translation>
     </message>
     <message>
         <source>the content of &lt;%1&gt; is faulty</source>
-        <translation type="unfinished"></translation>
+        <translation>محتوى &lt;%1&gt; غير صحيح</translation>
     </message>
     <message>
         <source>&lt;%1&gt; failed: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>فشل &lt;%1&gt;: %2</translation>
     </message>
     <message>
         <source>there is nothing to undo</source>
-        <translation type="unfinished"></translation>
+        <translation>لا يوجد ما يُتراجع عنه</translation>
     </message>
     <message>
         <source>there is nothing to redo</source>
-        <translation type="unfinished"></translation>
+        <translation>لا يوجد ما يُعاد</translation>
     </message>
 </context>
 <context>
     <name>CommandLogPane</name>
     <message>
         <source>Re&amp;cord</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;تسجيل</translation>
     </message>
     <message>
         <source>&amp;Save Recording...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;حفظ التسجيل...</translation>
     </message>
     <message>
         <source>Commands</source>
-        <translation type="unfinished"></translation>
+        <translation>الأوامر</translation>
     </message>
     <message>
         <source>No command was given yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>لم يُعطَ أي أمر بعد.</translation>
     </message>
     <message>
         <source>Record what is done to the document from now on</source>
-        <translation type="unfinished"></translation>
+        <translation>تسجيل ما يجري على المستند من الآن فصاعدًا</translation>
     </message>
     <message>
         <source>C&amp;lear</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;مسح</translation>
     </message>
     <message>
         <source>Save Recording</source>
-        <translation type="unfinished"></translation>
+        <translation>حفظ التسجيل</translation>
     </message>
     <message>
         <source>Recorded sessions (*.xml)</source>
-        <translation type="unfinished"></translation>
+        <translation>جلسات مسجلة (*.xml)</translation>
     </message>
     <message>
         <source>%1 cannot be written: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>لا يمكن كتابة %1: %2</translation>
     </message>
 </context>
 <context>
     <name>ConfirmingObserverCheckBox</name>
     <message>
         <source>Change property value</source>
-        <translation type="unfinished"></translation>
+        <translation>تغيير قيمة الخاصية</translation>
     </message>
 </context>
 <context>
     <name>DebugPalette</name>
     <message>
         <source>Debugging</source>
-        <translation type="unfinished"></translation>
+        <translation>تصحيح الأخطاء</translation>
     </message>
     <message>
         <source>Properties</source>
-        <translation type="unfinished"></translation>
+        <translation>الخصائص</translation>
     </message>
     <message>
         <source>Statistics</source>
-        <translation type="unfinished"></translation>
+        <translation>الإحصاءات</translation>
     </message>
     <message>
         <source>Performance</source>
-        <translation type="unfinished"></translation>
+        <translation>الأداء</translation>
     </message>
     <message>
         <source>Commands</source>
-        <translation type="unfinished"></translation>
+        <translation>الأوامر</translation>
     </message>
     <message>
         <source>Messages</source>
-        <translation type="unfinished"></translation>
+        <translation>الرسائل</translation>
     </message>
     <message>
         <source>Nothing is selected.</source>
-        <translation type="unfinished"></translation>
+        <translation>لا شيء محدد.</translation>
     </message>
     <message>
         <source>%1 (the first of %2 selected)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (الأولى من %2 محددة)</translation>
     </message>
 </context>
 <context>
     <name>DeleteNodeCommand</name>
     <message>
         <source>Deletion of %1</source>
-        <translation type="unfinished"></translation>
+        <translation>حذف %1</translation>
     </message>
     <message numerus="yes">
         <source>Deletion of %n object(s)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>لا حذف (%n)</numerusform>
+            <numerusform>حذف كائن واحد (%n)</numerusform>
+            <numerusform>حذف كائنين (%n)</numerusform>
+            <numerusform>حذف %n كائنات</numerusform>
+            <numerusform>حذف %n كائنًا</numerusform>
+            <numerusform>حذف %n كائن</numerusform>
         </translation>
     </message>
     <message>
         <source>The object is not there any more.</source>
-        <translation type="unfinished"></translation>
+        <translation>لم يعد الكائن موجودًا.</translation>
     </message>
     <message>
         <source>The document itself and pop-ups cannot be deleted.</source>
-        <translation type="unfinished"></translation>
+        <translation>لا يمكن حذف المستند نفسه ولا النوافذ المنبثقة.</translation>
     </message>
     <message>
         <source>The subpart belongs to its part and cannot be deleted.</source>
-        <translation type="unfinished"></translation>
+        <translation>القطعة الفرعية تنتمي إلى قطعتها ولا يمكن حذفها.</translation>
     </message>
     <message>
         <source>The last scene cannot be deleted.</source>
-        <translation type="unfinished"></translation>
+        <translation>لا يمكن حذف المشهد الأخير.</translation>
     </message>
 </context>
 <context>
     <name>DocumentFile</name>
     <message>
         <source>this is no document</source>
-        <translation type="unfinished"></translation>
+        <translation>هذا ليس مستندًا</translation>
     </message>
     <message>
         <source>this is no document: it begins with &lt;%1&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>هذا ليس مستندًا: إنه يبدأ بـ &lt;%1&gt;</translation>
     </message>
     <message>
         <source>the document has no model</source>
-        <translation type="unfinished"></translation>
+        <translation>ليس للمستند نموذج</translation>
     </message>
     <message>
         <source>the format version is missing or no number</source>
-        <translation type="unfinished"></translation>
+        <translation>رقم إصدار التنسيق مفقود أو ليس رقمًا</translation>
     </message>
     <message>
         <source>the format version is %1; this program reads versions up to %2</source>
-        <translation type="unfinished"></translation>
+        <translation>إصدار التنسيق هو %1؛ هذا البرنامج يقرأ الإصدارات حتى %2</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is no instance id</source>
-        <translation type="unfinished"></translation>
+        <translation>&quot;%1&quot; ليس رقم نسخة</translation>
     </message>
     <message>
         <source>a document has one model only</source>
-        <translation type="unfinished"></translation>
+        <translation>للمستند نموذج واحد فقط</translation>
     </message>
     <message>
         <source>the document has no scene</source>
-        <translation type="unfinished"></translation>
+        <translation>ليس للمستند مشهد</translation>
     </message>
     <message>
         <source>&lt;%1&gt; cannot stand here</source>
-        <translation type="unfinished"></translation>
+        <translation>لا يمكن لـ &lt;%1&gt; أن يكون هنا</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is no name of a document&apos;s resource</source>
-        <translation type="unfinished"></translation>
+        <translation>&quot;%1&quot; ليس اسم مورد من موارد المستند</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is no type of resource</source>
-        <translation type="unfinished"></translation>
+        <translation>&quot;%1&quot; ليس نوع مورد</translation>
     </message>
     <message>
         <source>resource &quot;%1&quot; is there twice</source>
-        <translation type="unfinished"></translation>
+        <translation>المورد &quot;%1&quot; موجود مرتين</translation>
     </message>
     <message>
         <source>only text can stand here</source>
-        <translation type="unfinished"></translation>
+        <translation>لا يمكن أن يكون هنا إلا نص</translation>
     </message>
     <message>
         <source>resource &quot;%1&quot; is larger than 64 MB</source>
-        <translation type="unfinished"></translation>
+        <translation>المورد &quot;%1&quot; أكبر من 64 ميغابايت</translation>
     </message>
     <message>
         <source>the data of resource &quot;%1&quot; are damaged</source>
-        <translation type="unfinished"></translation>
+        <translation>بيانات المورد &quot;%1&quot; تالفة</translation>
     </message>
     <message>
         <source>the next instance id was %1, which is too low; it is %2 now</source>
-        <translation type="unfinished"></translation>
+        <translation>رقم النسخة التالي كان %1، وهو أصغر من اللازم؛ هو الآن %2</translation>
     </message>
     <message>
         <source>nodes are nested deeper than %1</source>
-        <translation type="unfinished"></translation>
+        <translation>العُقد متداخلة أعمق من %1</translation>
     </message>
     <message>
         <source>this is no fragment</source>
-        <translation type="unfinished"></translation>
+        <translation>هذا ليس جزءًا من مستند</translation>
     </message>
     <message>
         <source>the format version is missing or not known</source>
-        <translation type="unfinished"></translation>
+        <translation>رقم إصدار التنسيق مفقود أو غير معروف</translation>
     </message>
     <message numerus="yes">
         <source>%1 %n more warning(s) left out</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1 لا تحذيرات أخرى محذوفة (%n)</numerusform>
+            <numerusform>%1 حُذف تحذير آخر (%n)</numerusform>
+            <numerusform>%1 حُذف تحذيران آخران (%n)</numerusform>
+            <numerusform>%1 حُذفت %n تحذيرات أخرى</numerusform>
+            <numerusform>%1 حُذف %n تحذيرًا آخر</numerusform>
+            <numerusform>%1 حُذف %n تحذير آخر</numerusform>
         </translation>
     </message>
     <message>
         <source>attribute &quot;%1&quot; of &lt;%2&gt; is not known and was dropped</source>
-        <translation type="unfinished"></translation>
+        <translation>السمة &quot;%1&quot; للعنصر &lt;%2&gt; غير معروفة وأُسقطت</translation>
     </message>
     <message>
         <source>the class is missing</source>
-        <translation type="unfinished"></translation>
+        <translation>الصنف مفقود</translation>
     </message>
     <message>
         <source>&quot;%1&quot; names no domain</source>
-        <translation type="unfinished"></translation>
+        <translation>&quot;%1&quot; لا يسمي أي مجال</translation>
     </message>
     <message>
         <source>class &quot;%1&quot; is not known</source>
-        <translation type="unfinished"></translation>
+        <translation>الصنف &quot;%1&quot; غير معروف</translation>
     </message>
     <message>
         <source>more than %1 classes are not known</source>
-        <translation type="unfinished"></translation>
+        <translation>أكثر من %1 من الأصناف غير معروفة</translation>
     </message>
     <message>
         <source>class &quot;%1&quot; is not known; kept as it is</source>
-        <translation type="unfinished"></translation>
+        <translation>الصنف &quot;%1&quot; غير معروف؛ أُبقي كما هو</translation>
     </message>
     <message>
         <source>class &quot;%1&quot; is of another kind than &lt;%2&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>الصنف &quot;%1&quot; من نوع آخر غير &lt;%2&gt;</translation>
     </message>
     <message>
         <source>instance id %1 is used twice</source>
-        <translation type="unfinished"></translation>
+        <translation>رقم النسخة %1 مستخدم مرتين</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is no lock</source>
-        <translation type="unfinished"></translation>
+        <translation>&quot;%1&quot; ليس قفلًا</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is neither true nor false</source>
-        <translation type="unfinished"></translation>
+        <translation>&quot;%1&quot; ليس true ولا false</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is no kind of reflection</source>
-        <translation type="unfinished"></translation>
+        <translation>&quot;%1&quot; ليس نوعًا من الانعكاس</translation>
     </message>
     <message>
         <source>&lt;%1&gt; has no class</source>
-        <translation type="unfinished"></translation>
+        <translation>ليس لـ &lt;%1&gt; صنف</translation>
     </message>
     <message>
         <source>&lt;%1&gt; has no instance id</source>
-        <translation type="unfinished"></translation>
+        <translation>ليس لـ &lt;%1&gt; رقم نسخة</translation>
     </message>
     <message>
         <source>a reflection needs both what it reflects and which kind it is</source>
-        <translation type="unfinished"></translation>
+        <translation>يحتاج الانعكاس إلى ما يعكسه وإلى نوعه معًا</translation>
     </message>
     <message numerus="yes">
         <source>there are more than %n nodes</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>لا توجد عُقد (%n)</numerusform>
+            <numerusform>توجد أكثر من عقدة (%n)</numerusform>
+            <numerusform>توجد أكثر من عقدتين (%n)</numerusform>
+            <numerusform>توجد أكثر من %n عُقد</numerusform>
+            <numerusform>توجد أكثر من %n عقدة</numerusform>
+            <numerusform>توجد أكثر من %n عقدة</numerusform>
         </translation>
     </message>
     <message>
         <source>&lt;%1&gt; is no node</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;%1&gt; ليس عقدة</translation>
     </message>
     <message>
         <source>text cannot stand here</source>
-        <translation type="unfinished"></translation>
+        <translation>لا يمكن أن يكون هنا نص</translation>
     </message>
     <message>
         <source>document type declarations are not allowed</source>
-        <translation type="unfinished"></translation>
+        <translation>تصريحات نوع المستند غير مسموح بها</translation>
     </message>
     <message>
         <source>this cannot stand here</source>
-        <translation type="unfinished"></translation>
+        <translation>لا يمكن لهذا أن يكون هنا</translation>
     </message>
     <message>
         <source>nothing can stand after the end of the document</source>
-        <translation type="unfinished"></translation>
+        <translation>لا يمكن أن يأتي شيء بعد نهاية المستند</translation>
     </message>
     <message>
         <source>&lt;%1&gt; is not known; kept as it is</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;%1&gt; غير معروف؛ أُبقي كما هو</translation>
     </message>
     <message>
         <source>a part has one pop-up only</source>
-        <translation type="unfinished"></translation>
+        <translation>للقطعة نافذة منبثقة واحدة فقط</translation>
     </message>
     <message>
         <source>&lt;value&gt; has no key</source>
-        <translation type="unfinished"></translation>
+        <translation>ليس لـ &lt;value&gt; مفتاح</translation>
     </message>
     <message>
         <source>a proxy needs both a node and a key to follow</source>
-        <translation type="unfinished"></translation>
+        <translation>يحتاج الارتباط إلى عقدة ومفتاح معًا ليتبعهما</translation>
     </message>
     <message>
         <source>the text of a value is longer than 64 MB</source>
-        <translation type="unfinished"></translation>
+        <translation>نص القيمة أطول من 64 ميغابايت</translation>
     </message>
     <message>
         <source>this is no %1</source>
-        <translation type="unfinished"></translation>
+        <translation>هذا ليس من النوع %1</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is no %2 (property &quot;%3&quot;)</source>
-        <translation type="unfinished"></translation>
+        <translation>&quot;%1&quot; ليس من النوع %2 (الخاصية &quot;%3&quot;)</translation>
     </message>
     <message>
         <source>class &quot;%1&quot; has no property &quot;%2&quot;; kept as it is</source>
-        <translation type="unfinished"></translation>
+        <translation>ليس للصنف &quot;%1&quot; خاصية &quot;%2&quot;؛ أُبقيت كما هي</translation>
     </message>
     <message>
         <source>property &quot;%1&quot; is not kept in files; dropped</source>
-        <translation type="unfinished"></translation>
+        <translation>الخاصية &quot;%1&quot; لا تُحفظ في الملفات؛ أُسقطت</translation>
     </message>
     <message>
         <source>property &quot;%1&quot; is given twice; the first value counts</source>
-        <translation type="unfinished"></translation>
+        <translation>الخاصية &quot;%1&quot; معطاة مرتين؛ تُحسب القيمة الأولى</translation>
     </message>
     <message>
         <source>the value of property &quot;%1&quot; is not allowed; kept: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>قيمة الخاصية &quot;%1&quot; غير مسموح بها؛ أُبقيت: %2</translation>
     </message>
     <message>
         <source>the id &quot;%1&quot; is used twice; kept</source>
-        <translation type="unfinished"></translation>
+        <translation>المعرّف &quot;%1&quot; مستخدم مرتين؛ أُبقي</translation>
     </message>
     <message>
         <source>property &quot;%1&quot; of node %2 follows itself, directly or through others</source>
-        <translation type="unfinished"></translation>
+        <translation>الخاصية &quot;%1&quot; للعقدة %2 تتبع نفسها، مباشرة أو عبر غيرها</translation>
     </message>
     <message>
         <source>property &quot;%1&quot; follows one that is not there (&quot;%2&quot; of node %3); kept as it is</source>
-        <translation type="unfinished"></translation>
+        <translation>الخاصية &quot;%1&quot; تتبع خاصية غير موجودة (&quot;%2&quot; للعقدة %3)؛ أُبقيت كما هي</translation>
     </message>
     <message>
         <source>property &quot;%1&quot; (%2) cannot follow &quot;%3&quot; (%4)</source>
-        <translation type="unfinished"></translation>
+        <translation>الخاصية &quot;%1&quot; (%2) لا يمكنها أن تتبع &quot;%3&quot; (%4)</translation>
     </message>
     <message>
         <source>node %1, which is reflected here, is not there; kept as it is</source>
-        <translation type="unfinished"></translation>
+        <translation>العقدة %1، المنعكسة هنا، غير موجودة؛ أُبقي كما هو</translation>
     </message>
     <message>
         <source>elements are nested too deep</source>
-        <translation type="unfinished"></translation>
+        <translation>العناصر متداخلة أعمق من اللازم</translation>
     </message>
     <message>
         <source>an unknown element is longer than 64 MB</source>
-        <translation type="unfinished"></translation>
+        <translation>عنصر غير معروف أطول من 64 ميغابايت</translation>
     </message>
 </context>
 <context>
     <name>DocumentFiles</name>
     <message>
         <source>Untitled</source>
-        <translation type="unfinished"></translation>
+        <translation>بلا عنوان</translation>
     </message>
     <message>
         <source>Changes not saved</source>
-        <translation type="unfinished"></translation>
+        <translation>تغييرات غير محفوظة</translation>
     </message>
     <message>
         <source>Save the changes to %1?</source>
-        <translation type="unfinished"></translation>
+        <translation>هل تُحفظ التغييرات في %1؟</translation>
     </message>
     <message>
         <source>Open</source>
-        <translation type="unfinished"></translation>
+        <translation>فتح</translation>
     </message>
     <message>
         <source>%1 cannot be opened.</source>
-        <translation type="unfinished"></translation>
+        <translation>لا يمكن فتح %1.</translation>
     </message>
     <message>
         <source>Save As</source>
-        <translation type="unfinished"></translation>
+        <translation>حفظ باسم</translation>
     </message>
     <message>
         <source>%1 could not be saved.</source>
-        <translation type="unfinished"></translation>
+        <translation>تعذر حفظ %1.</translation>
     </message>
     <message>
         <source>Saved %1</source>
-        <translation type="unfinished"></translation>
+        <translation>حُفظ %1</translation>
     </message>
     <message>
         <source>Revert</source>
-        <translation type="unfinished"></translation>
+        <translation>استرجاع</translation>
     </message>
     <message>
         <source>Lose all changes made since %1 was last saved?</source>
-        <translation type="unfinished"></translation>
+        <translation>هل تريد فقد كل التغييرات منذ آخر حفظ لـ %1؟</translation>
     </message>
 </context>
 <context>
     <name>DocumentImpl</name>
     <message>
         <source>There is no such part.</source>
-        <translation type="unfinished"></translation>
+        <translation>لا توجد قطعة كهذه.</translation>
     </message>
     <message>
         <source>The id names no class of a domain.</source>
-        <translation type="unfinished"></translation>
+        <translation>المعرّف لا يسمي أي صنف من مجال.</translation>
     </message>
     <message>
         <source>The id is already in use.</source>
-        <translation type="unfinished"></translation>
+        <translation>المعرّف مستخدم بالفعل.</translation>
     </message>
     <message>
         <source>Nothing can be changed while an undo or redo is under way.</source>
-        <translation type="unfinished"></translation>
+        <translation>لا يمكن تغيير شيء أثناء تراجع أو إعادة.</translation>
     </message>
     <message>
         <source>%1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: %2</translation>
     </message>
 </context>
 <context>
     <name>ExpressionParser</name>
     <message>
         <source>The expression is not complete.</source>
-        <translation type="unfinished"></translation>
+        <translation>التعبير غير مكتمل.</translation>
     </message>
     <message>
         <source>A closing bracket is missing.</source>
-        <translation type="unfinished"></translation>
+        <translation>ينقص قوس إغلاق.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; at position %2 is not known.</source>
-        <translation type="unfinished"></translation>
+        <translation>&quot;%1&quot; عند الموضع %2 غير معروف.</translation>
     </message>
     <message>
         <source>The function before position %1 takes another number of arguments.</source>
-        <translation type="unfinished"></translation>
+        <translation>الدالة قبل الموضع %1 تأخذ عددًا آخر من المعاملات.</translation>
     </message>
     <message>
         <source>The expression is not correct at position %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>التعبير غير صحيح عند الموضع %1.</translation>
     </message>
     <message>
         <source>The result is not a number.</source>
-        <translation type="unfinished"></translation>
+        <translation>النتيجة ليست عددًا.</translation>
     </message>
     <message>
         <source>The result is too large, or something is divided by zero.</source>
-        <translation type="unfinished"></translation>
+        <translation>النتيجة أكبر من اللازم، أو هناك قسمة على صفر.</translation>
     </message>
     <message>
         <source>The expression is too long.</source>
-        <translation type="unfinished"></translation>
+        <translation>التعبير أطول من اللازم.</translation>
     </message>
     <message>
         <source>There is no number.</source>
-        <translation type="unfinished"></translation>
+        <translation>لا يوجد عدد.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; at position %2 is not a unit that can be converted to %3.</source>
-        <translation type="unfinished"></translation>
+        <translation>&quot;%1&quot; عند الموضع %2 ليست وحدة يمكن تحويلها إلى %3.</translation>
     </message>
     <message>
         <source>Too many brackets are open.</source>
-        <translation type="unfinished"></translation>
+        <translation>عدد الأقواس المفتوحة أكبر من اللازم.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; at position %2 is not expected there.</source>
-        <translation type="unfinished"></translation>
+        <translation>&quot;%1&quot; غير متوقع عند الموضع %2.</translation>
     </message>
 </context>
 <context>
     <name>FlowchartBar</name>
     <message>
         <source>Flowcharts</source>
-        <translation type="unfinished"></translation>
+        <translation>المخططات الانسيابية</translation>
     </message>
     <message>
         <source>&amp;Run Flowcharts</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;تشغيل المخططات الانسيابية</translation>
     </message>
     <message>
         <source>Pause</source>
-        <translation type="unfinished"></translation>
+        <translation>إيقاف مؤقت</translation>
     </message>
     <message>
         <source>Start the flowcharts, or stop them</source>
-        <translation type="unfinished"></translation>
+        <translation>تشغيل المخططات الانسيابية أو إيقافها</translation>
     </message>
     <message>
         <source>Run flowcharts</source>
-        <translation type="unfinished"></translation>
+        <translation>تشغيل المخططات الانسيابية</translation>
     </message>
     <message>
         <source>Start the flowcharts, or stop them (F5)</source>
-        <translation type="unfinished"></translation>
+        <translation>تشغيل المخططات الانسيابية أو إيقافها (F5)</translation>
     </message>
     <message>
         <source>All flowcharts have come to their end.</source>
-        <translation type="unfinished"></translation>
+        <translation>وصلت كل المخططات الانسيابية إلى نهايتها.</translation>
     </message>
     <message>
         <source>There is no flowchart in this document: add a start block first.</source>
-        <translation type="unfinished"></translation>
+        <translation>لا يوجد مخطط انسيابي في هذا المستند: أضف كتلة بداية أولًا.</translation>
     </message>
     <message>
         <source>Flowchart</source>
-        <translation type="unfinished"></translation>
+        <translation>مخطط انسيابي</translation>
     </message>
     <message>
         <source>The link &quot;%1&quot; cannot be opened.</source>
-        <translation type="unfinished"></translation>
+        <translation>لا يمكن فتح الرابط &quot;%1&quot;.</translation>
     </message>
 </context>
 <context>
     <name>FlowchartRunner</name>
     <message>
         <source>The block &quot;%1&quot; waits for &quot;%2&quot;, but nothing has that output name.</source>
-        <translation type="unfinished"></translation>
+        <translation>الكتلة &quot;%1&quot; تنتظر &quot;%2&quot;، لكن لا شيء يحمل اسم الخرج هذا.</translation>
     </message>
     <message>
         <source>The chart leads to &quot;%1&quot;, which is no block.</source>
-        <translation type="unfinished"></translation>
+        <translation>المخطط يقود إلى &quot;%1&quot;، وهي ليست كتلة.</translation>
     </message>
     <message>
         <source>The block &quot;%1&quot; switches &quot;%2&quot;, but nothing has that output name.</source>
-        <translation type="unfinished"></translation>
+        <translation>الكتلة &quot;%1&quot; تبدّل &quot;%2&quot;، لكن لا شيء يحمل اسم الخرج هذا.</translation>
     </message>
     <message>
         <source>Nothing follows the block &quot;%1&quot;: the chart ends there.</source>
-        <translation type="unfinished"></translation>
+        <translation>لا شيء يلي الكتلة &quot;%1&quot;: ينتهي المخطط هناك.</translation>
     </message>
     <message>
         <source>Nothing follows one of the answers of &quot;%1&quot;: the chart ends there.</source>
-        <translation type="unfinished"></translation>
+        <translation>لا شيء يلي أحد أجوبة &quot;%1&quot;: ينتهي المخطط هناك.</translation>
     </message>
     <message>
         <source>The procedure &quot;%1&quot; has no start block in its pop-up.</source>
-        <translation type="unfinished"></translation>
+        <translation>ليس للإجراء &quot;%1&quot; كتلة بداية في نافذته المنبثقة.</translation>
     </message>
     <message>
         <source>The procedure &quot;%1&quot; calls itself again and again.</source>
-        <translation type="unfinished"></translation>
+        <translation>الإجراء &quot;%1&quot; يستدعي نفسه مرارًا وتكرارًا.</translation>
     </message>
     <message>
         <source>The decision &quot;%1&quot; does not say what it asks.</source>
-        <translation type="unfinished"></translation>
+        <translation>القرار &quot;%1&quot; لا يقول عمّا يسأل.</translation>
     </message>
     <message>
         <source>The decision &quot;%1&quot; asks &quot;%2&quot;, but nothing has that output name.</source>
-        <translation type="unfinished"></translation>
+        <translation>القرار &quot;%1&quot; يسأل عن &quot;%2&quot;، لكن لا شيء يحمل اسم الخرج هذا.</translation>
     </message>
 </context>
 <context>
     <name>FlowchartSpeedWidget</name>
     <message>
         <source>Speed of the flowcharts</source>
-        <translation type="unfinished"></translation>
+        <translation>سرعة المخططات الانسيابية</translation>
     </message>
     <message>
         <source>How fast the flowcharts run</source>
-        <translation type="unfinished"></translation>
+        <translation>بأي سرعة تعمل المخططات الانسيابية</translation>
     </message>
     <message>
         <source>Flowcharts:</source>
-        <translation type="unfinished"></translation>
+        <translation>المخططات:</translation>
     </message>
     <message>
         <source>Step</source>
-        <translation type="unfinished"></translation>
+        <translation>خطوة</translation>
     </message>
     <message>
         <source>Run the next block</source>
-        <translation type="unfinished"></translation>
+        <translation>تنفيذ الكتلة التالية</translation>
     </message>
 </context>
 <context>
     <name>FontChooser</name>
     <message>
         <source>Light</source>
-        <translation type="unfinished"></translation>
+        <translation>خفيف</translation>
     </message>
     <message>
         <source>Normal</source>
-        <translation type="unfinished"></translation>
+        <translation>عادي</translation>
     </message>
     <message>
         <source>Medium</source>
-        <translation type="unfinished"></translation>
+        <translation>متوسط</translation>
     </message>
     <message>
         <source>Half bold</source>
-        <translation type="unfinished"></translation>
+        <translation>نصف عريض</translation>
     </message>
     <message>
         <source>Bold</source>
-        <translation type="unfinished"></translation>
+        <translation>عريض</translation>
     </message>
     <message>
         <source>Black</source>
-        <translation type="unfinished"></translation>
+        <translation>أسود</translation>
     </message>
     <message>
         <source>Italic</source>
-        <translation type="unfinished"></translation>
+        <translation>مائل</translation>
     </message>
     <message>
         <source>AaBbYyZz 123</source>
-        <translation type="unfinished"></translation>
+        <translation>AaBbYyZz 123</translation>
     </message>
     <message>
         <source>Sample</source>
-        <translation type="unfinished"></translation>
+        <translation>عينة</translation>
     </message>
     <message>
         <source>All fonts...</source>
-        <translation type="unfinished"></translation>
+        <translation>كل الخطوط...</translation>
     </message>
     <message>
         <source>...</source>
-        <translation type="unfinished"></translation>
+        <translation>...</translation>
     </message>
     <message>
         <source>%1, family</source>
-        <translation type="unfinished"></translation>
+        <translation>%1، العائلة</translation>
     </message>
     <message>
         <source>%1, size in points</source>
-        <translation type="unfinished"></translation>
+        <translation>%1، الحجم بالنقاط</translation>
     </message>
     <message>
         <source>Size in points</source>
-        <translation type="unfinished"></translation>
+        <translation>الحجم بالنقاط</translation>
     </message>
     <message>
         <source>%1, weight</source>
-        <translation type="unfinished"></translation>
+        <translation>%1، السماكة</translation>
     </message>
     <message>
         <source>%1, italic</source>
-        <translation type="unfinished"></translation>
+        <translation>%1، مائل</translation>
     </message>
     <message>
         <source>The size is a number from 1 to 1000.</source>
-        <translation type="unfinished"></translation>
+        <translation>الحجم عدد من 1 إلى 1000.</translation>
     </message>
 </context>
 <context>
     <name>GetCustomPartLabel</name>
     <message>
         <source>Choose custom part label</source>
-        <translation type="unfinished"></translation>
+        <translation>اختيار عنوان القطعة الخاصة</translation>
     </message>
     <message>
         <source>Part &amp;label:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;عنوان القطعة:</translation>
     </message>
     <message>
         <source>The part label appears in the part tree.</source>
-        <translation type="unfinished"></translation>
+        <translation>يظهر عنوان القطعة في شجرة القطع.</translation>
     </message>
     <message>
         <source>&amp;Save Part</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;حفظ القطعة</translation>
     </message>
     <message>
         <source>&amp;Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>إ&amp;لغاء</translation>
     </message>
 </context>
 <context>
     <name>IdProvider</name>
     <message>
         <source>The id must not be empty.</source>
-        <translation type="unfinished"></translation>
+        <translation>يجب ألا يكون المعرّف فارغًا.</translation>
     </message>
     <message>
         <source>The id is longer than 100 characters.</source>
-        <translation type="unfinished"></translation>
+        <translation>المعرّف أطول من 100 حرف.</translation>
     </message>
     <message>
         <source>The id must not contain blanks.</source>
-        <translation type="unfinished"></translation>
+        <translation>يجب ألا يحتوي المعرّف على مسافات.</translation>
     </message>
     <message>
         <source>Another subpart has this id.</source>
-        <translation type="unfinished"></translation>
+        <translation>لقطعة فرعية أخرى هذا المعرّف.</translation>
     </message>
     <message>
         <source>Another part has this id.</source>
-        <translation type="unfinished"></translation>
+        <translation>لقطعة أخرى هذا المعرّف.</translation>
     </message>
 </context>
 <context>
     <name>InsertMenu</name>
     <message>
         <source>Connect the two selected parts</source>
-        <translation type="unfinished"></translation>
+        <translation>وصل القطعتين المحددتين</translation>
     </message>
 </context>
 <context>
     <name>Inspector</name>
     <message>
         <source>Inspector</source>
-        <translation type="unfinished"></translation>
+        <translation>المفتش</translation>
     </message>
     <message>
         <source>Class</source>
-        <translation type="unfinished"></translation>
+        <translation>الصنف</translation>
     </message>
     <message>
         <source>Id</source>
-        <translation type="unfinished"></translation>
+        <translation>المعرّف</translation>
     </message>
     <message>
         <source>InstanceId</source>
-        <translation type="unfinished"></translation>
+        <translation>رقم النسخة</translation>
     </message>
     <message>
         <source>Nodes</source>
-        <translation type="unfinished"></translation>
+        <translation>العُقد</translation>
     </message>
 </context>
 <context>
     <name>Licence</name>
     <message>
         <source>Please enter the licence code.</source>
-        <translation type="unfinished"></translation>
+        <translation>يرجى إدخال رمز الترخيص.</translation>
     </message>
     <message>
         <source>Typing error in group %1: &quot;%2&quot; does not occur in licence codes.</source>
-        <translation type="unfinished"></translation>
+        <translation>خطأ كتابة في المجموعة %1: &quot;%2&quot; لا يرد في رموز الترخيص.</translation>
     </message>
     <message>
         <source>Typing error in group %1: it has %2 characters instead of %3.</source>
-        <translation type="unfinished"></translation>
+        <translation>خطأ كتابة في المجموعة %1: فيها %2 من الأحرف بدلًا من %3.</translation>
     </message>
     <message>
         <source>The code is too long: no licence code has so many groups.</source>
-        <translation type="unfinished"></translation>
+        <translation>الرمز أطول من اللازم: لا رمز ترخيص فيه هذا العدد من المجموعات.</translation>
     </message>
     <message>
         <source>Typing error in group %1: please compare it letter by letter. Groups may also be missing, doubled or exchanged.</source>
-        <translation type="unfinished"></translation>
+        <translation>خطأ كتابة في المجموعة %1: يرجى مقارنتها حرفًا حرفًا. قد تكون مجموعات ناقصة أو مكررة أو متبادلة.</translation>
     </message>
     <message>
         <source>The secret key cannot be used.</source>
-        <translation type="unfinished"></translation>
+        <translation>لا يمكن استخدام المفتاح السري.</translation>
     </message>
     <message>
         <source>A licence needs a holder and a product.</source>
-        <translation type="unfinished"></translation>
+        <translation>يحتاج الترخيص إلى صاحب ومنتج.</translation>
     </message>
     <message>
         <source>The dates of a licence lie between 2000 and 2179, and it does not expire before it is issued.</source>
-        <translation type="unfinished"></translation>
+        <translation>تقع تواريخ الترخيص بين 2000 و2179، ولا ينتهي قبل أن يصدر.</translation>
     </message>
     <message>
         <source>A licence has from 1 to 65535 seats.</source>
-        <translation type="unfinished"></translation>
+        <translation>للترخيص من 1 إلى 65535 مقعدًا.</translation>
     </message>
     <message>
         <source>Holder, product and edition have at most 80 letters each.</source>
-        <translation type="unfinished"></translation>
+        <translation>للصاحب والمنتج والإصدار 80 حرفًا لكل منها على الأكثر.</translation>
     </message>
     <message>
         <source>Holder, product and edition are too long together.</source>
-        <translation type="unfinished"></translation>
+        <translation>الصاحب والمنتج والإصدار معًا أطول من اللازم.</translation>
     </message>
     <message>
         <source>This code was not made for this program: its signature is not right. Please ask whoever gave it to you.</source>
-        <translation type="unfinished"></translation>
+        <translation>لم يُصنع هذا الرمز لهذا البرنامج: توقيعه غير صحيح. يرجى سؤال من أعطاك إياه.</translation>
     </message>
     <message>
         <source>The code has %1 groups, but %2 were entered.</source>
-        <translation type="unfinished"></translation>
+        <translation>للرمز %1 من المجموعات، لكن أُدخل منها %2.</translation>
     </message>
     <message>
         <source>This code is for the product %1; this program is %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>هذا الرمز للمنتج %1؛ وهذا البرنامج هو %2.</translation>
     </message>
     <message>
         <source>This code was issued on %1, but the clock of this computer says that today is %2. Please set the clock.</source>
-        <translation type="unfinished"></translation>
+        <translation>صدر هذا الرمز في %1، لكن ساعة هذا الحاسوب تقول إن اليوم هو %2. يرجى ضبط الساعة.</translation>
     </message>
     <message>
         <source>This licence expired on %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>انتهى هذا الترخيص في %1.</translation>
     </message>
 </context>
 <context>
     <name>LicenceDialog</name>
     <message>
         <source>Licence</source>
-        <translation type="unfinished"></translation>
+        <translation>الترخيص</translation>
     </message>
     <message>
         <source>Licence &amp;code:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;رمز الترخيص:</translation>
     </message>
     <message>
         <source>Licence code</source>
-        <translation type="unfinished"></translation>
+        <translation>رمز الترخيص</translation>
     </message>
     <message>
         <source>Paste the code here, or type it group by group</source>
-        <translation type="unfinished"></translation>
+        <translation>ألصق الرمز هنا، أو اكتبه مجموعة مجموعة</translation>
     </message>
     <message>
         <source>&amp;Remove</source>
-        <translation type="unfinished"></translation>
+        <translation>إ&amp;زالة</translation>
     </message>
     <message>
         <source>Forget the licence code on this computer</source>
-        <translation type="unfinished"></translation>
+        <translation>نسيان رمز الترخيص على هذا الحاسوب</translation>
     </message>
     <message>
         <source>&amp;Ok</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;موافق</translation>
     </message>
     <message>
         <source>&amp;Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>إ&amp;لغاء</translation>
     </message>
     <message>
         <source>A licence code is made of groups of %1 letters and digits. Small letters are as good as capitals.</source>
-        <translation type="unfinished"></translation>
+        <translation>يتكون رمز الترخيص من مجموعات من %1 من الحروف والأرقام. الحروف الصغيرة كالكبيرة.</translation>
     </message>
     <message>
         <source>The code is right. It is for %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>الرمز صحيح. إنه لـ %1.</translation>
     </message>
     <message numerus="yes">
         <source>Right so far: %n groups.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>صحيح حتى الآن: لا مجموعات (%n).</numerusform>
+            <numerusform>صحيح حتى الآن: مجموعة واحدة (%n).</numerusform>
+            <numerusform>صحيح حتى الآن: مجموعتان (%n).</numerusform>
+            <numerusform>صحيح حتى الآن: %n مجموعات.</numerusform>
+            <numerusform>صحيح حتى الآن: %n مجموعة.</numerusform>
+            <numerusform>صحيح حتى الآن: %n مجموعة.</numerusform>
         </translation>
     </message>
 </context>
@@ -1670,277 +1671,277 @@ Please enter another id</source>
     <name>LicenceManager</name>
     <message>
         <source>The program was used on %1 before, but the clock of this computer says that today is %2. Please set the clock.</source>
-        <translation type="unfinished"></translation>
+        <translation>استُخدم البرنامج من قبل في %1، لكن ساعة هذا الحاسوب تقول إن اليوم هو %2. يرجى ضبط الساعة.</translation>
     </message>
     <message>
         <source>Unlicensed evaluation.</source>
-        <translation type="unfinished"></translation>
+        <translation>نسخة تقييم غير مرخصة.</translation>
     </message>
     <message>
         <source>Unlicensed evaluation. %1</source>
-        <translation type="unfinished"></translation>
+        <translation>نسخة تقييم غير مرخصة. %1</translation>
     </message>
     <message>
         <source>Licensed to %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>مرخص لـ %1.</translation>
     </message>
     <message>
         <source>Licensed to %1, edition %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>مرخص لـ %1، الإصدار %2.</translation>
     </message>
     <message numerus="yes">
         <source>For %n seats.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>بلا مقاعد (%n).</numerusform>
+            <numerusform>لمقعد واحد (%n).</numerusform>
+            <numerusform>لمقعدين (%n).</numerusform>
+            <numerusform>لـ %n مقاعد.</numerusform>
+            <numerusform>لـ %n مقعدًا.</numerusform>
+            <numerusform>لـ %n مقعد.</numerusform>
         </translation>
     </message>
     <message>
         <source>The licence expires today.</source>
-        <translation type="unfinished"></translation>
+        <translation>ينتهي الترخيص اليوم.</translation>
     </message>
     <message numerus="yes">
         <source>The licence expires in %n days.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>ينتهي الترخيص اليوم (%n).</numerusform>
+            <numerusform>ينتهي الترخيص خلال يوم واحد (%n).</numerusform>
+            <numerusform>ينتهي الترخيص خلال يومين (%n).</numerusform>
+            <numerusform>ينتهي الترخيص خلال %n أيام.</numerusform>
+            <numerusform>ينتهي الترخيص خلال %n يومًا.</numerusform>
+            <numerusform>ينتهي الترخيص خلال %n يوم.</numerusform>
         </translation>
     </message>
     <message>
         <source>unlicensed evaluation</source>
-        <translation type="unfinished"></translation>
+        <translation>نسخة تقييم غير مرخصة</translation>
     </message>
     <message>
         <source>licence expires today</source>
-        <translation type="unfinished"></translation>
+        <translation>ينتهي الترخيص اليوم</translation>
     </message>
     <message numerus="yes">
         <source>licence expires in %n days</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>ينتهي الترخيص اليوم (%n)</numerusform>
+            <numerusform>ينتهي الترخيص خلال يوم واحد (%n)</numerusform>
+            <numerusform>ينتهي الترخيص خلال يومين (%n)</numerusform>
+            <numerusform>ينتهي الترخيص خلال %n أيام</numerusform>
+            <numerusform>ينتهي الترخيص خلال %n يومًا</numerusform>
+            <numerusform>ينتهي الترخيص خلال %n يوم</numerusform>
         </translation>
     </message>
     <message>
         <source>Printed with an unlicensed evaluation copy</source>
-        <translation type="unfinished"></translation>
+        <translation>طُبع بنسخة تقييم غير مرخصة</translation>
     </message>
 </context>
 <context>
     <name>LineEdit</name>
     <message>
         <source>Cu&amp;t</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;قص</translation>
     </message>
     <message>
         <source>&amp;Copy</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;نسخ</translation>
     </message>
     <message>
         <source>&amp;Paste</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;لصق</translation>
     </message>
     <message>
         <source>Clear</source>
-        <translation type="unfinished"></translation>
+        <translation>مسح</translation>
     </message>
     <message>
         <source>Select All</source>
-        <translation type="unfinished"></translation>
+        <translation>تحديد الكل</translation>
     </message>
 </context>
 <context>
     <name>ListEditor</name>
     <message>
         <source>Move up</source>
-        <translation type="unfinished"></translation>
+        <translation>نقل إلى الأعلى</translation>
     </message>
     <message>
         <source>Move down</source>
-        <translation type="unfinished"></translation>
+        <translation>نقل إلى الأسفل</translation>
     </message>
 </context>
 <context>
     <name>LockPalette</name>
     <message>
         <source>Property Value Editing</source>
-        <translation type="unfinished"></translation>
+        <translation>تحرير القيم</translation>
     </message>
     <message>
         <source>Position</source>
-        <translation type="unfinished"></translation>
+        <translation>الموضع</translation>
     </message>
     <message>
         <source>Size</source>
-        <translation type="unfinished"></translation>
+        <translation>الحجم</translation>
     </message>
     <message>
         <source>Orientation</source>
-        <translation type="unfinished"></translation>
+        <translation>الاتجاه</translation>
     </message>
     <message>
         <source>Locking</source>
-        <translation type="unfinished"></translation>
+        <translation>القفل</translation>
     </message>
 </context>
 <context>
     <name>MainWindow</name>
     <message>
         <source>Selection</source>
-        <translation type="unfinished"></translation>
+        <translation>التحديد</translation>
     </message>
     <message>
         <source>Place of the mouse pointer</source>
-        <translation type="unfinished"></translation>
+        <translation>مكان مؤشر الفأرة</translation>
     </message>
     <message>
         <source>Zoom</source>
-        <translation type="unfinished"></translation>
+        <translation>التكبير</translation>
     </message>
     <message>
         <source>That could not be done.</source>
-        <translation type="unfinished"></translation>
+        <translation>تعذر فعل ذلك.</translation>
     </message>
     <message>
         <source>%1 %</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 %</translation>
     </message>
     <message>
         <source>&amp;Undo %1</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;تراجع: %1</translation>
     </message>
     <message>
         <source>&amp;Undo</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;تراجع</translation>
     </message>
     <message>
         <source>&amp;Redo %1</source>
-        <translation type="unfinished"></translation>
+        <translation>إ&amp;عادة: %1</translation>
     </message>
     <message>
         <source>&amp;Redo</source>
-        <translation type="unfinished"></translation>
+        <translation>إ&amp;عادة</translation>
     </message>
     <message>
         <source>Nothing selected</source>
-        <translation type="unfinished"></translation>
+        <translation>لا شيء محدد</translation>
     </message>
     <message numerus="yes">
         <source>%Ln selected</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>لا شيء محدد (%Ln)</numerusform>
+            <numerusform>واحدة محددة (%Ln)</numerusform>
+            <numerusform>اثنتان محددتان (%Ln)</numerusform>
+            <numerusform>%Ln محددة</numerusform>
+            <numerusform>%Ln محددة</numerusform>
+            <numerusform>%Ln محددة</numerusform>
         </translation>
     </message>
     <message>
         <source>%1, %2 mm</source>
-        <translation type="unfinished"></translation>
+        <translation>%1، %2 مم</translation>
     </message>
     <message>
         <source>There is no part with the id &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>لا توجد قطعة بالمعرّف &quot;%1&quot;.</translation>
     </message>
 </context>
 <context>
     <name>MessagesPane</name>
     <message>
         <source>Messages</source>
-        <translation type="unfinished"></translation>
+        <translation>الرسائل</translation>
     </message>
     <message>
         <source>There was no message yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>لم تكن هناك رسالة بعد.</translation>
     </message>
     <message>
         <source>Open &amp;Console Window</source>
-        <translation type="unfinished"></translation>
+        <translation>فتح نافذة الو&amp;حدة الطرفية</translation>
     </message>
 </context>
 <context>
     <name>ModelsBrowser</name>
     <message>
         <source>document type declarations are not allowed</source>
-        <translation type="unfinished"></translation>
+        <translation>تصريحات نوع المستند غير مسموح بها</translation>
     </message>
     <message>
         <source>&amp;Add Folder...</source>
-        <translation type="unfinished"></translation>
+        <translation>إ&amp;ضافة مجلد...</translation>
     </message>
     <message>
         <source>&amp;Remove Folder</source>
-        <translation type="unfinished"></translation>
+        <translation>إ&amp;زالة المجلد</translation>
     </message>
     <message>
         <source>&amp;Open</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;فتح</translation>
     </message>
     <message>
         <source>Show the documents of one more folder</source>
-        <translation type="unfinished"></translation>
+        <translation>عرض مستندات مجلد آخر</translation>
     </message>
     <message>
         <source>Show the folder no longer; nothing on the disk is touched</source>
-        <translation type="unfinished"></translation>
+        <translation>التوقف عن عرض المجلد؛ لا يتغير شيء على القرص</translation>
     </message>
     <message>
         <source>Models</source>
-        <translation type="unfinished"></translation>
+        <translation>النماذج</translation>
     </message>
     <message>
         <source>No folder yet. Add one to see its documents here.</source>
-        <translation type="unfinished"></translation>
+        <translation>لا مجلد بعد. أضف واحدًا لترى مستنداته هنا.</translation>
     </message>
     <message>
         <source>Add Folder</source>
-        <translation type="unfinished"></translation>
+        <translation>إضافة مجلد</translation>
     </message>
 </context>
 <context>
     <name>ModelsModel</name>
     <message>
         <source>The folder is not there or cannot be read.</source>
-        <translation type="unfinished"></translation>
+        <translation>المجلد غير موجود أو لا يمكن قراءته.</translation>
     </message>
     <message>
         <source>%1 (no documents)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (لا مستندات)</translation>
     </message>
     <message>
         <source>Cannot be read: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>لا يمكن قراءته: %1</translation>
     </message>
 </context>
 <context>
     <name>MoveGesture</name>
     <message>
         <source>Move part</source>
-        <translation type="unfinished"></translation>
+        <translation>نقل قطعة</translation>
     </message>
     <message numerus="yes">
         <source>Move %n parts</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>لا نقل (%n)</numerusform>
+            <numerusform>نقل قطعة واحدة (%n)</numerusform>
+            <numerusform>نقل قطعتين (%n)</numerusform>
+            <numerusform>نقل %n قطع</numerusform>
+            <numerusform>نقل %n قطعة</numerusform>
+            <numerusform>نقل %n قطعة</numerusform>
         </translation>
     </message>
 </context>
@@ -1948,608 +1949,608 @@ Please enter another id</source>
     <name>NoSelectionPane</name>
     <message>
         <source>Select a part to see and change its properties.</source>
-        <translation type="unfinished"></translation>
+        <translation>حدد قطعة لترى خصائصها وتغيرها.</translation>
     </message>
     <message>
         <source>Scene Properties</source>
-        <translation type="unfinished"></translation>
+        <translation>خصائص المشهد</translation>
     </message>
     <message>
         <source>Shows the properties of the scene on view</source>
-        <translation type="unfinished"></translation>
+        <translation>يعرض خصائص المشهد المعروض</translation>
     </message>
 </context>
 <context>
     <name>ObserverColorPicker</name>
     <message>
         <source>%1, name of the colour</source>
-        <translation type="unfinished"></translation>
+        <translation>%1، اسم اللون</translation>
     </message>
     <message>
         <source>This names no colour.</source>
-        <translation type="unfinished"></translation>
+        <translation>هذا لا يسمي أي لون.</translation>
     </message>
 </context>
 <context>
     <name>ObserverComboBox</name>
     <message>
         <source>true</source>
-        <translation type="unfinished"></translation>
+        <translation>صحيح</translation>
     </message>
     <message>
         <source>false</source>
-        <translation type="unfinished"></translation>
+        <translation>خطأ</translation>
     </message>
 </context>
 <context>
     <name>ObserverLineEdit</name>
     <message>
         <source>This text does not stand for a value of the kind that is needed here.</source>
-        <translation type="unfinished"></translation>
+        <translation>هذا النص لا يمثل قيمة من النوع المطلوب هنا.</translation>
     </message>
 </context>
 <context>
     <name>ObserverPoint</name>
     <message>
         <source>%1, x</source>
-        <translation type="unfinished"></translation>
+        <translation>%1، س</translation>
     </message>
     <message>
         <source>%1, y</source>
-        <translation type="unfinished"></translation>
+        <translation>%1، ص</translation>
     </message>
 </context>
 <context>
     <name>Package</name>
     <message>
         <source>it differs from &quot;%1&quot; only by its extension</source>
-        <translation type="unfinished"></translation>
+        <translation>لا يختلف عن &quot;%1&quot; إلا في امتداده</translation>
     </message>
     <message>
         <source>&lt;%1&gt; has no attribute &quot;%2&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>ليس لـ &lt;%1&gt; سمة &quot;%2&quot;</translation>
     </message>
     <message>
         <source>&lt;%1&gt; cannot stand in &lt;%2&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>لا يمكن لـ &lt;%1&gt; أن يكون داخل &lt;%2&gt;</translation>
     </message>
     <message>
         <source>&lt;%1&gt; cannot have text here</source>
-        <translation type="unfinished"></translation>
+        <translation>لا يمكن أن يكون لـ &lt;%1&gt; نص هنا</translation>
     </message>
     <message>
         <source>the file is larger than 16 MB</source>
-        <translation type="unfinished"></translation>
+        <translation>الملف أكبر من 16 ميغابايت</translation>
     </message>
     <message>
         <source>the elements are nested too deep</source>
-        <translation type="unfinished"></translation>
+        <translation>العناصر متداخلة أعمق من اللازم</translation>
     </message>
     <message>
         <source>document types and entities are not understood</source>
-        <translation type="unfinished"></translation>
+        <translation>أنواع المستندات والكيانات غير مفهومة</translation>
     </message>
     <message>
         <source>&lt;%1&gt; needs a key without blanks</source>
-        <translation type="unfinished"></translation>
+        <translation>يحتاج &lt;%1&gt; إلى مفتاح بلا مسافات</translation>
     </message>
     <message>
         <source>the property &quot;%1&quot; is made by the program itself</source>
-        <translation type="unfinished"></translation>
+        <translation>الخاصية &quot;%1&quot; يصنعها البرنامج نفسه</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is no type of a property</source>
-        <translation type="unfinished"></translation>
+        <translation>&quot;%1&quot; ليس نوع خاصية</translation>
     </message>
     <message>
         <source>the property &quot;%1&quot; is inherited with the type %2</source>
-        <translation type="unfinished"></translation>
+        <translation>الخاصية &quot;%1&quot; موروثة بالنوع %2</translation>
     </message>
     <message>
         <source>a property has only one &lt;%1&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>للخاصية &lt;%1&gt; واحد فقط</translation>
     </message>
     <message>
         <source>the attribute &quot;%1&quot; is no whole number from %2 on: &quot;%3&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>السمة &quot;%1&quot; ليست عددًا صحيحًا ابتداء من %2: &quot;%3&quot;</translation>
     </message>
     <message>
         <source>the attribute &quot;%1&quot; is none of %2: &quot;%3&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>السمة &quot;%1&quot; ليست أيًا من %2: &quot;%3&quot;</translation>
     </message>
     <message>
         <source>there is no resource &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>لا يوجد مورد &quot;%1&quot;</translation>
     </message>
     <message>
         <source>the resource &quot;%1&quot; is of the type %2, not %3</source>
-        <translation type="unfinished"></translation>
+        <translation>المورد &quot;%1&quot; من النوع %2، وليس %3</translation>
     </message>
     <message>
         <source>values of the type %1 have no unit</source>
-        <translation type="unfinished"></translation>
+        <translation>ليس لقيم النوع %1 وحدة</translation>
     </message>
     <message>
         <source>the unit &quot;%1&quot; is not known</source>
-        <translation type="unfinished"></translation>
+        <translation>الوحدة &quot;%1&quot; غير معروفة</translation>
     </message>
     <message>
         <source>the flag &quot;%1&quot; is not known</source>
-        <translation type="unfinished"></translation>
+        <translation>العلامة &quot;%1&quot; غير معروفة</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is no value of the type %2</source>
-        <translation type="unfinished"></translation>
+        <translation>&quot;%1&quot; ليست قيمة من النوع %2</translation>
     </message>
     <message>
         <source>a value of the type %1 is a text</source>
-        <translation type="unfinished"></translation>
+        <translation>قيمة النوع %1 نص</translation>
     </message>
     <message>
         <source>the content is no value of the type %1</source>
-        <translation type="unfinished"></translation>
+        <translation>المحتوى ليس قيمة من النوع %1</translation>
     </message>
     <message>
         <source>the property has a default already</source>
-        <translation type="unfinished"></translation>
+        <translation>للخاصية قيمة افتراضية بالفعل</translation>
     </message>
     <message>
         <source>a default of the type %1 stands in an element &lt;default&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>القيمة الافتراضية من النوع %1 تكون في عنصر &lt;default&gt;</translation>
     </message>
     <message>
         <source>values of the type %1 have no format</source>
-        <translation type="unfinished"></translation>
+        <translation>ليس لقيم النوع %1 تنسيق</translation>
     </message>
     <message>
         <source>the unit &quot;%1&quot; does not measure the same as &quot;%2&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>الوحدة &quot;%1&quot; لا تقيس ما تقيسه &quot;%2&quot;</translation>
     </message>
     <message>
         <source>a validator needs a kind</source>
-        <translation type="unfinished"></translation>
+        <translation>تحتاج قاعدة التحقق إلى نوع</translation>
     </message>
     <message>
         <source>values of the type %1 have no range</source>
-        <translation type="unfinished"></translation>
+        <translation>ليس لقيم النوع %1 مجال</translation>
     </message>
     <message>
         <source>the minimum %1 is greater than the maximum %2</source>
-        <translation type="unfinished"></translation>
+        <translation>الحد الأدنى %1 أكبر من الحد الأقصى %2</translation>
     </message>
     <message>
         <source>values of the type %1 cannot be chosen from a set</source>
-        <translation type="unfinished"></translation>
+        <translation>قيم النوع %1 لا يمكن اختيارها من مجموعة</translation>
     </message>
     <message>
         <source>the set is empty</source>
-        <translation type="unfinished"></translation>
+        <translation>المجموعة فارغة</translation>
     </message>
     <message>
         <source>only texts have a pattern</source>
-        <translation type="unfinished"></translation>
+        <translation>للنصوص وحدها نمط</translation>
     </message>
     <message>
         <source>the expression &quot;%1&quot; is faulty: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>التعبير &quot;%1&quot; غير صحيح: %2</translation>
     </message>
     <message>
         <source>it is empty</source>
-        <translation type="unfinished"></translation>
+        <translation>إنه فارغ</translation>
     </message>
     <message>
         <source>only resources are chosen from resources</source>
-        <translation type="unfinished"></translation>
+        <translation>الموارد وحدها تُختار من موارد</translation>
     </message>
     <message>
         <source>the property &quot;%1&quot; does not allow the value &quot;%2&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>الخاصية &quot;%1&quot; لا تسمح بالقيمة &quot;%2&quot;</translation>
     </message>
     <message>
         <source>the file cannot be read: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>لا يمكن قراءة الملف: %1</translation>
     </message>
     <message>
         <source>this is no package but &lt;%1&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>هذه ليست حزمة بل &lt;%1&gt;</translation>
     </message>
     <message>
         <source>the attribute &quot;format&quot; is missing</source>
-        <translation type="unfinished"></translation>
+        <translation>السمة &quot;format&quot; مفقودة</translation>
     </message>
     <message>
         <source>the package has the format %1, this program understands %2</source>
-        <translation type="unfinished"></translation>
+        <translation>تنسيق الحزمة %1، وهذا البرنامج يفهم %2</translation>
     </message>
     <message>
         <source>a package needs a name of letters, digits, &apos;-&apos; and &apos;_&apos;</source>
-        <translation type="unfinished"></translation>
+        <translation>تحتاج الحزمة إلى اسم من حروف وأرقام و&apos;-&apos; و&apos;_&apos;</translation>
     </message>
     <message>
         <source>the package &quot;%1&quot; must stand in a folder of that name</source>
-        <translation type="unfinished"></translation>
+        <translation>يجب أن تكون الحزمة &quot;%1&quot; في مجلد بهذا الاسم</translation>
     </message>
     <message>
         <source>no package can have the name &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>لا يمكن لأي حزمة أن تحمل الاسم &quot;%1&quot;</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is no class id such as &quot;electronics/led&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>&quot;%1&quot; ليس معرّف صنف مثل &quot;electronics/led&quot;</translation>
     </message>
     <message>
         <source>the class &quot;%1&quot; is defined twice</source>
-        <translation type="unfinished"></translation>
+        <translation>الصنف &quot;%1&quot; معرّف مرتين</translation>
     </message>
     <message>
         <source>another package defines the class &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>حزمة أخرى تعرّف الصنف &quot;%1&quot;</translation>
     </message>
     <message>
         <source>there is no class %1</source>
-        <translation type="unfinished"></translation>
+        <translation>لا يوجد صنف %1</translation>
     </message>
     <message>
         <source>the class %1 needs itself as a base or subpart</source>
-        <translation type="unfinished"></translation>
+        <translation>يحتاج الصنف %1 إلى نفسه كأساس أو قطعة فرعية</translation>
     </message>
     <message>
         <source>the classes are nested too deep</source>
-        <translation type="unfinished"></translation>
+        <translation>الأصناف متداخلة أعمق من اللازم</translation>
     </message>
     <message>
         <source>a class without a base needs a kind</source>
-        <translation type="unfinished"></translation>
+        <translation>يحتاج الصنف بلا أساس إلى نوع</translation>
     </message>
     <message>
         <source>the base %1 is of another kind</source>
-        <translation type="unfinished"></translation>
+        <translation>الأساس %1 من نوع آخر</translation>
     </message>
     <message>
         <source>domains have ids such as &quot;electronics/*&quot;, other classes have not</source>
-        <translation type="unfinished"></translation>
+        <translation>للمجالات معرّفات مثل &quot;electronics/*&quot;، وليس للأصناف الأخرى</translation>
     </message>
     <message>
         <source>the class %1 is no pop-up</source>
-        <translation type="unfinished"></translation>
+        <translation>الصنف %1 ليس نافذة منبثقة</translation>
     </message>
     <message>
         <source>only parts have a pop-up</source>
-        <translation type="unfinished"></translation>
+        <translation>للقطع وحدها نافذة منبثقة</translation>
     </message>
     <message>
         <source>a class without a pop-up cannot show its pane</source>
-        <translation type="unfinished"></translation>
+        <translation>صنف بلا نافذة منبثقة لا يمكنه عرض لوحها</translation>
     </message>
     <message>
         <source>the property &quot;%1&quot; is given twice</source>
-        <translation type="unfinished"></translation>
+        <translation>الخاصية &quot;%1&quot; معطاة مرتين</translation>
     </message>
     <message>
         <source>no base of the class has the property &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>ليس لأي أساس للصنف الخاصية &quot;%1&quot;</translation>
     </message>
     <message>
         <source>the name of the form is missing</source>
-        <translation type="unfinished"></translation>
+        <translation>اسم النموذج مفقود</translation>
     </message>
     <message>
         <source>a substitution needs a string and either a resource or a text</source>
-        <translation type="unfinished"></translation>
+        <translation>يحتاج الاستبدال إلى سلسلة وإما إلى مورد أو إلى نص</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is substituted twice</source>
-        <translation type="unfinished"></translation>
+        <translation>&quot;%1&quot; مستبدل مرتين</translation>
     </message>
     <message>
         <source>only parts and subparts have subparts</source>
-        <translation type="unfinished"></translation>
+        <translation>للقطع والقطع الفرعية وحدها قطع فرعية</translation>
     </message>
     <message>
         <source>there are two rules for the same role</source>
-        <translation type="unfinished"></translation>
+        <translation>توجد قاعدتان للدور نفسه</translation>
     </message>
     <message>
         <source>the class of the subpart is missing</source>
-        <translation type="unfinished"></translation>
+        <translation>صنف القطعة الفرعية مفقود</translation>
     </message>
     <message>
         <source>no subpart can be of the class %1</source>
-        <translation type="unfinished"></translation>
+        <translation>لا يمكن لقطعة فرعية أن تكون من الصنف %1</translation>
     </message>
     <message>
         <source>the class %1 has no property &quot;%2&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>ليس للصنف %1 خاصية &quot;%2&quot;</translation>
     </message>
     <message>
         <source>a rule for subparts needs one role</source>
-        <translation type="unfinished"></translation>
+        <translation>تحتاج قاعدة القطع الفرعية إلى دور واحد</translation>
     </message>
     <message>
         <source>there is no class &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>لا يوجد صنف &quot;%1&quot;</translation>
     </message>
     <message>
         <source>there is a package &quot;%1&quot; already</source>
-        <translation type="unfinished"></translation>
+        <translation>توجد حزمة &quot;%1&quot; بالفعل</translation>
     </message>
     <message>
         <source>%1 cannot be written: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>لا يمكن كتابة %1: %2</translation>
     </message>
     <message>
         <source>the class belongs to no domain</source>
-        <translation type="unfinished"></translation>
+        <translation>الصنف لا ينتمي إلى أي مجال</translation>
     </message>
     <message>
         <source>there is a class &quot;%1&quot; already</source>
-        <translation type="unfinished"></translation>
+        <translation>يوجد صنف &quot;%1&quot; بالفعل</translation>
     </message>
     <message>
         <source>the packages &quot;%1&quot; and &quot;%2&quot; would need each other</source>
-        <translation type="unfinished"></translation>
+        <translation>ستحتاج الحزمتان &quot;%1&quot; و&quot;%2&quot; إحداهما إلى الأخرى</translation>
     </message>
     <message>
         <source>the folder %1 cannot be made</source>
-        <translation type="unfinished"></translation>
+        <translation>لا يمكن إنشاء المجلد %1</translation>
     </message>
     <message>
         <source>the package &quot;%1&quot; is not the user&apos;s</source>
-        <translation type="unfinished"></translation>
+        <translation>الحزمة &quot;%1&quot; ليست حزمة المستخدم</translation>
     </message>
 </context>
 <context>
     <name>PageSetupDialog</name>
     <message>
         <source>Page Setup</source>
-        <translation type="unfinished"></translation>
+        <translation>إعداد الصفحة</translation>
     </message>
     <message>
         <source>&amp;Margins (mm):</source>
-        <translation type="unfinished"></translation>
+        <translation>اله&amp;وامش (مم):</translation>
     </message>
     <message>
         <source>Top</source>
-        <translation type="unfinished"></translation>
+        <translation>أعلى</translation>
     </message>
     <message>
         <source>Left</source>
-        <translation type="unfinished"></translation>
+        <translation>يسار</translation>
     </message>
     <message>
         <source>Bottom</source>
-        <translation type="unfinished"></translation>
+        <translation>أسفل</translation>
     </message>
     <message>
         <source>Right</source>
-        <translation type="unfinished"></translation>
+        <translation>يمين</translation>
     </message>
     <message>
         <source>Page &amp;Size:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;حجم الصفحة:</translation>
     </message>
     <message>
         <source>O&amp;rientation:</source>
-        <translation type="unfinished"></translation>
+        <translation>ا&amp;تجاه الصفحة:</translation>
     </message>
     <message>
         <source>Scale to Page &amp;Width:</source>
-        <translation type="unfinished"></translation>
+        <translation>ملاءمة &amp;عرض الصفحة:</translation>
     </message>
     <message>
         <source> %</source>
-        <translation type="unfinished"></translation>
+        <translation> %</translation>
     </message>
     <message>
         <source>Scale &amp;Factor:</source>
-        <translation type="unfinished"></translation>
+        <translation>معامل الت&amp;كبير:</translation>
     </message>
     <message>
         <source>The first page with its margins</source>
-        <translation type="unfinished"></translation>
+        <translation>الصفحة الأولى بهوامشها</translation>
     </message>
     <message>
         <source>&amp;Ok</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;موافق</translation>
     </message>
     <message>
         <source>&amp;Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>إ&amp;لغاء</translation>
     </message>
     <message>
         <source>%1 margin in millimetres</source>
-        <translation type="unfinished"></translation>
+        <translation>الهامش: %1، بالمليمتر</translation>
     </message>
     <message>
         <source>Portrait</source>
-        <translation type="unfinished"></translation>
+        <translation>طولي</translation>
     </message>
     <message>
         <source>Landscape</source>
-        <translation type="unfinished"></translation>
+        <translation>عرضي</translation>
     </message>
     <message>
         <source>A0 (841 x 1189 mm)</source>
-        <translation type="unfinished"></translation>
+        <translation>A0 (841 x 1189 مم)</translation>
     </message>
     <message>
         <source>A1 (594 x 841 mm)</source>
-        <translation type="unfinished"></translation>
+        <translation>A1 (594 x 841 مم)</translation>
     </message>
     <message>
         <source>A2 (420 x 594 mm)</source>
-        <translation type="unfinished"></translation>
+        <translation>A2 (420 x 594 مم)</translation>
     </message>
     <message>
         <source>A3 (297 x 420 mm)</source>
-        <translation type="unfinished"></translation>
+        <translation>A3 (297 x 420 مم)</translation>
     </message>
     <message>
         <source>A4 (210 x 297 mm)</source>
-        <translation type="unfinished"></translation>
+        <translation>A4 (210 x 297 مم)</translation>
     </message>
     <message>
         <source>A5 (148 x 210 mm)</source>
-        <translation type="unfinished"></translation>
+        <translation>A5 (148 x 210 مم)</translation>
     </message>
     <message>
         <source>A6 (105 x 148 mm)</source>
-        <translation type="unfinished"></translation>
+        <translation>A6 (105 x 148 مم)</translation>
     </message>
     <message>
         <source>A7 (74 x 105 mm)</source>
-        <translation type="unfinished"></translation>
+        <translation>A7 (74 x 105 مم)</translation>
     </message>
     <message>
         <source>A8 (52 x 74 mm)</source>
-        <translation type="unfinished"></translation>
+        <translation>A8 (52 x 74 مم)</translation>
     </message>
     <message>
         <source>A9 (37 x 52 mm)</source>
-        <translation type="unfinished"></translation>
+        <translation>A9 (37 x 52 مم)</translation>
     </message>
     <message>
         <source>B0 (1000 x 1414 mm)</source>
-        <translation type="unfinished"></translation>
+        <translation>B0 (1000 x 1414 مم)</translation>
     </message>
     <message>
         <source>B1 (707 x 1000 mm)</source>
-        <translation type="unfinished"></translation>
+        <translation>B1 (707 x 1000 مم)</translation>
     </message>
     <message>
         <source>B2 (500 x 707 mm)</source>
-        <translation type="unfinished"></translation>
+        <translation>B2 (500 x 707 مم)</translation>
     </message>
     <message>
         <source>B3 (353 x 500 mm)</source>
-        <translation type="unfinished"></translation>
+        <translation>B3 (353 x 500 مم)</translation>
     </message>
     <message>
         <source>B4 (250 x 353 mm)</source>
-        <translation type="unfinished"></translation>
+        <translation>B4 (250 x 353 مم)</translation>
     </message>
     <message>
         <source>B5 (176 x 250 mm)</source>
-        <translation type="unfinished"></translation>
+        <translation>B5 (176 x 250 مم)</translation>
     </message>
     <message>
         <source>B6 (125 x 176 mm)</source>
-        <translation type="unfinished"></translation>
+        <translation>B6 (125 x 176 مم)</translation>
     </message>
     <message>
         <source>B7 (88 x 125 mm)</source>
-        <translation type="unfinished"></translation>
+        <translation>B7 (88 x 125 مم)</translation>
     </message>
     <message>
         <source>B8 (62 x 88 mm)</source>
-        <translation type="unfinished"></translation>
+        <translation>B8 (62 x 88 مم)</translation>
     </message>
     <message>
         <source>B9 (44 x 62 mm)</source>
-        <translation type="unfinished"></translation>
+        <translation>B9 (44 x 62 مم)</translation>
     </message>
     <message>
         <source>B10 (31 x 44 mm)</source>
-        <translation type="unfinished"></translation>
+        <translation>B10 (31 x 44 مم)</translation>
     </message>
     <message>
         <source>C5E (163 x 229 mm)</source>
-        <translation type="unfinished"></translation>
+        <translation>C5E (163 x 229 مم)</translation>
     </message>
     <message>
         <source>DLE (110 x 220 mm)</source>
-        <translation type="unfinished"></translation>
+        <translation>DLE (110 x 220 مم)</translation>
     </message>
     <message>
         <source>Executive (191 x 254 mm)</source>
-        <translation type="unfinished"></translation>
+        <translation>Executive (191 x 254 مم)</translation>
     </message>
     <message>
         <source>Folio (210 x 330 mm)</source>
-        <translation type="unfinished"></translation>
+        <translation>Folio (210 x 330 مم)</translation>
     </message>
     <message>
         <source>Ledger (432 x 279 mm)</source>
-        <translation type="unfinished"></translation>
+        <translation>Ledger (432 x 279 مم)</translation>
     </message>
     <message>
         <source>Legal (216 x 356 mm)</source>
-        <translation type="unfinished"></translation>
+        <translation>Legal (216 x 356 مم)</translation>
     </message>
     <message>
         <source>Letter (216 x 279 mm)</source>
-        <translation type="unfinished"></translation>
+        <translation>Letter (216 x 279 مم)</translation>
     </message>
     <message>
         <source>Tabloid (279 x 432 mm)</source>
-        <translation type="unfinished"></translation>
+        <translation>Tabloid (279 x 432 مم)</translation>
     </message>
     <message>
         <source>Envelope #10 (105 x 241 mm)</source>
-        <translation type="unfinished"></translation>
+        <translation>ظرف #10 (105 x 241 مم)</translation>
     </message>
 </context>
 <context>
     <name>PaletteBoxSection</name>
     <message>
         <source>Section</source>
-        <translation type="unfinished"></translation>
+        <translation>قسم</translation>
     </message>
 </context>
 <context>
     <name>PaletteButtonBar</name>
     <message>
         <source>expanded</source>
-        <translation type="unfinished"></translation>
+        <translation>مبسوط</translation>
     </message>
     <message>
         <source>collapsed</source>
-        <translation type="unfinished"></translation>
+        <translation>مطوي</translation>
     </message>
 </context>
 <context>
     <name>Palettes</name>
     <message>
         <source>Side Pane</source>
-        <translation type="unfinished"></translation>
+        <translation>اللوح الجانبي</translation>
     </message>
     <message>
         <source>I&amp;nspector...</source>
-        <translation type="unfinished"></translation>
+        <translation>ال&amp;مفتش...</translation>
     </message>
     <message>
         <source>Show the tree of everything in the document</source>
-        <translation type="unfinished"></translation>
+        <translation>عرض شجرة كل ما في المستند</translation>
     </message>
 </context>
 <context>
     <name>PanelTopArea</name>
     <message>
         <source>Name</source>
-        <translation type="unfinished"></translation>
+        <translation>الاسم</translation>
     </message>
     <message>
         <source>A short name without blanks by which other things refer to it.</source>
-        <translation type="unfinished"></translation>
+        <translation>اسم قصير بلا مسافات تشير به الأشياء الأخرى إلى القطعة.</translation>
     </message>
     <message>
         <source>Nothing selected</source>
-        <translation type="unfinished"></translation>
+        <translation>لا شيء محدد</translation>
     </message>
     <message>
         <source>%1 × %2</source>
         <extracomment>A number of parts of one kind: &quot;3 × LED&quot;</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1 × %2</translation>
     </message>
     <message numerus="yes">
         <source>%Ln parts</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>لا قطع (%Ln)</numerusform>
+            <numerusform>قطعة واحدة (%Ln)</numerusform>
+            <numerusform>قطعتان (%Ln)</numerusform>
+            <numerusform>%Ln قطع</numerusform>
+            <numerusform>%Ln قطعة</numerusform>
+            <numerusform>%Ln قطعة</numerusform>
         </translation>
     </message>
 </context>
@@ -2557,729 +2558,729 @@ Please enter another id</source>
     <name>PartEditor</name>
     <message>
         <source>Select the two parts that it shall connect first.</source>
-        <translation type="unfinished"></translation>
+        <translation>حدد أولًا القطعتين المطلوب وصلهما.</translation>
     </message>
     <message>
         <source>What was dropped is not a part.</source>
-        <translation type="unfinished"></translation>
+        <translation>ما أُسقط ليس قطعة.</translation>
     </message>
 </context>
 <context>
     <name>PartHelp</name>
     <message>
         <source>Group: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>المجموعة: %1</translation>
     </message>
     <message>
         <source>About %1</source>
-        <translation type="unfinished"></translation>
+        <translation>حول %1</translation>
     </message>
 </context>
 <context>
     <name>PartIdLineEdit</name>
     <message numerus="yes">
         <source>Rename %n parts</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>لا إعادة تسمية (%n)</numerusform>
+            <numerusform>إعادة تسمية قطعة واحدة (%n)</numerusform>
+            <numerusform>إعادة تسمية قطعتين (%n)</numerusform>
+            <numerusform>إعادة تسمية %n قطع</numerusform>
+            <numerusform>إعادة تسمية %n قطعة</numerusform>
+            <numerusform>إعادة تسمية %n قطعة</numerusform>
         </translation>
     </message>
     <message>
         <source>There is one number in an id: write # once.</source>
-        <translation type="unfinished"></translation>
+        <translation>في المعرّف رقم واحد: اكتب # مرة واحدة.</translation>
     </message>
     <message>
         <source>...</source>
-        <translation type="unfinished"></translation>
+        <translation>...</translation>
     </message>
 </context>
 <context>
     <name>PartsModel</name>
     <message>
         <source>Package: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>الحزمة: %1</translation>
     </message>
     <message>
         <source>Key stage: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>المستوى: %1</translation>
     </message>
 </context>
 <context>
     <name>PartsTree</name>
     <message>
         <source>Search parts</source>
-        <translation type="unfinished"></translation>
+        <translation>البحث عن قطع</translation>
     </message>
     <message>
         <source>Parts</source>
-        <translation type="unfinished"></translation>
+        <translation>القطع</translation>
     </message>
     <message>
         <source>There are no parts.</source>
-        <translation type="unfinished"></translation>
+        <translation>لا توجد قطع.</translation>
     </message>
     <message>
         <source>No part matches the search.</source>
-        <translation type="unfinished"></translation>
+        <translation>لا قطعة تطابق البحث.</translation>
     </message>
 </context>
 <context>
     <name>PerfMeter</name>
     <message>
         <source>Performance</source>
-        <translation type="unfinished"></translation>
+        <translation>الأداء</translation>
     </message>
 </context>
 <context>
     <name>PlusMinusButton</name>
     <message>
         <source>Add</source>
-        <translation type="unfinished"></translation>
+        <translation>إضافة</translation>
     </message>
     <message>
         <source>Remove</source>
-        <translation type="unfinished"></translation>
+        <translation>إزالة</translation>
     </message>
 </context>
 <context>
     <name>Preferences</name>
     <message>
         <source>As each property says</source>
-        <translation type="unfinished"></translation>
+        <translation>كما تقول كل خاصية</translation>
     </message>
     <message>
         <source>Millimetres</source>
-        <translation type="unfinished"></translation>
+        <translation>مليمترات</translation>
     </message>
     <message>
         <source>Centimetres</source>
-        <translation type="unfinished"></translation>
+        <translation>سنتيمترات</translation>
     </message>
     <message>
         <source>Inches</source>
-        <translation type="unfinished"></translation>
+        <translation>بوصات</translation>
     </message>
     <message>
         <source>The crash report only</source>
-        <translation type="unfinished"></translation>
+        <translation>تقرير الانهيار فقط</translation>
     </message>
     <message>
         <source>Standard output</source>
-        <translation type="unfinished"></translation>
+        <translation>الخرج القياسي</translation>
     </message>
     <message>
         <source>Standard error</source>
-        <translation type="unfinished"></translation>
+        <translation>خرج الأخطاء القياسي</translation>
     </message>
     <message>
         <source>A file (velmor.log)</source>
-        <translation type="unfinished"></translation>
+        <translation>ملف (velmor.log)</translation>
     </message>
     <message>
         <source>A window</source>
-        <translation type="unfinished"></translation>
+        <translation>نافذة</translation>
     </message>
     <message>
         <source>Nowhere</source>
-        <translation type="unfinished"></translation>
+        <translation>لا مكان</translation>
     </message>
     <message>
         <source>The system&apos;s</source>
-        <translation type="unfinished"></translation>
+        <translation>لغة النظام</translation>
     </message>
     <message>
         <source>Preferences</source>
-        <translation type="unfinished"></translation>
+        <translation>التفضيلات</translation>
     </message>
     <message>
         <source>Takes effect when the program starts again.</source>
-        <translation type="unfinished"></translation>
+        <translation>يسري عند تشغيل البرنامج من جديد.</translation>
     </message>
     <message>
         <source>&amp;Language:</source>
-        <translation type="unfinished"></translation>
+        <translation>ال&amp;لغة:</translation>
     </message>
     <message>
         <source>For documents that are opened from now on.</source>
-        <translation type="unfinished"></translation>
+        <translation>للمستندات التي تُفتح من الآن فصاعدًا.</translation>
     </message>
     <message>
         <source>Show lengths &amp;in:</source>
-        <translation type="unfinished"></translation>
+        <translation>عرض الأ&amp;طوال بوحدة:</translation>
     </message>
     <message>
         <source>All</source>
-        <translation type="unfinished"></translation>
+        <translation>الكل</translation>
     </message>
     <message>
         <source>Steps kept for &amp;undo:</source>
-        <translation type="unfinished"></translation>
+        <translation>خطوات ال&amp;تراجع المحفوظة:</translation>
     </message>
     <message>
         <source>The &amp;wheel zooms scenes (with Ctrl it scrolls them)</source>
-        <translation type="unfinished"></translation>
+        <translation>ع&amp;جلة الفأرة تكبر المشاهد (ومع Ctrl تمررها)</translation>
     </message>
     <message>
         <source>&amp;Messages go to:</source>
-        <translation type="unfinished"></translation>
+        <translation>ال&amp;رسائل تذهب إلى:</translation>
     </message>
     <message>
         <source>The preferences hold until the program ends: they cannot be kept.</source>
-        <translation type="unfinished"></translation>
+        <translation>تبقى التفضيلات حتى ينتهي البرنامج: لا يمكن حفظها.</translation>
     </message>
 </context>
 <context>
     <name>PrintCommand</name>
     <message>
         <source>There is nothing to print, or the margins leave no room on the paper.</source>
-        <translation type="unfinished"></translation>
+        <translation>لا يوجد ما يُطبع، أو أن الهوامش لا تترك مكانًا على الورق.</translation>
     </message>
     <message numerus="yes">
         <source>At this scale the document needs %n pages; no more than %1 are exported.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>بهذا المقياس لا يحتاج المستند صفحات (%n)؛ لا يُصدَّر أكثر من %1.</numerusform>
+            <numerusform>بهذا المقياس يحتاج المستند صفحة واحدة (%n)؛ لا يُصدَّر أكثر من %1.</numerusform>
+            <numerusform>بهذا المقياس يحتاج المستند صفحتين (%n)؛ لا يُصدَّر أكثر من %1.</numerusform>
+            <numerusform>بهذا المقياس يحتاج المستند %n صفحات؛ لا يُصدَّر أكثر من %1.</numerusform>
+            <numerusform>بهذا المقياس يحتاج المستند %n صفحة؛ لا يُصدَّر أكثر من %1.</numerusform>
+            <numerusform>بهذا المقياس يحتاج المستند %n صفحة؛ لا يُصدَّر أكثر من %1.</numerusform>
         </translation>
     </message>
     <message>
         <source>%1 cannot be written: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>لا يمكن كتابة %1: %2</translation>
     </message>
 </context>
 <context>
     <name>Printing</name>
     <message>
         <source>Untitled</source>
-        <translation type="unfinished"></translation>
+        <translation>بلا عنوان</translation>
     </message>
     <message>
         <source>The document could not be printed.</source>
-        <translation type="unfinished"></translation>
+        <translation>تعذرت طباعة المستند.</translation>
     </message>
     <message>
         <source>The printer did not take the pages.</source>
-        <translation type="unfinished"></translation>
+        <translation>لم تقبل الطابعة الصفحات.</translation>
     </message>
     <message>
         <source>Export to PDF</source>
-        <translation type="unfinished"></translation>
+        <translation>تصدير إلى PDF</translation>
     </message>
     <message>
         <source>PDF files (*.pdf)</source>
-        <translation type="unfinished"></translation>
+        <translation>ملفات PDF (*.pdf)</translation>
     </message>
     <message>
         <source>Exported %1</source>
-        <translation type="unfinished"></translation>
+        <translation>صُدِّر %1</translation>
     </message>
     <message>
         <source>%1 could not be written.</source>
-        <translation type="unfinished"></translation>
+        <translation>تعذرت كتابة %1.</translation>
     </message>
     <message>
         <source>Export to SVG</source>
-        <translation type="unfinished"></translation>
+        <translation>تصدير إلى SVG</translation>
     </message>
     <message>
         <source>SVG drawings (*.svg)</source>
-        <translation type="unfinished"></translation>
+        <translation>رسوم SVG (*.svg)</translation>
     </message>
 </context>
 <context>
     <name>ProductPackage</name>
     <message>
         <source>All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>كل الملفات (*)</translation>
     </message>
     <message>
         <source>Models (*.%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>النماذج (*.%1)</translation>
     </message>
 </context>
 <context>
     <name>PropPalette</name>
     <message>
         <source>Properties</source>
-        <translation type="unfinished"></translation>
+        <translation>الخصائص</translation>
     </message>
     <message>
         <source>Multiple parts selected</source>
-        <translation type="unfinished"></translation>
+        <translation>عدة قطع محددة</translation>
     </message>
     <message>
         <source>This part has no properties</source>
-        <translation type="unfinished"></translation>
+        <translation>ليس لهذه القطعة خصائص</translation>
     </message>
     <message>
         <source>Scene Properties</source>
-        <translation type="unfinished"></translation>
+        <translation>خصائص المشهد</translation>
     </message>
 </context>
 <context>
     <name>PropertyChoiceModel</name>
     <message>
         <source>The property is not there any more.</source>
-        <translation type="unfinished"></translation>
+        <translation>لم تعد الخاصية موجودة.</translation>
     </message>
     <message>
         <source>Part</source>
-        <translation type="unfinished"></translation>
+        <translation>القطعة</translation>
     </message>
     <message>
         <source>Property</source>
-        <translation type="unfinished"></translation>
+        <translation>الخاصية</translation>
     </message>
     <message>
         <source>Type</source>
-        <translation type="unfinished"></translation>
+        <translation>النوع</translation>
     </message>
     <message>
         <source>Value</source>
-        <translation type="unfinished"></translation>
+        <translation>القيمة</translation>
     </message>
     <message>
         <source>Link</source>
-        <translation type="unfinished"></translation>
+        <translation>الارتباط</translation>
     </message>
     <message>
         <source>Can be linked</source>
-        <translation type="unfinished"></translation>
+        <translation>قابلة للربط</translation>
     </message>
     <message>
         <source>Linked</source>
-        <translation type="unfinished"></translation>
+        <translation>مرتبطة</translation>
     </message>
     <message>
         <source>Possible</source>
-        <translation type="unfinished"></translation>
+        <translation>ممكن</translation>
     </message>
 </context>
 <context>
     <name>PropertyFilter</name>
     <message>
         <source>One of the properties is gone.</source>
-        <translation type="unfinished"></translation>
+        <translation>لم تعد إحدى الخاصيتين موجودة.</translation>
     </message>
     <message>
         <source>A property cannot follow itself.</source>
-        <translation type="unfinished"></translation>
+        <translation>لا يمكن للخاصية أن تتبع نفسها.</translation>
     </message>
     <message>
         <source>The properties belong to different documents.</source>
-        <translation type="unfinished"></translation>
+        <translation>الخاصيتان تنتميان إلى مستندين مختلفين.</translation>
     </message>
     <message>
         <source>This property cannot be followed.</source>
-        <translation type="unfinished"></translation>
+        <translation>لا يمكن تتبع هذه الخاصية.</translation>
     </message>
     <message>
         <source>The property is of another type.</source>
-        <translation type="unfinished"></translation>
+        <translation>الخاصية من نوع آخر.</translation>
     </message>
     <message>
         <source>The property follows this one already.</source>
-        <translation type="unfinished"></translation>
+        <translation>الخاصية تتبع هذه بالفعل.</translation>
     </message>
 </context>
 <context>
     <name>PropertyListBox</name>
     <message>
         <source>Search</source>
-        <translation type="unfinished"></translation>
+        <translation>بحث</translation>
     </message>
     <message>
         <source>Search for a property</source>
-        <translation type="unfinished"></translation>
+        <translation>البحث عن خاصية</translation>
     </message>
     <message>
         <source>Part whose properties are listed</source>
-        <translation type="unfinished"></translation>
+        <translation>القطعة التي تُسرد خصائصها</translation>
     </message>
     <message>
         <source>Link</source>
-        <translation type="unfinished"></translation>
+        <translation>الارتباط</translation>
     </message>
     <message>
         <source>Detach</source>
-        <translation type="unfinished"></translation>
+        <translation>فصل</translation>
     </message>
     <message>
         <source>All parts</source>
-        <translation type="unfinished"></translation>
+        <translation>كل القطع</translation>
     </message>
     <message>
         <source>Follows %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>تتبع %1: %2</translation>
     </message>
 </context>
 <context>
     <name>PropertyTable</name>
     <message>
         <source>Filter properties</source>
-        <translation type="unfinished"></translation>
+        <translation>ترشيح الخصائص</translation>
     </message>
     <message>
         <source>Properties</source>
-        <translation type="unfinished"></translation>
+        <translation>الخصائص</translation>
     </message>
     <message>
         <source>&amp;Copy</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;نسخ</translation>
     </message>
     <message>
         <source>Copy &amp;All</source>
-        <translation type="unfinished"></translation>
+        <translation>نسخ ال&amp;كل</translation>
     </message>
 </context>
 <context>
     <name>PropertyTableModel</name>
     <message>
         <source>Key</source>
-        <translation type="unfinished"></translation>
+        <translation>المفتاح</translation>
     </message>
     <message>
         <source>Label</source>
-        <translation type="unfinished"></translation>
+        <translation>العنوان</translation>
     </message>
     <message>
         <source>Type</source>
-        <translation type="unfinished"></translation>
+        <translation>النوع</translation>
     </message>
     <message>
         <source>Value</source>
-        <translation type="unfinished"></translation>
+        <translation>القيمة</translation>
     </message>
     <message>
         <source>Unit</source>
-        <translation type="unfinished"></translation>
+        <translation>الوحدة</translation>
     </message>
     <message>
         <source>Flags</source>
-        <translation type="unfinished"></translation>
+        <translation>العلامات</translation>
     </message>
     <message>
         <source>Follows</source>
-        <translation type="unfinished"></translation>
+        <translation>تتبع</translation>
     </message>
 </context>
 <context>
     <name>ProxyCommands</name>
     <message>
         <source>Link of %1</source>
-        <translation type="unfinished"></translation>
+        <translation>ربط %1</translation>
     </message>
     <message>
         <source>One of the properties is not there any more.</source>
-        <translation type="unfinished"></translation>
+        <translation>لم تعد إحدى الخاصيتين موجودة.</translation>
     </message>
     <message>
         <source>A property that the program works out cannot follow another.</source>
-        <translation type="unfinished"></translation>
+        <translation>الخاصية التي يحسبها البرنامج لا يمكنها أن تتبع غيرها.</translation>
     </message>
     <message>
         <source>Detaching of %1</source>
-        <translation type="unfinished"></translation>
+        <translation>فصل %1</translation>
     </message>
     <message>
         <source>The property is not there any more.</source>
-        <translation type="unfinished"></translation>
+        <translation>لم تعد الخاصية موجودة.</translation>
     </message>
 </context>
 <context>
     <name>QXmlStream</name>
     <message>
         <source>Encountered incorrectly encoded content.</source>
-        <translation type="unfinished"></translation>
+        <translation>صودف محتوى بترميز غير صحيح.</translation>
     </message>
 </context>
 <context>
     <name>QtColorPicker</name>
     <message>
         <source>Different colours</source>
-        <translation type="unfinished"></translation>
+        <translation>ألوان مختلفة</translation>
     </message>
 </context>
 <context>
     <name>RecentFiles</name>
     <message>
         <source>No recent files</source>
-        <translation type="unfinished"></translation>
+        <translation>لا ملفات أخيرة</translation>
     </message>
 </context>
 <context>
     <name>ReflectCommand</name>
     <message>
         <source>Reflection</source>
-        <translation type="unfinished"></translation>
+        <translation>انعكاس</translation>
     </message>
     <message>
         <source>Removal of a reflection</source>
-        <translation type="unfinished"></translation>
+        <translation>إزالة انعكاس</translation>
     </message>
     <message>
         <source>There is no such part, or no place for the reflection.</source>
-        <translation type="unfinished"></translation>
+        <translation>لا توجد قطعة كهذه، أو لا مكان للانعكاس.</translation>
     </message>
     <message>
         <source>A reflection stands in a scene or a pop-up.</source>
-        <translation type="unfinished"></translation>
+        <translation>يكون الانعكاس في مشهد أو نافذة منبثقة.</translation>
     </message>
     <message>
         <source>There is no such reflection.</source>
-        <translation type="unfinished"></translation>
+        <translation>لا يوجد انعكاس كهذا.</translation>
     </message>
     <message>
         <source>The part has nothing of the kind to reflect.</source>
-        <translation type="unfinished"></translation>
+        <translation>ليس للقطعة شيء من هذا النوع يُعكس.</translation>
     </message>
     <message>
         <source>An instance id is in use already.</source>
-        <translation type="unfinished"></translation>
+        <translation>أحد أرقام النسخ مستخدم بالفعل.</translation>
     </message>
 </context>
 <context>
     <name>ReflectMenu</name>
     <message>
         <source>&amp;Controls</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;عناصر التحكم</translation>
     </message>
     <message>
         <source>&amp;Pads</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;نقاط اللحام</translation>
     </message>
     <message>
         <source>&amp;Body</source>
-        <translation type="unfinished"></translation>
+        <translation>ال&amp;جسم</translation>
     </message>
 </context>
 <context>
     <name>RemoveResourceCommand</name>
     <message>
         <source>Removal of %1</source>
-        <translation type="unfinished"></translation>
+        <translation>إزالة %1</translation>
     </message>
 </context>
 <context>
     <name>Resource</name>
     <message>
         <source>Images</source>
-        <translation type="unfinished"></translation>
+        <translation>صور</translation>
     </message>
     <message>
         <source>Movies</source>
-        <translation type="unfinished"></translation>
+        <translation>أفلام</translation>
     </message>
     <message>
         <source>Sounds</source>
-        <translation type="unfinished"></translation>
+        <translation>أصوات</translation>
     </message>
     <message>
         <source>Texts</source>
-        <translation type="unfinished"></translation>
+        <translation>نصوص</translation>
     </message>
     <message>
         <source>Data</source>
-        <translation type="unfinished"></translation>
+        <translation>بيانات</translation>
     </message>
     <message>
         <source>Scripts</source>
-        <translation type="unfinished"></translation>
+        <translation>برامج نصية</translation>
     </message>
     <message>
         <source>Fonts</source>
-        <translation type="unfinished"></translation>
+        <translation>خطوط</translation>
     </message>
     <message>
         <source>Forms</source>
-        <translation type="unfinished"></translation>
+        <translation>نماذج تحرير</translation>
     </message>
     <message>
         <source>All files</source>
-        <translation type="unfinished"></translation>
+        <translation>كل الملفات</translation>
     </message>
 </context>
 <context>
     <name>ResourceChooser</name>
     <message>
         <source>Import a file</source>
-        <translation type="unfinished"></translation>
+        <translation>استيراد ملف</translation>
     </message>
     <message>
         <source>Export to a file</source>
-        <translation type="unfinished"></translation>
+        <translation>تصدير إلى ملف</translation>
     </message>
     <message>
         <source>No resource</source>
-        <translation type="unfinished"></translation>
+        <translation>لا مورد</translation>
     </message>
     <message>
         <source>Different</source>
-        <translation type="unfinished"></translation>
+        <translation>مختلفة</translation>
     </message>
     <message>
         <source>None</source>
-        <translation type="unfinished"></translation>
+        <translation>لا شيء</translation>
     </message>
     <message>
         <source>Missing</source>
-        <translation type="unfinished"></translation>
+        <translation>مفقود</translation>
     </message>
     <message>
         <source>Preview: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>معاينة: %1</translation>
     </message>
     <message>
         <source>Only one file can be taken here.</source>
-        <translation type="unfinished"></translation>
+        <translation>لا يمكن أخذ أكثر من ملف واحد هنا.</translation>
     </message>
 </context>
 <context>
     <name>ResourceImport</name>
     <message>
         <source>There is no file &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>لا يوجد ملف &quot;%1&quot;.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is a folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>&quot;%1&quot; مجلد.</translation>
     </message>
     <message>
         <source>The file &quot;%1&quot; cannot be read: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>لا يمكن قراءة الملف &quot;%1&quot;: %2</translation>
     </message>
     <message>
         <source>The file &quot;%1&quot; is larger than 64 MB.</source>
-        <translation type="unfinished"></translation>
+        <translation>الملف &quot;%1&quot; أكبر من 64 ميغابايت.</translation>
     </message>
     <message>
         <source>The file &quot;%1&quot; cannot be used here: it does not hold data of the kind &quot;%2&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>لا يمكن استخدام الملف &quot;%1&quot; هنا: لا يحتوي على بيانات من النوع &quot;%2&quot;.</translation>
     </message>
     <message>
         <source>Reading files...</source>
-        <translation type="unfinished"></translation>
+        <translation>تُقرأ الملفات...</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>إلغاء</translation>
     </message>
     <message>
         <source>Import</source>
-        <translation type="unfinished"></translation>
+        <translation>استيراد</translation>
     </message>
     <message>
         <source>The file &quot;%1&quot; cannot be written: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>لا يمكن كتابة الملف &quot;%1&quot;: %2</translation>
     </message>
 </context>
 <context>
     <name>ResourceListBox</name>
     <message>
         <source>Add files</source>
-        <translation type="unfinished"></translation>
+        <translation>إضافة ملفات</translation>
     </message>
     <message>
         <source>Remove</source>
-        <translation type="unfinished"></translation>
+        <translation>إزالة</translation>
     </message>
     <message>
         <source>The selected parts have different lists</source>
-        <translation type="unfinished"></translation>
+        <translation>للقطع المحددة قوائم مختلفة</translation>
     </message>
     <message>
         <source>Preview: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>معاينة: %1</translation>
     </message>
 </context>
 <context>
     <name>ResourceModel</name>
     <message>
         <source>Name</source>
-        <translation type="unfinished"></translation>
+        <translation>الاسم</translation>
     </message>
     <message>
         <source>%1 is missing</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 مفقود</translation>
     </message>
 </context>
 <context>
     <name>ResourceRename</name>
     <message>
         <source>The name must not be empty.</source>
-        <translation type="unfinished"></translation>
+        <translation>يجب ألا يكون الاسم فارغًا.</translation>
     </message>
     <message>
         <source>The name must not contain a slash.</source>
-        <translation type="unfinished"></translation>
+        <translation>يجب ألا يحتوي الاسم على شرطة مائلة.</translation>
     </message>
     <message>
         <source>Another resource has this name.</source>
-        <translation type="unfinished"></translation>
+        <translation>لمورد آخر هذا الاسم.</translation>
     </message>
 </context>
 <context>
     <name>SceneView</name>
     <message>
         <source>Scene %1</source>
-        <translation type="unfinished"></translation>
+        <translation>المشهد %1</translation>
     </message>
     <message>
         <source>Arrow keys move the selected parts by one millimetre, with Shift by ten.</source>
-        <translation type="unfinished"></translation>
+        <translation>مفاتيح الأسهم تنقل القطع المحددة مليمترًا واحدًا، ومع Shift عشرة.</translation>
     </message>
 </context>
 <context>
     <name>SelectAllCommand</name>
     <message>
         <source>Selection of everything</source>
-        <translation type="unfinished"></translation>
+        <translation>تحديد كل شيء</translation>
     </message>
     <message>
         <source>The scene is not there any more.</source>
-        <translation type="unfinished"></translation>
+        <translation>لم يعد المشهد موجودًا.</translation>
     </message>
 </context>
 <context>
     <name>SetNodeIndexCommand</name>
     <message>
         <source>Change of order</source>
-        <translation type="unfinished"></translation>
+        <translation>تغيير الترتيب</translation>
     </message>
     <message>
         <source>There is no such object to move.</source>
-        <translation type="unfinished"></translation>
+        <translation>لا يوجد كائن كهذا يُنقل.</translation>
     </message>
 </context>
 <context>
     <name>SetUILockedCommand</name>
     <message numerus="yes">
         <source>Locking of %n object(s)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>لا قفل (%n)</numerusform>
+            <numerusform>قفل كائن واحد (%n)</numerusform>
+            <numerusform>قفل كائنين (%n)</numerusform>
+            <numerusform>قفل %n كائنات</numerusform>
+            <numerusform>قفل %n كائنًا</numerusform>
+            <numerusform>قفل %n كائن</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>Unlocking of %n object(s)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>لا فتح قفل (%n)</numerusform>
+            <numerusform>فتح قفل كائن واحد (%n)</numerusform>
+            <numerusform>فتح قفل كائنين (%n)</numerusform>
+            <numerusform>فتح قفل %n كائنات</numerusform>
+            <numerusform>فتح قفل %n كائنًا</numerusform>
+            <numerusform>فتح قفل %n كائن</numerusform>
         </translation>
     </message>
 </context>
@@ -3287,637 +3288,637 @@ Please enter another id</source>
     <name>SetValueCommand</name>
     <message>
         <source>Change of %1</source>
-        <translation type="unfinished"></translation>
+        <translation>تغيير %1</translation>
     </message>
     <message numerus="yes">
         <source>Change of %1 (%n objects)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>تغيير %1 (لا كائنات: %n)</numerusform>
+            <numerusform>تغيير %1 (كائن واحد: %n)</numerusform>
+            <numerusform>تغيير %1 (كائنان: %n)</numerusform>
+            <numerusform>تغيير %1 (%n كائنات)</numerusform>
+            <numerusform>تغيير %1 (%n كائنًا)</numerusform>
+            <numerusform>تغيير %1 (%n كائن)</numerusform>
         </translation>
     </message>
     <message>
         <source>The object is not there any more.</source>
-        <translation type="unfinished"></translation>
+        <translation>لم يعد الكائن موجودًا.</translation>
     </message>
     <message>
         <source>There is no property &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>لا توجد خاصية &quot;%1&quot;.</translation>
     </message>
     <message>
         <source>The property &quot;%1&quot; is worked out by the program and cannot be set.</source>
-        <translation type="unfinished"></translation>
+        <translation>الخاصية &quot;%1&quot; يحسبها البرنامج ولا يمكن ضبطها.</translation>
     </message>
     <message>
         <source>The property &quot;%1&quot; follows another one and cannot be set.</source>
-        <translation type="unfinished"></translation>
+        <translation>الخاصية &quot;%1&quot; تتبع أخرى ولا يمكن ضبطها.</translation>
     </message>
     <message>
         <source>The property &quot;%1&quot; cannot hold a value of the type %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>الخاصية &quot;%1&quot; لا يمكن أن تحمل قيمة من النوع %2.</translation>
     </message>
 </context>
 <context>
     <name>ShortcutButton</name>
     <message>
         <source>Delete</source>
-        <translation type="unfinished"></translation>
+        <translation>حذف</translation>
     </message>
     <message>
         <source>Deletes what is selected</source>
-        <translation type="unfinished"></translation>
+        <translation>يحذف ما هو محدد</translation>
     </message>
     <message>
         <source>Duplicate</source>
-        <translation type="unfinished"></translation>
+        <translation>مضاعفة</translation>
     </message>
     <message>
         <source>Adds a copy of what is selected</source>
-        <translation type="unfinished"></translation>
+        <translation>يضيف نسخة مما هو محدد</translation>
     </message>
     <message>
         <source>Lock</source>
-        <translation type="unfinished"></translation>
+        <translation>قفل</translation>
     </message>
     <message>
         <source>Keeps what is selected from being changed</source>
-        <translation type="unfinished"></translation>
+        <translation>يحمي ما هو محدد من التغيير</translation>
     </message>
     <message>
         <source>Reflect</source>
-        <translation type="unfinished"></translation>
+        <translation>عكس</translation>
     </message>
     <message>
         <source>Shows the part in another place as well</source>
-        <translation type="unfinished"></translation>
+        <translation>يعرض القطعة في مكان آخر أيضًا</translation>
     </message>
     <message>
         <source>Show Pop-up</source>
-        <translation type="unfinished"></translation>
+        <translation>عرض النافذة المنبثقة</translation>
     </message>
     <message>
         <source>Opens the pop-up of the part</source>
-        <translation type="unfinished"></translation>
+        <translation>يفتح النافذة المنبثقة للقطعة</translation>
     </message>
     <message>
         <source>Help</source>
-        <translation type="unfinished"></translation>
+        <translation>مساعدة</translation>
     </message>
     <message>
         <source>Tells more about what is selected</source>
-        <translation type="unfinished"></translation>
+        <translation>يخبر المزيد عما هو محدد</translation>
     </message>
     <message>
         <source>%1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: %2</translation>
     </message>
 </context>
 <context>
     <name>ShowPopupCommand</name>
     <message>
         <source>Showing of a pop-up</source>
-        <translation type="unfinished"></translation>
+        <translation>عرض نافذة منبثقة</translation>
     </message>
     <message>
         <source>Hiding of a pop-up</source>
-        <translation type="unfinished"></translation>
+        <translation>إخفاء نافذة منبثقة</translation>
     </message>
     <message>
         <source>The part has no pop-up.</source>
-        <translation type="unfinished"></translation>
+        <translation>ليس للقطعة نافذة منبثقة.</translation>
     </message>
 </context>
 <context>
     <name>SidePane</name>
     <message>
         <source>Side Pane</source>
-        <translation type="unfinished"></translation>
+        <translation>اللوح الجانبي</translation>
     </message>
     <message>
         <source>Properties</source>
-        <translation type="unfinished"></translation>
+        <translation>الخصائص</translation>
     </message>
     <message>
         <source>Models</source>
-        <translation type="unfinished"></translation>
+        <translation>النماذج</translation>
     </message>
     <message>
         <source>Parts</source>
-        <translation type="unfinished"></translation>
+        <translation>القطع</translation>
     </message>
 </context>
 <context>
     <name>SpacePropertyPane</name>
     <message>
         <source>This scene has no properties</source>
-        <translation type="unfinished"></translation>
+        <translation>ليس لهذا المشهد خصائص</translation>
     </message>
 </context>
 <context>
     <name>SpaceTabs</name>
     <message>
         <source>Scenes and pop-ups</source>
-        <translation type="unfinished"></translation>
+        <translation>المشاهد والنوافذ المنبثقة</translation>
     </message>
     <message>
         <source>Po&amp;p-ups</source>
-        <translation type="unfinished"></translation>
+        <translation>النوافذ المن&amp;بثقة</translation>
     </message>
     <message>
         <source>Open the pop-up of a part</source>
-        <translation type="unfinished"></translation>
+        <translation>فتح النافذة المنبثقة لقطعة</translation>
     </message>
     <message>
         <source>Scene</source>
-        <translation type="unfinished"></translation>
+        <translation>المشهد</translation>
     </message>
     <message>
         <source>Pop-up</source>
-        <translation type="unfinished"></translation>
+        <translation>نافذة منبثقة</translation>
     </message>
     <message>
         <source>%1 (%2)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (%2)</translation>
     </message>
     <message>
         <source>No part here has a pop-up</source>
-        <translation type="unfinished"></translation>
+        <translation>لا قطعة هنا لها نافذة منبثقة</translation>
     </message>
     <message>
         <source>Double-click a part to open others</source>
-        <translation type="unfinished"></translation>
+        <translation>انقر قطعة نقرًا مزدوجًا لفتح أخرى</translation>
     </message>
 </context>
 <context>
     <name>StartOptions</name>
     <message>
         <source>Shows and edits interactive teaching models.</source>
-        <translation type="unfinished"></translation>
+        <translation>يعرض النماذج التعليمية التفاعلية ويحررها.</translation>
     </message>
     <message>
         <source>Where messages go: stdout, stderr, file (velmor.log in the current folder), console (a window) or none.</source>
-        <translation type="unfinished"></translation>
+        <translation>إلى أين تذهب الرسائل: stdout أو stderr أو file (velmor.log في المجلد الحالي) أو console (نافذة) أو none.</translation>
     </message>
     <message>
         <source>Write a picture of the main window into a PNG file and quit.</source>
-        <translation type="unfinished"></translation>
+        <translation>كتابة صورة للنافذة الرئيسية في ملف PNG ثم الإنهاء.</translation>
     </message>
     <message>
         <source>Select the part with this id for the picture. May be given several times.</source>
-        <translation type="unfinished"></translation>
+        <translation>تحديد القطعة ذات هذا المعرّف من أجل الصورة. يمكن إعطاؤه عدة مرات.</translation>
     </message>
     <message>
         <source>Let the picture show the forms of what is selected from top to bottom, alone.</source>
-        <translation type="unfinished"></translation>
+        <translation>جعل الصورة تعرض نماذج تحرير ما هو محدد وحدها، من أعلى إلى أسفل.</translation>
     </message>
     <message>
         <source>Take the picture in dark colours.</source>
-        <translation type="unfinished"></translation>
+        <translation>التقاط الصورة بألوان داكنة.</translation>
     </message>
     <message>
         <source>The document to open.</source>
-        <translation type="unfinished"></translation>
+        <translation>المستند المطلوب فتحه.</translation>
     </message>
     <message>
         <source>--log takes stdout, stderr, file, console or none, not &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>يقبل --log القيم stdout أو stderr أو file أو console أو none، وليس &quot;%1&quot;.</translation>
     </message>
     <message>
         <source>Only one document can be opened, but %1 were given.</source>
-        <translation type="unfinished"></translation>
+        <translation>لا يمكن فتح إلا مستند واحد، لكن أُعطي %1.</translation>
     </message>
     <message>
         <source>--screenshot needs the name of a file.</source>
-        <translation type="unfinished"></translation>
+        <translation>يحتاج --screenshot إلى اسم ملف.</translation>
     </message>
     <message>
         <source>--%1 only works together with --screenshot.</source>
-        <translation type="unfinished"></translation>
+        <translation>لا يعمل --%1 إلا مع --screenshot.</translation>
     </message>
 </context>
 <context>
     <name>StatisticsPane</name>
     <message>
         <source>Statistics</source>
-        <translation type="unfinished"></translation>
+        <translation>الإحصاءات</translation>
     </message>
     <message>
         <source>Name</source>
-        <translation type="unfinished"></translation>
+        <translation>الاسم</translation>
     </message>
     <message>
         <source>Last</source>
-        <translation type="unfinished"></translation>
+        <translation>الأخير</translation>
     </message>
     <message>
         <source>Mean</source>
-        <translation type="unfinished"></translation>
+        <translation>المتوسط</translation>
     </message>
     <message>
         <source>Least</source>
-        <translation type="unfinished"></translation>
+        <translation>الأصغر</translation>
     </message>
     <message>
         <source>Greatest</source>
-        <translation type="unfinished"></translation>
+        <translation>الأكبر</translation>
     </message>
     <message>
         <source>Samples</source>
-        <translation type="unfinished"></translation>
+        <translation>العينات</translation>
     </message>
     <message>
         <source>Curve of the selected statistic</source>
-        <translation type="unfinished"></translation>
+        <translation>منحنى الإحصاء المحدد</translation>
     </message>
     <message>
         <source>Re&amp;fresh</source>
-        <translation type="unfinished"></translation>
+        <translation>ت&amp;حديث</translation>
     </message>
     <message>
         <source>Rese&amp;t</source>
-        <translation type="unfinished"></translation>
+        <translation>ت&amp;صفير</translation>
     </message>
     <message>
         <source>Forget all samples</source>
-        <translation type="unfinished"></translation>
+        <translation>نسيان كل العينات</translation>
     </message>
     <message>
         <source>%1 (%2)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (%2)</translation>
     </message>
 </context>
 <context>
     <name>SubpartComboBox</name>
     <message>
         <source>None</source>
-        <translation type="unfinished"></translation>
+        <translation>لا شيء</translation>
     </message>
     <message>
         <source>Subpart</source>
-        <translation type="unfinished"></translation>
+        <translation>قطعة فرعية</translation>
     </message>
 </context>
 <context>
     <name>SubpartListView</name>
     <message>
         <source>Add</source>
-        <translation type="unfinished"></translation>
+        <translation>إضافة</translation>
     </message>
     <message>
         <source>Remove</source>
-        <translation type="unfinished"></translation>
+        <translation>إزالة</translation>
     </message>
     <message>
         <source>Subparts</source>
-        <translation type="unfinished"></translation>
+        <translation>القطع الفرعية</translation>
     </message>
     <message>
         <source>Every part of this kind has this subpart</source>
-        <translation type="unfinished"></translation>
+        <translation>لكل قطعة من هذا النوع هذه القطعة الفرعية</translation>
     </message>
     <message>
         <source>Remove (Del)</source>
-        <translation type="unfinished"></translation>
+        <translation>إزالة (Del)</translation>
     </message>
 </context>
 <context>
     <name>Unit</name>
     <message>
         <source>metres</source>
-        <translation type="unfinished"></translation>
+        <translation>أمتار</translation>
     </message>
     <message>
         <source>millimetres</source>
-        <translation type="unfinished"></translation>
+        <translation>مليمترات</translation>
     </message>
     <message>
         <source>centimetres</source>
-        <translation type="unfinished"></translation>
+        <translation>سنتيمترات</translation>
     </message>
     <message>
         <source>kilometres</source>
-        <translation type="unfinished"></translation>
+        <translation>كيلومترات</translation>
     </message>
     <message>
         <source>micrometres</source>
-        <translation type="unfinished"></translation>
+        <translation>ميكرومترات</translation>
     </message>
     <message>
         <source>inches</source>
-        <translation type="unfinished"></translation>
+        <translation>بوصات</translation>
     </message>
     <message>
         <source>feet</source>
-        <translation type="unfinished"></translation>
+        <translation>أقدام</translation>
     </message>
     <message>
         <source>degrees</source>
-        <translation type="unfinished"></translation>
+        <translation>درجات</translation>
     </message>
     <message>
         <source>radians</source>
-        <translation type="unfinished"></translation>
+        <translation>راديان</translation>
     </message>
     <message>
         <source>ohms</source>
-        <translation type="unfinished"></translation>
+        <translation>أوم</translation>
     </message>
     <message>
         <source>milliohms</source>
-        <translation type="unfinished"></translation>
+        <translation>ملي أوم</translation>
     </message>
     <message>
         <source>kilohms</source>
-        <translation type="unfinished"></translation>
+        <translation>كيلو أوم</translation>
     </message>
     <message>
         <source>megohms</source>
-        <translation type="unfinished"></translation>
+        <translation>ميغا أوم</translation>
     </message>
     <message>
         <source>volts</source>
-        <translation type="unfinished"></translation>
+        <translation>فولت</translation>
     </message>
     <message>
         <source>millivolts</source>
-        <translation type="unfinished"></translation>
+        <translation>ملي فولت</translation>
     </message>
     <message>
         <source>kilovolts</source>
-        <translation type="unfinished"></translation>
+        <translation>كيلو فولت</translation>
     </message>
     <message>
         <source>amperes</source>
-        <translation type="unfinished"></translation>
+        <translation>أمبير</translation>
     </message>
     <message>
         <source>milliamperes</source>
-        <translation type="unfinished"></translation>
+        <translation>ملي أمبير</translation>
     </message>
     <message>
         <source>microamperes</source>
-        <translation type="unfinished"></translation>
+        <translation>ميكرو أمبير</translation>
     </message>
     <message>
         <source>watts</source>
-        <translation type="unfinished"></translation>
+        <translation>واط</translation>
     </message>
     <message>
         <source>milliwatts</source>
-        <translation type="unfinished"></translation>
+        <translation>ملي واط</translation>
     </message>
     <message>
         <source>farads</source>
-        <translation type="unfinished"></translation>
+        <translation>فاراد</translation>
     </message>
     <message>
         <source>microfarads</source>
-        <translation type="unfinished"></translation>
+        <translation>ميكرو فاراد</translation>
     </message>
     <message>
         <source>nanofarads</source>
-        <translation type="unfinished"></translation>
+        <translation>نانو فاراد</translation>
     </message>
     <message>
         <source>picofarads</source>
-        <translation type="unfinished"></translation>
+        <translation>بيكو فاراد</translation>
     </message>
     <message>
         <source>seconds</source>
-        <translation type="unfinished"></translation>
+        <translation>ثوانٍ</translation>
     </message>
     <message>
         <source>milliseconds</source>
-        <translation type="unfinished"></translation>
+        <translation>ملي ثوانٍ</translation>
     </message>
     <message>
         <source>microseconds</source>
-        <translation type="unfinished"></translation>
+        <translation>ميكرو ثوانٍ</translation>
     </message>
     <message>
         <source>minutes</source>
-        <translation type="unfinished"></translation>
+        <translation>دقائق</translation>
     </message>
     <message>
         <source>hours</source>
-        <translation type="unfinished"></translation>
+        <translation>ساعات</translation>
     </message>
     <message>
         <source>hertz</source>
-        <translation type="unfinished"></translation>
+        <translation>هرتز</translation>
     </message>
     <message>
         <source>kilohertz</source>
-        <translation type="unfinished"></translation>
+        <translation>كيلو هرتز</translation>
     </message>
     <message>
         <source>megahertz</source>
-        <translation type="unfinished"></translation>
+        <translation>ميغا هرتز</translation>
     </message>
     <message>
         <source>kilograms</source>
-        <translation type="unfinished"></translation>
+        <translation>كيلوغرامات</translation>
     </message>
     <message>
         <source>grams</source>
-        <translation type="unfinished"></translation>
+        <translation>غرامات</translation>
     </message>
     <message>
         <source>newtons</source>
-        <translation type="unfinished"></translation>
+        <translation>نيوتن</translation>
     </message>
     <message>
         <source>joules</source>
-        <translation type="unfinished"></translation>
+        <translation>جول</translation>
     </message>
     <message>
         <source>kelvins</source>
-        <translation type="unfinished"></translation>
+        <translation>كلفن</translation>
     </message>
     <message>
         <source>degrees Celsius</source>
-        <translation type="unfinished"></translation>
+        <translation>درجات مئوية</translation>
     </message>
     <message>
         <source>degrees Fahrenheit</source>
-        <translation type="unfinished"></translation>
+        <translation>درجات فهرنهايت</translation>
     </message>
     <message>
         <source>metres per second</source>
-        <translation type="unfinished"></translation>
+        <translation>أمتار في الثانية</translation>
     </message>
     <message>
         <source>revolutions per minute</source>
-        <translation type="unfinished"></translation>
+        <translation>دورات في الدقيقة</translation>
     </message>
     <message>
         <source>percent</source>
-        <translation type="unfinished"></translation>
+        <translation>بالمئة</translation>
     </message>
 </context>
 <context>
     <name>Validator</name>
     <message>
         <source>A value of type %1 is needed.</source>
-        <translation type="unfinished"></translation>
+        <translation>تلزم قيمة من النوع %1.</translation>
     </message>
     <message>
         <source>Only values from %1 to %2 are allowed.</source>
-        <translation type="unfinished"></translation>
+        <translation>لا يُسمح إلا بالقيم من %1 إلى %2.</translation>
     </message>
     <message>
         <source>Only these values are allowed: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>لا يُسمح إلا بهذه القيم: %1.</translation>
     </message>
     <message>
         <source>Only finite numbers are allowed.</source>
-        <translation type="unfinished"></translation>
+        <translation>لا يُسمح إلا بأعداد منتهية.</translation>
     </message>
     <message>
         <source>Only values from %1 upwards are allowed.</source>
-        <translation type="unfinished"></translation>
+        <translation>لا يُسمح إلا بالقيم من %1 فما فوق.</translation>
     </message>
     <message>
         <source>Only values up to %1 are allowed.</source>
-        <translation type="unfinished"></translation>
+        <translation>لا يُسمح إلا بالقيم حتى %1.</translation>
     </message>
     <message>
         <source>The text does not have the form that is needed here.</source>
-        <translation type="unfinished"></translation>
+        <translation>ليس للنص الشكل المطلوب هنا.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is not one of the resources offered here.</source>
-        <translation type="unfinished"></translation>
+        <translation>&quot;%1&quot; ليس أحد الموارد المعروضة هنا.</translation>
     </message>
 </context>
 <context>
     <name>Value</name>
     <message>
         <source>none</source>
-        <translation type="unfinished"></translation>
+        <translation>لا شيء</translation>
     </message>
     <message>
         <source>true</source>
-        <translation type="unfinished"></translation>
+        <translation>صحيح</translation>
     </message>
     <message>
         <source>false</source>
-        <translation type="unfinished"></translation>
+        <translation>خطأ</translation>
     </message>
 </context>
 <context>
     <name>ValueMapListBox</name>
     <message>
         <source>Add</source>
-        <translation type="unfinished"></translation>
+        <translation>إضافة</translation>
     </message>
     <message>
         <source>Remove</source>
-        <translation type="unfinished"></translation>
+        <translation>إزالة</translation>
     </message>
     <message>
         <source>The selected parts have different entries</source>
-        <translation type="unfinished"></translation>
+        <translation>للقطع المحددة مدخلات مختلفة</translation>
     </message>
     <message>
         <source>key</source>
-        <translation type="unfinished"></translation>
+        <translation>مفتاح</translation>
     </message>
     <message>
         <source>The key must not be empty.</source>
-        <translation type="unfinished"></translation>
+        <translation>يجب ألا يكون المفتاح فارغًا.</translation>
     </message>
     <message>
         <source>This text does not stand for a value of the kind &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>هذا النص لا يمثل قيمة من النوع &quot;%1&quot;.</translation>
     </message>
 </context>
 <context>
     <name>ValueMapModel</name>
     <message>
         <source>Text</source>
-        <translation type="unfinished"></translation>
+        <translation>نص</translation>
     </message>
     <message>
         <source>Whole number</source>
-        <translation type="unfinished"></translation>
+        <translation>عدد صحيح</translation>
     </message>
     <message>
         <source>Number</source>
-        <translation type="unfinished"></translation>
+        <translation>عدد</translation>
     </message>
     <message>
         <source>Yes or no</source>
-        <translation type="unfinished"></translation>
+        <translation>نعم أو لا</translation>
     </message>
     <message>
         <source>Colour</source>
-        <translation type="unfinished"></translation>
+        <translation>لون</translation>
     </message>
     <message>
         <source>Point</source>
-        <translation type="unfinished"></translation>
+        <translation>نقطة</translation>
     </message>
     <message>
         <source>Key</source>
-        <translation type="unfinished"></translation>
+        <translation>المفتاح</translation>
     </message>
     <message>
         <source>Value</source>
-        <translation type="unfinished"></translation>
+        <translation>القيمة</translation>
     </message>
     <message>
         <source>Kind</source>
-        <translation type="unfinished"></translation>
+        <translation>النوع</translation>
     </message>
 </context>
 <context>
     <name>ValueXml</name>
     <message>
         <source>The value is nested too deeply.</source>
-        <translation type="unfinished"></translation>
+        <translation>القيمة متداخلة أعمق من اللازم.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is not a value of type &quot;%2&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>&quot;%1&quot; ليست قيمة من النوع &quot;%2&quot;.</translation>
     </message>
     <message>
         <source>Element &quot;%1&quot; is not expected; a list holds &quot;item&quot;s.</source>
-        <translation type="unfinished"></translation>
+        <translation>العنصر &quot;%1&quot; غير متوقع؛ القائمة تحتوي على &quot;item&quot;.</translation>
     </message>
     <message>
         <source>Text is not expected between &quot;item&quot;s.</source>
-        <translation type="unfinished"></translation>
+        <translation>لا يُتوقع نص بين عناصر &quot;item&quot;.</translation>
     </message>
     <message>
         <source>An item cannot have the type &quot;%1&quot; here.</source>
-        <translation type="unfinished"></translation>
+        <translation>لا يمكن أن يكون للعنصر النوع &quot;%1&quot; هنا.</translation>
     </message>
 </context>
 <context>
     <name>main</name>
     <message>
         <source>Messages - zkauthor</source>
-        <translation type="unfinished"></translation>
+        <translation>الرسائل - zkauthor</translation>
     </message>
     <message>
         <source>zkauthor crashed last time. A report is in the file %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>انهار zkauthor في المرة السابقة. التقرير في الملف %1.</translation>
     </message>
     <message>
         <source>%1 cannot be opened.</source>
-        <translation type="unfinished"></translation>
+        <translation>لا يمكن فتح %1.</translation>
     </message>
 </context>
 <context>
     <name>screenshot</name>
     <message>
         <source>The picture %1 cannot be written: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>لا يمكن كتابة الصورة %1: %2</translation>
     </message>
 </context>
 </TS>
