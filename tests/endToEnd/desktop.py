@@ -107,9 +107,11 @@ class Desktop:
             rows.append(bytes(colours))
         return rows
 
-    def screenshot(self, name, rect=None):
-        """Writes NAME.png; returns its path."""
-        rows = self.pixels(rect or (0, 0, self.WIDTH, self.HEIGHT))
+    def screenshot(self, name):
+        return self.save(name, self.pixels((0, 0, self.WIDTH, self.HEIGHT)))
+
+    def save(self, name, rows):
+        """Writes the rows of pixels as NAME.png; returns its path."""
 
         def chunk(kind, data):
             return struct.pack(">I", len(data)) + kind + data + struct.pack(">I", zlib.crc32(kind + data))

@@ -18,6 +18,12 @@ class Missed(Exception):
     """What was awaited did not come."""
 
 
+def expect(true, what):
+    """What must be so already now."""
+    if not true:
+        raise Missed(f"expected {what}")
+
+
 def wait(what, probe, limit=LIMIT):
     """Asks the probe until it answers with something true, and returns that."""
     end = time.monotonic() + limit

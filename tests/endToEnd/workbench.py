@@ -3,7 +3,7 @@ import re
 import subprocess
 import xml.etree.ElementTree as xml
 
-from driver import LIMIT, Missed, Program, becomes, click_at, drag, hand, key, type_text, wait
+from driver import LIMIT, Missed, Program, becomes, click_at, drag, expect, hand, key, type_text, wait
 
 MILLIMETRES = re.compile(r"^(-?[\d.]+), (-?[\d.]+) mm$")
 
@@ -105,8 +105,7 @@ class Workbench:
         left, top, width, height = self.view.rect
         seen = []
         for x, y in ((left + 10, top + 10), (left + width - 20, top + height - 20)):
-            menu_bar = self.window.find("menu bar").rect
-            hand("mousemove", menu_bar[0] + menu_bar[2] - 5, menu_bar[1] + 5)
+            self.step_aside()
             wait("the place of the pointer to go", lambda: not self._pointer())
             hand("mousemove", x, y)
             seen.append(((x, y), wait("the place of the pointer", self._pointer)))
@@ -133,9 +132,8 @@ class Workbench:
         drag(self.part_in_tree(label).place((0.3, 0.5)), self.at(u, v))
 
     def picture(self):
-        """What the scene looks like, the pointer aside."""
-        bar = self.window.find("menu bar").rect
-        hand("mousemove", bar[0] + bar[2] - 5, bar[1] + 5)
+        """What the scene looks like, without the pointer."""
+        self.step_aside()
         seen = [None]
 
         def rests():
@@ -145,24 +143,41 @@ class Workbench:
         wait("the picture of the scene to rest", rests)
         return seen[0]
 
+    def close_popups(self):
+        tabs = self.window.find("page tab list")
+        while tabs.look("page tab", description="Pop-up"):
+            count = len(tabs.look("page tab"))
+            tabs.find("page tab", description="Pop-up").click((0.85, 0.5))  # its button to close
+            wait("the tab to close", lambda: len(tabs.look("page tab")) < count)
+
+    def step_aside(self):
+        left, top, width, _ = self.window.find("menu bar").rect
+        hand("mousemove", left + width - 5, top + 5)
+
     def same_picture(self, wanted):
-        wait("the scene to look as before", lambda: self.desktop.pixels(self.view.rect) == wanted)
+        self.step_aside()
+        try:
+            wait("the scene to look as before", lambda: self.desktop.pixels(self.view.rect) == wanted)
+        except Missed:
+            self.desktop.save("before", wanted)
+            self.desktop.save("after", self.desktop.pixels(self.view.rect))
+            raise
 
     # --- dialogs ---
 
     def dialog(self, title, role="dialog"):
         return self.program.window(title, role)
 
-    def closed(self, title):
-        wait(f"the dialog {title!r} to close",
-             lambda: title not in [window.name for window in self.program.children if window.showing])
+    def closed(self, title, role="dialog"):
+        wait(f"the {role} {title!r} to close", lambda: not any(
+            window.name == title and window.role == role and window.showing for window in self.program.children))
 
     def answer(self, title, button, role="dialog"):
         self.dialog(title, role).find("push button", button).click()
-        self.closed(title)
+        self.closed(title, role)
 
-    def choose_file(self, title, path):
-        self.dialog(title).find("text", "File name:").write(str(path), end="Return")
+    def choose_file(self, title, path, field="File name:"):
+        self.dialog(title).find("text", field).write(str(path), end="Return")
         self.closed(title)
 
 
@@ -177,4 +192,4 @@ def parts_of(path):
     return found
 
 
-__all__ = ["Missed", "Workbench", "parts_of", "becomes", "drag", "hand", "key", "type_text", "wait"]
+__all__ = ["Workbench", "parts_of", "becomes", "drag", "expect", "hand", "key", "type_text", "wait"]

@@ -3,6 +3,7 @@
 recovered one. Run by ctest as endToEnd; by hand: workingDay.py --program build/dev/bin/zkauthor --folder /tmp/day"""
 import argparse
 import re
+import shutil
 import sys
 import time
 import traceback
@@ -156,11 +157,10 @@ class Day:
         palette = bench.palette("Associations", "F6")
         palette.find("label", "hint")
         palette.find("tree", "Pop-up").find("table cell", re.compile("^Pop-up: ")).click()
-        bench.window.find("page tab list").find("page tab", where=lambda tab: tab.description == "Pop-up")
+        bench.window.find("page tab list").find("page tab", description="Pop-up")
         bench.part_in_tree("Text").click(times=2)
         bench.form("Text").find("text", "Text").write("Press the switch", end="Return")
-        bench.window.find("page tab", "scene1").click()
-        bench.measure()
+        bench.close_popups()
         bench.click_at(210, 40)
         palette.find("label", "Night lamp")
         palette.find("tree", "Subparts").find("table cell", "pins: anode").click()
@@ -234,7 +234,7 @@ class Day:
     def back_and_forth(self):
         """All that was done is taken back and done again, one step after the other."""
         bench = self.bench
-        key("Escape")
+        bench.click_at(10, 190)
         bench.status("Nothing selected")
         undo = bench.window.find("push button", re.compile("^Undo"))
         redo = bench.window.find("push button", re.compile("^Redo"))
@@ -245,16 +245,15 @@ class Day:
             key("ctrl+z")
             wait("the step to be taken back", lambda: redo.enabled and redo.name == name.replace("Undo", "Redo"))
             steps += 1
-            if steps > 200:
-                raise Missed("an end of what can be taken back")
+            expect(steps < 200, "an end of what can be taken back")
         bench.titled("^Untitled - ")
-        if steps < 30:
-            raise Missed(f"more steps than {steps}")
+        expect(steps > 30, f"more steps than {steps}")
         for _ in range(steps):
             key("ctrl+shift+z")
         wait("everything to be done again", lambda: undo.enabled and not redo.enabled)
         bench.titled(r"^Untitled\* - ")
-        key("Escape")
+        bench.close_popups()  # one came into sight with what was edited in it
+        bench.click_at(10, 190)
         bench.status("Nothing selected")
         bench.same_picture(before)
 
@@ -265,8 +264,7 @@ class Day:
         bench.menu("Edit", "Save as Custom Part...")
         dialog = bench.dialog("Add custom part")
         add = dialog.find("push button", "Add")
-        if add.enabled:
-            raise Missed("a name to be asked for")
+        expect(not add.enabled, "a name to be asked for")
         dialog.find("text", "Part name:").write("led")
         dialog.find("text", "Part label:").write("Amber lamp")
         dialog.find("text", "Part group:").write("Mine")
@@ -302,11 +300,95 @@ class Day:
         }
         for name, values in expected.items():
             for what, value in values.items():
-                if parts[name].get(what) != value:
-                    raise Missed(f"{what} of {name} to be {value} in the file, not {parts[name].get(what)}")
+                expect(parts[name].get(what) == value,
+                       f"{what} of {name} to be {value} in the file, not {parts[name].get(what)}")
+
+    def page_setup(self):
+        bench = self.bench
+        bench.menu("File", "Page Setup...")
+        dialog = bench.dialog("Page Setup")
+        before = self.desktop.pixels(dialog.find("image").rect)
+        left = dialog.find("spin button", "Left margin in millimetres").click((0.3, 0.5))
+        margin = left.value
+        key("Down", "Down")
+        becomes("the margin", lambda: left.value, margin - 2)
+        dialog.combo("Orientation:").choose("Landscape")
+        dialog.find("check box", "Scale to Page Width:").check()
+        wait("the preview to change", lambda: self.desktop.pixels(dialog.find("image").rect) != before)
+        bench.answer("Page Setup", "Ok")
+        bench.menu("File", "Page Setup...")
+        dialog = bench.dialog("Page Setup")
+        becomes("the margin, as it was set,", lambda: dialog.find("spin button", "Left margin in millimetres").value,
+                margin - 2)
+        dialog.combo("Landscape")
+        bench.answer("Page Setup", "Cancel")
+
+    def pdf(self):
+        bench = self.bench
+        bench.menu("File", "Print Preview...")
+        preview = bench.program.window(re.compile("^Print Preview"))
+        preview.find("check box", "Landscape", where=lambda button: button.checked)
+        pages = preview.find("label", re.compile(r"^/ \d+$")).name
+        key("Escape")
+        bench.closed(preview.name)
+        target = self.documents / "night light.pdf"
+        bench.menu("File", "Export to PDF...")
+        bench.choose_file("Export to PDF", target)
+        bench.status("Exported night light.pdf")
+        content = target.read_bytes()
+        expect(content.startswith(b"%PDF-") and content.rstrip().endswith(b"%%EOF"), "a whole PDF file")
+        count = len(re.findall(rb"/Type\s*/Page\b", content))
+        expect(pages == f"/ {count}", f"as many pages as in the preview ({pages}), not {count}")
+        sizes = re.findall(rb"/MediaBox\s*\[\s*0\s+0\s+([\d.]+)\s+([\d.]+)", content)
+        expect(sizes and all(float(width) > float(height) for width, height in sizes), f"landscape pages, not {sizes}")
+        expect(b"/FontFile" in content, "the letters in it to bring their font along")
+
+    def models_browser(self):
+        bench = self.bench
+        examples = self.documents / "Examples"
+        examples.mkdir()
+        shutil.copy(self.samples / "crossing.zkdoc", examples)
+        bench.section(bench.palette("Side Pane"), "Models")
+        bench.window.find("push button", "Show the documents of one more folder").click()
+        bench.choose_file("Add Folder", examples, field="Directory:")
+        models = bench.window.find("tree", "Models")
+        row = models.find("table cell", re.compile("^crossing"))
+        x, y = row.place()
+        left, top, _, height = row.rect
+        wait("a picture of the document", lambda: len(set(b"".join(self.desktop.pixels(
+            (left, top, height, height))))) > 100)
+        row.click(times=2)
+        bench.titled("^crossing.zkdoc - ")
+
+    def flowchart(self):
+        bench = self.bench
+        bench.measure()
+        resting = bench.picture()
+        bench.window.find("tool bar", "Flowcharts").combo("How fast the flowcharts run").choose("Fast")
+        run = bench.window.find("check box", "Run flowcharts").click()
+        wait("the chart to run", lambda: run.checked)
+        left, top = bench.at(255.5 - 3, 75 - 3)
+        right, bottom = bench.at(255.5 + 3, 75 + 3)
+        lamp = (left, top, right - left, bottom - top)
+        dark = self.desktop.pixels(lamp)
+        bench.click_at(214, 102)  # the button of those who want to cross
+        bench.step_aside()
+        wait("the green man to light up", lambda: self.desktop.pixels(lamp) != dark)
+        key("F5")
+        wait("the chart to stop", lambda: not run.checked)
+        bench.undo()  # the speed
+        bench.titled("^crossing.zkdoc - ")
+        bench.same_picture(resting)
+
+    def back_to_the_document(self):
+        bench = self.bench
+        bench.menu("File", "Open Recent", re.compile(r"night light\.zkdoc$"))
+        bench.titled("^night light.zkdoc - ")
+        bench.measure()
 
     CHAPTERS = [new_document, parts_from_the_tree, connections, property_form, several_at_once, locks, associations,
-                advanced, inspector, debugging, flowchart_strip, back_and_forth, custom_part, saving]
+                advanced, inspector, debugging, flowchart_strip, back_and_forth, custom_part, saving,
+                page_setup, pdf, models_browser, flowchart, back_to_the_document]
 
     def run(self, last=None):
         start = time.monotonic()
@@ -327,8 +409,8 @@ def main():
     samples = Path(__file__).resolve().parents[2] / "samples"
     with Desktop(options.folder.resolve()) as desktop:
         # Not before there is a display and a bus to speak with.
-        global Missed, Workbench, parts_of, becomes, drag, hand, key, type_text, wait
-        from workbench import Missed, Workbench, becomes, drag, hand, key, parts_of, type_text, wait
+        global Workbench, parts_of, becomes, drag, expect, hand, key, type_text, wait
+        from workbench import Workbench, becomes, drag, expect, hand, key, parts_of, type_text, wait
         try:
             Day(desktop, options.program.resolve(), samples).run(options.until)
         except Exception:
