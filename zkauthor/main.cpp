@@ -1,4 +1,5 @@
 // Start-up of the host: command line, message handler, crash handler, main window.
+#include "zkauthor/checkForms.h"
 #include "zkauthor/mainWindow.h"
 #include "zkauthor/preferences.h"
 #include "zkauthor/screenshot.h"
@@ -99,6 +100,8 @@ int main(int argc, char** argv)
     }
     CrashHandler::install(QApplication::applicationName(), QApplication::applicationVersion());
     installHandler(options.log);
+    if (!options.checkForm.isEmpty() || !options.checkPackage.isEmpty())
+        return checkForms(options);
     const QString crashReport = CrashHandler::previousCrashReport();
     const QString crashText =
         QApplication::translate("main", "zkauthor crashed last time. A report is in the file %1.").arg(crashReport);

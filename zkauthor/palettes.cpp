@@ -5,6 +5,7 @@
 #include "zkeditor/advancedPalette.h"
 #include "zkeditor/assocPalette.h"
 #include "zkeditor/debugPalette.h"
+#include "zkeditor/formGate.h"
 #include "zkeditor/inspector.h"
 #include "zkeditor/lockPalette.h"
 #include "zkeditor/modelsBrowser.h"
@@ -23,6 +24,7 @@ Palettes::Palettes(QMainWindow* window, ViewManager* views)
       m_advanced(new AdvancedPalette(window)),
       m_debug(new DebugPalette(window)), m_all{m_sidePane, m_locks, m_associations, m_advanced, m_debug}
 {
+    FormGate::instance().setClosed(true); // before the first pane shows anything
     m_sidePane->setWindowTitle(tr("Side Pane"));
     for (EditPalette* palette : m_all) {
         window->addDockWidget(Qt::RightDockWidgetArea, palette);

@@ -2,7 +2,6 @@
 
 #include <QCommandLineParser>
 #include <QCoreApplication>
-#include <cstring>
 #include <string_view>
 #include <utility>
 
@@ -21,12 +20,12 @@ bool StartOptions::needsNoDisplay(int argc, char** argv)
         const std::string_view argument(argv[i]);
         if (argument == "--")
             return false;
-        for (const std::string_view option : {"-h", "--help", "--help-all", "-v", "--version", "--screenshot"}) {
-            if (argument == option)
+        const std::string_view name = argument.substr(0, argument.find('='));
+        for (const std::string_view option :
+             {"-h", "--help", "--help-all", "-v", "--version", "--screenshot", "--check-form", "--check-package"}) {
+            if (name == option)
                 return true;
         }
-        if (argument.substr(0, std::strlen("--screenshot=")) == "--screenshot=")
-            return true;
     }
     return false;
 }
@@ -74,6 +73,22 @@ bool StartOptions::parse(const QCoreApplication& application, StartOptions& opti
     const QCommandLineOption darkOption(QStringLiteral("dark"), StartTexts::tr("Take the picture in dark colours."));
     parser.addOption(formsOption);
     parser.addOption(darkOption);
+    const QCommandLineOption checkFormOption(
+        QStringLiteral("check-form"),
+        StartTexts::tr("Tell what is wrong with a form, and quit. The exit code is 0 when nothing "
+                       "is, 1 for errors, 2 when the form cannot be read."),
+        QStringLiteral("file"));
+    const QCommandLineOption classOption(
+        QStringLiteral("class"),
+        StartTexts::tr("Check the form for this class. May be given several times. Without it, the form "
+                       "is checked for the classes that name it."),
+        QStringLiteral("id"));
+    const QCommandLineOption checkPackageOption(
+        QStringLiteral("check-package"),
+        StartTexts::tr("Tell what is wrong with a package folder and its forms, and quit."), QStringLiteral("folder"));
+    parser.addOption(checkFormOption);
+    parser.addOption(classOption);
+    parser.addOption(checkPackageOption);
     parser.addPositionalArgument(QStringLiteral("document"), StartTexts::tr("The document to open."),
                                  QStringLiteral("[document]"));
     parser.process(application);
@@ -95,6 +110,23 @@ bool StartOptions::parse(const QCoreApplication& application, StartOptions& opti
         options.document = parser.positionalArguments().constFirst();
     if (parser.isSet(screenshotOption) && parser.value(screenshotOption).isEmpty()) {
         error = StartTexts::tr("--screenshot needs the name of a file.");
+        return false;
+    }
+    for (const QCommandLineOption& option : {checkFormOption, checkPackageOption}) {
+        if (parser.isSet(option) && parser.value(option).isEmpty()) {
+            error = StartTexts::tr("--%1 needs the name of a file or folder.").arg(option.names().constFirst());
+            return false;
+        }
+    }
+    options.checkForm = parser.value(checkFormOption);
+    options.checkPackage = parser.value(checkPackageOption);
+    options.classes = parser.values(classOption);
+    if (!options.classes.isEmpty() && options.checkForm.isEmpty()) {
+        error = StartTexts::tr("--class only works together with --check-form.");
+        return false;
+    }
+    if (!options.checkForm.isEmpty() && !options.checkPackage.isEmpty()) {
+        error = StartTexts::tr("--check-form and --check-package cannot be given together.");
         return false;
     }
     options.screenshot = parser.value(screenshotOption);

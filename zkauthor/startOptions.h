@@ -22,6 +22,13 @@ struct StartOptions
     /// Whether the picture is taken in dark colours.
     bool dark = false;
 
+    /// The form to check instead of opening a window; empty for none.
+    QString checkForm;
+    /// The classes that the form is checked against; empty for those that name it.
+    QStringList classes;
+    /// The package folder to check instead of opening a window; empty for none.
+    QString checkPackage;
+
     /// Whether --log was given.
     bool logGiven = false;
 

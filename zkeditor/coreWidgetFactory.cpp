@@ -41,37 +41,51 @@ struct FormWidgetRow
 {
     const char* className;
     QWidget* (*make)(QWidget* parent, const QString& name);
+    const QMetaObject* metaObject;
 };
 
+template <typename Widget> constexpr FormWidgetRow formWidgetRow(const char* className)
+{
+    return {className, makeFormWidget<Widget>, &Widget::staticMetaObject};
+}
+
 constexpr FormWidgetRow s_formWidgets[] = {
-    {"GroupBox", makeFormWidget<GroupBox>},
-    {"GroupRadioButton", makeFormWidget<GroupRadioButton>},
-    {"SubpartComboBox", makeFormWidget<SubpartComboBox>},
-    {"SubpartListView", makeFormWidget<SubpartListView>},
-    {"ObserverGroupBox", makeFormWidget<ObserverGroupBox>},
-    {"PaletteBoxSection", makeFormWidget<PaletteBoxSection>},
-    {"ObserverButton", makeFormWidget<ObserverButton>},
-    {"ObserverCheckBox", makeFormWidget<ObserverCheckBox>},
-    {"ConfirmingObserverCheckBox", makeFormWidget<ConfirmingObserverCheckBox>},
-    {"ObserverStringCheckBox", makeFormWidget<ObserverStringCheckBox>},
-    {"ResourceChooser", makeFormWidget<ResourceChooser>},
-    {"ObserverColorPicker", makeFormWidget<ObserverColorPicker>},
-    {"ObserverComboBox", makeFormWidget<ObserverComboBox>},
-    {"ObserverLabel", makeFormWidget<ObserverLabel>},
-    {"ObserverLineEdit", makeFormWidget<ObserverLineEdit>},
-    {"ObserverPoint", makeFormWidget<ObserverPoint>},
-    {"ObserverRadioGroup", makeFormWidget<ObserverRadioGroup>},
-    {"ObserverSlider", makeFormWidget<ObserverSlider>},
-    {"ObserverSpinBox", makeFormWidget<ObserverSpinBox>},
-    {"UnitChooser", makeFormWidget<UnitChooser>},
-    {"RadioButton", makeFormWidget<RadioButton>},
-    {"ValueMapListBox", makeFormWidget<ValueMapListBox>},
-    {"ResourceListBox", makeFormWidget<ResourceListBox>},
-    {"FontChooser", makeFormWidget<FontChooser>},
-    {"PropertyListBox", makeFormWidget<PropertyListBox>},
-    {"PropertyLabel", makeFormWidget<PropertyLabel>},
-    {"ResourceDropdown", makeFormWidget<ResourceDropdown>},
+    formWidgetRow<GroupBox>("GroupBox"),
+    formWidgetRow<GroupRadioButton>("GroupRadioButton"),
+    formWidgetRow<SubpartComboBox>("SubpartComboBox"),
+    formWidgetRow<SubpartListView>("SubpartListView"),
+    formWidgetRow<ObserverGroupBox>("ObserverGroupBox"),
+    formWidgetRow<PaletteBoxSection>("PaletteBoxSection"),
+    formWidgetRow<ObserverButton>("ObserverButton"),
+    formWidgetRow<ObserverCheckBox>("ObserverCheckBox"),
+    formWidgetRow<ConfirmingObserverCheckBox>("ConfirmingObserverCheckBox"),
+    formWidgetRow<ObserverStringCheckBox>("ObserverStringCheckBox"),
+    formWidgetRow<ResourceChooser>("ResourceChooser"),
+    formWidgetRow<ObserverColorPicker>("ObserverColorPicker"),
+    formWidgetRow<ObserverComboBox>("ObserverComboBox"),
+    formWidgetRow<ObserverLabel>("ObserverLabel"),
+    formWidgetRow<ObserverLineEdit>("ObserverLineEdit"),
+    formWidgetRow<ObserverPoint>("ObserverPoint"),
+    formWidgetRow<ObserverRadioGroup>("ObserverRadioGroup"),
+    formWidgetRow<ObserverSlider>("ObserverSlider"),
+    formWidgetRow<ObserverSpinBox>("ObserverSpinBox"),
+    formWidgetRow<UnitChooser>("UnitChooser"),
+    formWidgetRow<RadioButton>("RadioButton"),
+    formWidgetRow<ValueMapListBox>("ValueMapListBox"),
+    formWidgetRow<ResourceListBox>("ResourceListBox"),
+    formWidgetRow<FontChooser>("FontChooser"),
+    formWidgetRow<PropertyListBox>("PropertyListBox"),
+    formWidgetRow<PropertyLabel>("PropertyLabel"),
+    formWidgetRow<ResourceDropdown>("ResourceDropdown"),
 };
+
+const FormWidgetRow* findFormWidget(const QString& className)
+{
+    const auto* row = std::find_if(std::begin(s_formWidgets), std::end(s_formWidgets), [&](const FormWidgetRow& entry) {
+        return className == QLatin1String(entry.className);
+    });
+    return row == std::end(s_formWidgets) ? nullptr : row;
+}
 
 } // namespace
 
@@ -79,8 +93,20 @@ CoreWidgetFactory::~CoreWidgetFactory() = default;
 
 QWidget* CoreWidgetFactory::createWidget(const QString& className, QWidget* parent, const QString& name)
 {
-    const auto* row = std::find_if(std::begin(s_formWidgets), std::end(s_formWidgets), [&](const FormWidgetRow& entry) {
-        return className == QLatin1String(entry.className);
-    });
-    return row == std::end(s_formWidgets) ? nullptr : row->make(parent, name);
+    const FormWidgetRow* row = findFormWidget(className);
+    return row ? row->make(parent, name) : nullptr;
+}
+
+const QMetaObject* CoreWidgetFactory::metaObjectOf(const QString& className)
+{
+    const FormWidgetRow* row = findFormWidget(className);
+    return row ? row->metaObject : nullptr;
+}
+
+QStringList CoreWidgetFactory::classNames()
+{
+    QStringList names;
+    for (const FormWidgetRow& row : s_formWidgets)
+        names.append(QLatin1String(row.className));
+    return names;
 }

@@ -1,36 +1,11 @@
 #include "zkeditor/formLoader.h"
 
+#include "zkeditor/formDescription.h"
 #include "zkeditor/formFactory.h"
 
 #include <QBuffer>
 #include <QCoreApplication>
 #include <QUiLoader>
-#include <QXmlStreamReader>
-
-namespace {
-
-// The toolkit reads forms recursively, so a form that is nothing but nesting would overflow the stack.
-bool isFormTooDeep(const QByteArray& form)
-{
-    QXmlStreamReader reader(form);
-    int depth = 0;
-    while (!reader.atEnd()) {
-        switch (reader.readNext()) {
-        case QXmlStreamReader::StartElement:
-            if (++depth > FormLoader::maximumDepth)
-                return true;
-            break;
-        case QXmlStreamReader::EndElement:
-            --depth;
-            break;
-        default:
-            break;
-        }
-    }
-    return false; // what is wrong with it otherwise, the toolkit says
-}
-
-} // namespace
 
 /// The toolkit's loader, which asks our factories first.
 class FormLoader::Reader : public QUiLoader
@@ -78,8 +53,12 @@ const QList<FormFactory*>& FormLoader::factories() const
 
 QWidget* FormLoader::loadForm(const QByteArray& form, QWidget* parent)
 {
-    if (isFormTooDeep(form)) {
-        qWarning("FormLoader: the form is nested more than %d levels deep", maximumDepth);
+    // The toolkit takes every form at its word: nesting without end, grids of a thousand million rows, and classes that
+    // refine themselves would end the program.
+    FormDescription description;
+    FormFinding error;
+    if (!description.read(form, error)) {
+        qWarning("FormLoader: line %lld: %s", error.line, qPrintable(error.text));
         return nullptr;
     }
     QBuffer device;

@@ -21,12 +21,10 @@ public:
     void addFactory(FormFactory* factory);
     const QList<FormFactory*>& factories() const;
 
-    /// Makes the widgets of a form; null when it cannot be read, is nested too deeply to be one, or its top widget is
-    /// of an unknown class. The new widget is owned by the parent, or without one by the caller.
+    /// Makes the widgets of a form; null, with a warning, when it cannot be read or would not be safe to read
+    /// (FormDescription says what is not), or its top widget is of an unknown class. The new widget is owned by the
+    /// parent, or without one by the caller.
     QWidget* loadForm(const QByteArray& form, QWidget* parent);
-
-    /// Deepest nesting of elements that is read.
-    static constexpr int maximumDepth = 200;
 
 private:
     class Reader;

@@ -3,6 +3,7 @@
 #include "zkcore/base/assert.h"
 #include "zkcore/model/documentImpl.h"
 #include "zkcore/model/view.h"
+#include "zkeditor/formGate.h"
 #include "zkeditor/loadUIFromResource.h"
 #include "zkeditor/widgets/formSections.h"
 #include "zkeditor/widgets/msgPane.h"
@@ -206,7 +207,7 @@ void PropPalette::createPartControlPane(const std::set<ElementImpl*>& elements, 
     const ClassId cid = element->classId();
     const std::set<NodeImpl*> nodes = selectedNodes();
     FormSections sections;
-    for (std::unique_ptr<QWidget>& form : getFormsForPart(element)) {
+    for (std::unique_ptr<QWidget>& form : getFormsForPart(element, nodes)) {
         if (!form)
             qFatal("PropPalette: Form contained no PaletteBoxSection");
         sections.add(std::move(form), m_document, nodes);
@@ -223,10 +224,15 @@ void PropPalette::createPartControlPane(const std::set<ElementImpl*>& elements, 
     }
 }
 
-std::vector<std::unique_ptr<QWidget>> PropPalette::getFormsForPart(const ElementImpl* element) const
+std::vector<std::unique_ptr<QWidget>> PropPalette::getFormsForPart(const ElementImpl* element,
+                                                                   const std::set<NodeImpl*>& nodes) const
 {
     std::vector<std::unique_ptr<QWidget>> forms;
     for (const QString& name : element->valueOfProperty(formsKey).toStringVector()) {
+        if (FormGate::instance().isClosed()) {
+            forms.push_back(FormGate::instance().load(name, element->prototype(), *m_document->getNodeDb(), nodes));
+            continue;
+        }
         const Resource resource(name);
         if (resource.isValid())
             forms.emplace_back(loadUIFromResource(resource, nullptr));

@@ -69,7 +69,8 @@ protected:
 
 private:
     void init();
-    std::vector<std::unique_ptr<QWidget>> getFormsForPart(const ElementImpl* element) const;
+    std::vector<std::unique_ptr<QWidget>> getFormsForPart(const ElementImpl* element,
+                                                          const std::set<NodeImpl*>& nodes) const;
     void createPanelTopArea(QWidget* parent);
     void addTopArea(QWidget* parent, const std::set<NodeImpl*>& nodes);
     void addSpacePane(QWidget* parent, const std::set<SpaceImpl*>& spaces);

@@ -28,6 +28,18 @@ bool Package::load(const QString& folder, QString& error)
     return PackageRegistry::instance().load(folder, false, error);
 }
 
+QStringList Package::faults(const QString& folder)
+{
+    all();
+    return PackageRegistry::instance().faults(folder);
+}
+
+void Package::unload(const QString& name)
+{
+    all();
+    PackageRegistry::instance().unload(name);
+}
+
 QString Package::userFolder()
 {
     return QStandardPaths::writableLocation(QStandardPaths::AppDataLocation) + QStringLiteral("/packages");

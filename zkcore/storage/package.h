@@ -29,6 +29,12 @@ public:
     static const std::vector<std::unique_ptr<Package>>& all();
     /// Loads one more package folder. False, with the message, when it is broken; nothing of it is kept then.
     static bool load(const QString& folder, QString& error);
+    /// What is wrong with a package folder: "FILE:LINE:COLUMN: reason" for each fault, at most one for each class;
+    /// empty when it could be loaded. Nothing of it is kept.
+    static QStringList faults(const QString& folder);
+    /// Forgets the package of that name with its resources, so that another copy of it can be looked at. Documents and
+    /// packages that use it keep what they have. For tools.
+    static void unload(const QString& name);
     /// Where packages of the user stand: "packages" in the application's data folder.
     static QString userFolder();
     /// Adds the class to the user's own package "user-DOMAIN" of the class's domain and writes its package.xml (the old

@@ -17,6 +17,8 @@ public:
     bool raise(const PackageElement& at, const QString& reason);
     bool raise(qint64 line, qint64 column, const QString& reason);
     bool isRaised() const { return !m_reason.isNull(); }
+    /// Forgets it, so that the next one can be noted.
+    void clear() { m_reason = QString(); }
     /// "FILE:LINE:COLUMN: reason"
     QString message(const QString& fileName) const;
 

@@ -15,6 +15,9 @@ namespace {
 /// Deep enough for any sensible chain of bases and subparts, and far from the end of the stack.
 constexpr int greatestClassDepth = 100;
 
+/// More are of no use to anybody.
+constexpr qsizetype greatestNumberOfFaults = 100;
+
 QString quotedClass(ClassId cid)
 {
     return QLatin1Char('"') + findStringForCid(cid) + QLatin1Char('"');
@@ -68,6 +71,45 @@ std::unique_ptr<Package> PackageReader::readPackage(const PackageElement& root, 
     if (!checkRules())
         return nullptr;
     return package;
+}
+
+QStringList PackageReader::faults(const QString& folder, const KnownClasses& known)
+{
+    QString error;
+    if (readFolder(folder, known, error))
+        return {};
+    // Read again, class by class.
+    QFile file(QDir(folder).filePath(QStringLiteral("package.xml")));
+    PackageReader reader(known);
+    PackageElement root;
+    QStringList all;
+    if (file.open(QIODevice::ReadOnly) && PackageElement::read(file, root, reader.m_fault))
+        all = reader.collectFaults(root, folder);
+    return all.isEmpty() ? QStringList{error} : all;
+}
+
+QStringList PackageReader::collectFaults(const PackageElement& root, const QString& folder)
+{
+    const std::unique_ptr<Package> package(new Package);
+    package->m_folder = folder;
+    m_package = package.get();
+    if (!readHead(root, *package) || !collectClasses(root))
+        return {};
+    QStringList all;
+    for (const Entry& entry : m_entries) {
+        if (resolve(entry.cid, *entry.element, 0))
+            continue;
+        if (m_fault.isRaised())
+            all.append(m_fault.message(QDir(folder).filePath(QStringLiteral("package.xml"))));
+        m_fault.clear();
+        if (all.size() == greatestNumberOfFaults)
+            break;
+        // What stands half read is what the fault was found in, and what needs that.
+        for (Entry& begun : m_entries)
+            if (begun.state == Entry::Begun)
+                begun.state = Entry::Faulty;
+    }
+    return all;
 }
 
 bool PackageReader::readHead(const PackageElement& root, Package& package)
@@ -132,6 +174,8 @@ bool PackageReader::resolve(ClassId cid, const PackageElement& user, int depth)
     Entry& entry = m_entries[static_cast<size_t>(index)];
     if (entry.state == Entry::Done)
         return true;
+    if (entry.state == Entry::Faulty)
+        return false; // said already
     if (entry.state == Entry::Begun)
         return fail(user, tr("the class %1 needs itself as a base or subpart").arg(quotedClass(cid)));
     if (depth > greatestClassDepth)

@@ -7,6 +7,7 @@
 #include <QCoreApplication>
 #include <QHash>
 #include <QString>
+#include <QStringList>
 #include <functional>
 #include <memory>
 #include <vector>
@@ -32,6 +33,9 @@ public:
     /// As above, from any device; `folder` is where the package stands or will stand.
     static std::unique_ptr<Package> read(QIODevice& device, const QString& folder, const KnownClasses& known,
                                          QString& error);
+    /// The messages for all faults of a folder: of the first one where the file as a whole is faulty, otherwise of the
+    /// first one in each class that does not just follow from another class's.
+    static QStringList faults(const QString& folder, const KnownClasses& known);
 
 private:
     explicit PackageReader(const KnownClasses& known) : m_known(known), m_properties(m_fault) {}
@@ -41,10 +45,11 @@ private:
     {
         const PackageElement* element = nullptr;
         ClassId cid = INVALID_CID;
-        enum State { Waiting, Begun, Done } state = Waiting;
+        enum State { Waiting, Begun, Done, Faulty } state = Waiting;
     };
 
     std::unique_ptr<Package> readPackage(const PackageElement& root, const QString& folder);
+    QStringList collectFaults(const PackageElement& root, const QString& folder);
     bool readHead(const PackageElement& root, Package& package);
     bool collectClasses(const PackageElement& root);
     /// Reads the class after those that it needs; `user` is the element that needs it.

@@ -6,6 +6,7 @@
 
 #include <QDir>
 #include <QFileInfo>
+#include <algorithm>
 
 namespace {
 
@@ -38,25 +39,30 @@ const std::vector<std::unique_ptr<Package>>& PackageRegistry::packages()
     return m_packages;
 }
 
+bool PackageRegistry::addResources(const QString& path, QString& error)
+{
+    const QDir dir(path);
+    QString file;
+    QString reason;
+    if (findByName(dir.dirName())) {
+        file = dir.filePath(QStringLiteral("package.xml"));
+        reason = tr("there is a package \"%1\" already").arg(dir.dirName());
+    } else if (ResourceTable::instance().addFolder(path, &file, &reason)) {
+        return true;
+    }
+    PackageFault fault;
+    fault.raise(1, 1, reason);
+    error = fault.message(file);
+    return false;
+}
+
 bool PackageRegistry::load(const QString& folder, bool builtIn, QString& error)
 {
     const QString path = QDir::cleanPath(folder);
-    const QDir dir(path);
-    const auto refuse = [&error](const QString& file, const QString& reason) {
-        PackageFault fault;
-        fault.raise(1, 1, reason);
-        error = fault.message(file);
-        return false;
-    };
-    if (findByName(dir.dirName()))
-        return refuse(dir.filePath(QStringLiteral("package.xml")),
-                      tr("there is a package \"%1\" already").arg(dir.dirName()));
     ResourceTable& resources = ResourceTable::instance();
     const ResourceTable::Snapshot before = resources.snapshot();
-    QString faultyFile;
-    QString reason;
-    if (!resources.addFolder(path, &faultyFile, &reason))
-        return refuse(faultyFile, reason);
+    if (!addResources(path, error))
+        return false;
     std::unique_ptr<Package> package = PackageReader::readFolder(
         path, [this](ClassId cid) { return prototype(cid); }, error);
     if (!package) {
@@ -68,6 +74,36 @@ bool PackageRegistry::load(const QString& folder, bool builtIn, QString& error)
         registerClass(package.get(), added);
     m_packages.push_back(std::move(package));
     return true;
+}
+
+QStringList PackageRegistry::faults(const QString& folder)
+{
+    const QString path = QDir::cleanPath(folder);
+    ResourceTable& resources = ResourceTable::instance();
+    const ResourceTable::Snapshot before = resources.snapshot();
+    QString error;
+    if (!addResources(path, error))
+        return {error};
+    const QStringList faults = PackageReader::faults(path, [this](ClassId cid) { return prototype(cid); });
+    resources.restore(before);
+    return faults;
+}
+
+void PackageRegistry::unload(const QString& name)
+{
+    const auto named = [&name](const std::unique_ptr<Package>& package) { return package->name() == name; };
+    const auto found = std::find_if(m_packages.begin(), m_packages.end(), named);
+    if (found == m_packages.end())
+        return;
+    for (const std::shared_ptr<NodePrototype>& prototype : (*found)->m_classes) {
+        m_packageOf.remove(prototype->cid);
+        m_prototypes.remove(prototype->cid);
+    }
+    m_packages.erase(found);
+    ResourceTable::Snapshot resources = ResourceTable::instance().snapshot();
+    const QString prefix = name + QLatin1Char('/');
+    resources.removeIf([&prefix](const auto& entry) { return entry.key().startsWith(prefix); });
+    ResourceTable::instance().restore(resources);
 }
 
 void PackageRegistry::clear()

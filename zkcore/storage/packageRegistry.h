@@ -6,6 +6,7 @@
 #include <QCoreApplication>
 #include <QHash>
 #include <QString>
+#include <QStringList>
 #include <functional>
 #include <memory>
 #include <vector>
@@ -26,12 +27,17 @@ public:
     const NodePrototype* prototype(ClassId cid) const { return m_prototypes.value(cid).get(); }
     /// Registers the folder's resources, then reads its classes; takes both back when the package is faulty.
     bool load(const QString& folder, bool builtIn, QString& error);
+    /// All faults that reading the folder meets; keeps nothing of it.
+    QStringList faults(const QString& folder);
+    void unload(const QString& name);
     bool addUserClass(const std::shared_ptr<NodePrototype>& prototype, QString& error);
     void clear();
 
 private:
     void loadBuiltIn();
     void loadUserPackages();
+    /// Registers the resources of a folder that is no package yet.
+    bool addResources(const QString& path, QString& error);
     Package* findByName(const QString& name) const;
     void registerClass(Package* package, const std::shared_ptr<NodePrototype>& prototype);
 

@@ -1,7 +1,9 @@
 #include "zkeditor/widgets/spacePropertyPane.h"
 
 #include "zkcore/model/documentImpl.h"
+#include "zkcore/model/nodeDb.h"
 #include "zkcore/model/spaceImpl.h"
+#include "zkeditor/formGate.h"
 #include "zkeditor/loadUIFromResource.h"
 #include "zkeditor/widgets/formSections.h"
 #include "zkeditor/widgets/msgPane.h"
@@ -15,7 +17,13 @@ void addSpaceForms(FormSections& sections, const Value& names, DocumentImpl* doc
                    ClassId cid)
 {
     sections.beginGroup();
+    const NodeDb& classes = *document->getNodeDb();
+    const NodePrototype* prototype = classes.lookupPrototype(cid);
     for (const QString& name : names.toStringVector()) {
+        if (prototype && FormGate::instance().isClosed()) {
+            sections.add(FormGate::instance().load(name, *prototype, classes, nodes), document, nodes, cid);
+            continue;
+        }
         const Resource resource(name);
         if (!resource.isValid())
             continue;

@@ -1,0 +1,42 @@
+#include "zkeditor/formFaultSection.h"
+
+#include <QLabel>
+#include <QVBoxLayout>
+
+namespace {
+
+constexpr size_t shownFindings = 8;
+
+}
+
+FormFaultSection::FormFaultSection(const QString& form, const std::vector<FormFinding>& findings, QWidget* parent)
+    : PaletteBoxSection(parent, QStringLiteral("faultyForm"))
+{
+    setLabel(tr("Faulty Form"));
+    const QString heading =
+        tr("The form \"%1\" is faulty and is not shown. What its author has to mend:").arg(form.left(60));
+    QString text = heading;
+    for (size_t i = 0; i < findings.size() && i < shownFindings; ++i)
+        text += QStringLiteral("\n\n") + tr("Line %1: %2").arg(findings[i].line).arg(findings[i].description());
+    if (findings.size() > shownFindings)
+        text += QStringLiteral("\n\n") + tr("and %n more", nullptr, static_cast<int>(findings.size() - shownFindings));
+    auto* label = new QLabel(text, this);
+    label->setObjectName(QStringLiteral("formFaults"));
+    label->setTextFormat(Qt::PlainText);
+    label->setWordWrap(true);
+    label->setAlignment(Qt::AlignLeading | Qt::AlignTop);
+    label->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    label->setFocusPolicy(Qt::StrongFocus);
+    label->setAccessibleName(heading);
+    label->setAccessibleDescription(text);
+    // Names in the text must not widen the pane.
+    label->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    auto* column = new QVBoxLayout(this);
+    column->addWidget(label);
+}
+
+bool FormFaultSection::hasSections(QWidget* form)
+{
+    return qobject_cast<PaletteBoxSection*>(form) ||
+           form->findChild<PaletteBoxSection*>(QString(), Qt::FindDirectChildrenOnly);
+}
