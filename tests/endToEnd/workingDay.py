@@ -23,9 +23,12 @@ class Day:
         self.documents.mkdir()
         self.file = self.documents / "night light.zkdoc"
 
+    def start(self, *arguments):
+        self.bench = Workbench(self.desktop, self.program, *arguments)
+        return self.bench
+
     def new_document(self):
-        self.bench = Workbench(self.desktop, self.program)
-        bench = self.bench
+        bench = self.start()
         bench.titled("^Untitled - zkauthor")
         bench.resize(bench.window, 30, 40, 1400, 1000)
         bench.measure()
@@ -386,9 +389,54 @@ class Day:
         bench.titled("^night light.zkdoc - ")
         bench.measure()
 
+    def quit_and_return(self):
+        bench = self.bench
+        bench.palette("Locking", "shift+F4")
+        bench.click_at(210, 40)
+        bench.status("1 selected")
+        form = bench.form("LED")
+        bench.section(form, "General")
+        form.find("text", "Title").write("Lamp of the night", end=None)
+        key("ctrl+q")  # what is half typed is entered, then asked about
+        bench.answer("Changes not saved", "Save", "alert")
+        becomes("the way in which the program ended", lambda: bench.program.process.poll(), 0)
+        expect(parts_of(self.file)["lamp"]["title"] == "Lamp of the night", "the last words in the file")
+
+        bench = self.start(self.file)
+        bench.titled("^night light.zkdoc - ")
+        bench.measure()
+        bench.click_at(10, 190)
+        picture = bench.picture()
+        before = {name: bench.palette(name).rect for name in ("Side Pane", "Locking")}
+        frame = bench.window.rect
+        key("ctrl+q")
+        becomes("the way in which the program ended", lambda: bench.program.process.poll(), 0)
+
+        bench = self.start()
+        becomes("the place of the window", lambda: bench.window.rect, frame)
+        for name, rect in before.items():
+            becomes(f"the place of the palette {name}", lambda: bench.palette(name).rect, rect)
+        bench.part_in_tree("Amber lamp")
+        bench.section(bench.palette("Side Pane"), "Models")
+        bench.window.find("tree", "Models").find("table cell", re.compile("^crossing"))
+        bench.menu("File", "Open Recent", re.compile(r"night light\.zkdoc$"))
+        bench.titled("^night light.zkdoc - ")
+        bench.measure()
+        bench.click_at(10, 190)
+        bench.same_picture(picture)
+        bench.click_at(210, 40)
+        bench.status("1 selected")
+        form = bench.form("LED")
+        bench.section(form, "Light")
+        becomes("the brightness", lambda: form.find("slider", "Brightness").value, 7)
+        bench.section(form, "General")
+        becomes("the title", lambda: form.find("text", "Title").text, "Lamp of the night")
+        key("ctrl+q")
+        becomes("the way in which the program ended", lambda: bench.program.process.poll(), 0)
+
     CHAPTERS = [new_document, parts_from_the_tree, connections, property_form, several_at_once, locks, associations,
                 advanced, inspector, debugging, flowchart_strip, back_and_forth, custom_part, saving,
-                page_setup, pdf, models_browser, flowchart, back_to_the_document]
+                page_setup, pdf, models_browser, flowchart, back_to_the_document, quit_and_return]
 
     def run(self, last=None):
         start = time.monotonic()
