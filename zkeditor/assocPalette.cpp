@@ -10,6 +10,7 @@
 #include "zkeditor/associations.h"
 #include "zkeditor/widgets/associationList.h"
 #include "zkeditor/widgets/leadingLabel.h"
+#include "zkeditor/widgets/linkPane.h"
 #include "zkeditor/widgets/paletteBox.h"
 #include "zkeditor/widgets/paneScrollArea.h"
 
@@ -82,6 +83,10 @@ void AssocPalette::setupTopLevelWidgets()
     m_subparts = addList(tr("Subparts"));
     m_reflections = addList(tr("Reflections"));
     m_popup = addList(tr("Pop-up"));
+    m_newLink = new LinkPane;
+    Fonts::setFontRecursively(m_newLink, Fonts::Normal);
+    m_box->addItem(m_newLink, tr("New Link"));
+    m_box->showItem(m_newLink, false);
     area->setWidget(body);
     dockLayout()->addWidget(area);
     connect(m_box, &PaletteBox::layoutChanged, this, &AssocPalette::onChildLayoutChanged);
@@ -143,18 +148,20 @@ void AssocPalette::refresh()
     const ElementImplSet selection = m_document ? m_document->getSelection() : ElementImplSet();
     m_box->setEnabled(selection.size() == 1);
     if (selection.size() == 1) {
-        const ElementImpl& element = **selection.begin();
+        ElementImpl& element = **selection.begin();
         const Associations found(element);
         m_heading->setText(element.displayName());
         m_links->setAssociations(found.links);
         m_subparts->setAssociations(found.subparts);
         m_reflections->setAssociations(found.reflections);
         m_popup->setAssociations(found.popup);
+        m_newLink->setElement(&element);
     } else {
         m_heading->setText(selection.empty() ? tr("Select a part to see what it has to do with.")
                                              : tr("Multiple parts selected"));
         for (AssociationList* list : {m_links, m_subparts, m_reflections, m_popup})
             list->setAssociations({});
+        m_newLink->setElement(nullptr);
     }
     onChildLayoutChanged();
 }

@@ -9,13 +9,14 @@
 
 class AssociationList;
 class DocumentImpl;
+class LinkPane;
 class PaletteBox;
 class QLabel;
 struct Association;
 
 /// Shows what the selected part has to do with: the properties that it follows and that follow its own, its subparts,
-/// its reflections and its pop-up. What is clicked gets selected; links and reflections can be ended. A hidden palette
-/// does not follow the document.
+/// its reflections and its pop-up. What is clicked gets selected; links can be made, links and reflections ended. A
+/// hidden palette does not follow the document.
 class ZKEDITOR_EXPORT AssocPalette : public EditPalette
 {
     Q_OBJECT
@@ -57,4 +58,5 @@ private:
     AssociationList* m_subparts = nullptr;
     AssociationList* m_reflections = nullptr;
     AssociationList* m_popup = nullptr;
+    LinkPane* m_newLink = nullptr;
 };

@@ -1,11 +1,18 @@
 #include "zkeditor/assocPalette.h"
 
 #include "paneFixture.h"
+#include "zkcore/commands/deleteNodeCommand.h"
 #include "zkcore/commands/proxyCommands.h"
 #include "zkcore/commands/reflectCommand.h"
+#include "zkeditor/widgets/comboBox.h"
+#include "zkeditor/widgets/linkPane.h"
 #include "zkeditor/widgets/paletteBox.h"
+#include "zkeditor/widgets/propertyChoiceModel.h"
+#include "zkeditor/widgets/propertyListBox.h"
 
+#include <QLabel>
 #include <QSignalSpy>
+#include <QTreeView>
 #include <QTreeWidget>
 
 namespace {
@@ -135,4 +142,42 @@ TEST_F(AssocPaletteTest, CatchesUpWhenShownAgain)
     EXPECT_EQ(rows(Links).size(), 2);
     document.reset();
     QApplication::processEvents();
+}
+
+TEST_F(AssocPaletteTest, NewLinksAreMadeToo)
+{
+    auto* pane = palette->findChild<LinkPane*>();
+    auto* box = palette->findChild<PaletteBox*>();
+    PropertyListBox* targets = pane->targets();
+    select({other});
+    QApplication::processEvents();
+    EXPECT_EQ(targets->model()->rowCount(), 0); // closed at first
+    box->showItem(pane, true);
+    QApplication::processEvents();
+    ASSERT_TRUE(pane->properties()->findText("Follower") >= 0);
+    pane->properties()->setFocus();
+    QTest::keyClicks(pane->properties(), "Fol");
+    ASSERT_GT(targets->model()->rowCount(), 0);
+    const int row =
+        targets->model()->rowOf(PropertyAddress{tool->instanceId(), INVALID_CID, PropertyKey::fromString("armed")});
+    targets->view()->setCurrentIndex(targets->view()->model()->index(row, 0));
+    const int steps = undoSteps();
+    targets->link();
+    EXPECT_EQ(property(other, "follower")->proxySubject(), property(tool, "armed"));
+    EXPECT_EQ(undoSteps(), steps + 1);
+    EXPECT_EQ(rows(Links).size(), 4); // it follows and is followed
+    EXPECT_TRUE(targets->view()->currentIndex().isValid());
+
+    // The same property of what is selected next; another document, or none.
+    select({tool});
+    QApplication::processEvents();
+    EXPECT_EQ(pane->properties()->currentText(), QString("Follower"));
+    EXPECT_TRUE(targets->linkLabel()->text().contains("Armed"));
+    run<DeleteNodeCommand>(*document, Node(tool), Command::PushUndo);
+    QApplication::processEvents();
+    EXPECT_EQ(targets->model()->rowCount(), 0);
+    document->undo();
+    QApplication::processEvents();
+    palette->setDocument(nullptr);
+    EXPECT_EQ(targets->model()->rowCount(), 0);
 }

@@ -159,6 +159,9 @@ QPixmap decodedImage(const Resource& resource, const QSize& wanted, double devic
         const QSize size = pixelSize(image.size(), wanted, devicePixelRatio);
         if (!isWithinLimits(size))
             return oversizedPicture(resource, size);
+        // A picture with a few colours of its own, made smaller among these, would turn into a pattern of dots.
+        if (image.pixelFormat().colorModel() == QPixelFormat::Indexed)
+            image = std::move(image).convertToFormat(QImage::Format_ARGB32_Premultiplied);
         image = image.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
     }
     return QPixmap::fromImage(std::move(image));

@@ -71,8 +71,8 @@ void EditDelegate::setModelData(QWidget* editor, QAbstractItemModel* model, cons
     if (!edit->isModified())
         return;
     const QString text = edit->text();
-    if (const QString reason = m_check ? m_check(index, text) : QString(); !reason.isEmpty())
-        Q_EMIT refused(reason);
-    else
+    const QString reason = m_check ? m_check(index, text) : QString();
+    Q_EMIT judged(reason);
+    if (reason.isEmpty())
         model->setData(index, text);
 }

@@ -27,8 +27,8 @@ public:
     void setModelData(QWidget* editor, QAbstractItemModel* model, const QModelIndex& index) const override;
 
 Q_SIGNALS:
-    /// A text was given up because it is not allowed.
-    void refused(const QString& reason) const;
+    /// A text is about to be taken, with an empty reason, or was given up because it is not allowed.
+    void judged(const QString& reason) const;
 
 private:
     Check m_check;

@@ -29,7 +29,8 @@ namespace {
 constexpr double metresPerPoint = 0.0254 / 72;
 constexpr double leastFontPoints = 1;
 constexpr double mostFontPoints = 1000;
-constexpr int sampleHeight = 40;
+constexpr int leastSampleHeight = 40;
+constexpr int mostSampleHeight = 120; // of greater letters a piece is seen
 
 struct WeightName
 {
@@ -78,7 +79,7 @@ FontChooser::FontChooser(QWidget* parent, const QString& name)
     m_sample->setText(tr("AaBbYyZz 123"));
     m_sample->setAccessibleName(tr("Sample"));
     m_sample->setFrameShape(QFrame::StyledPanel);
-    m_sample->setFixedHeight(sampleHeight);
+    m_sample->setFixedHeight(leastSampleHeight);
     m_sample->setMinimumWidth(1);
     auto* more = new QAction(tr("All fonts..."), this);
     QToolButton* moreButton = toolAction::addButton(this, more, {});
@@ -98,7 +99,7 @@ FontChooser::FontChooser(QWidget* parent, const QString& name)
     setTabOrder(m_family, moreButton);
     setTabOrder(moreButton, m_size);
     setFocusProxy(m_family);
-    m_size->lineEdit()->installEventFilter(this);
+    m_size->installEventFilter(this); // it has the focus of its line edit
     connect(m_family, &QComboBox::activated, this,
             [this](int index) { writeAttribute(Family, Value(m_family->itemText(index))); });
     connect(m_size, &QComboBox::activated, this, &FontChooser::commitSize);
@@ -194,6 +195,7 @@ void FontChooser::onPropertyValueChanged(Property, Value)
     m_weight->setCurrentIndex(common[Weight].isValid() ? m_weight->findData(common[Weight].toInt()) : -1);
     m_italic->setCheckBoxState(common[Italic].toBool(), !common[Italic].isValid());
     m_sample->setFont(fontFrom(m_props.front()->getValue().toValueMap()));
+    m_sample->setFixedHeight(qBound(leastSampleHeight, m_sample->fontMetrics().height() + 8, mostSampleHeight));
     m_sample->setEnabled(hasCompatibleValues()); // of the first only
 }
 
@@ -271,7 +273,7 @@ void FontChooser::commitSize()
 bool FontChooser::eventFilter(QObject* object, QEvent* event)
 {
     QLineEdit* edit = m_size->lineEdit();
-    if (object != edit || m_props.empty() || !edit->isModified())
+    if (object != m_size || m_props.empty() || !edit->isModified())
         return QWidget::eventFilter(object, event);
     if (event->type() == QEvent::FocusOut && static_cast<QFocusEvent*>(event)->reason() != Qt::PopupFocusReason) {
         commitSize();

@@ -6,6 +6,7 @@
 #include <QContextMenuEvent>
 #include <QFocusEvent>
 #include <QGuiApplication>
+#include <QKeyEvent>
 #include <QKeySequence>
 #include <QMenu>
 
@@ -50,6 +51,19 @@ QMenu* LineEdit::createPopupMenu()
         ->setEnabled(!text().isEmpty() && text() != selectedText());
     connect(m_popupMenu, &QObject::destroyed, this, &LineEdit::onPopupMenuDestroyed);
     return m_popupMenu;
+}
+
+bool LineEdit::event(QEvent* event)
+{
+    if (event->type() == QEvent::ShortcutOverride) {
+        const auto* key = static_cast<QKeyEvent*>(event);
+        if ((key->matches(QKeySequence::Undo) && (!isModified() || !isUndoAvailable())) ||
+            (key->matches(QKeySequence::Redo) && !isRedoAvailable())) {
+            event->ignore();
+            return false;
+        }
+    }
+    return QLineEdit::event(event);
 }
 
 bool LineEdit::popupMenuActive() const

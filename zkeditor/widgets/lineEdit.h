@@ -6,7 +6,8 @@
 
 class QMenu;
 
-/// A line edit with the product's own edit menu, and a signal for the loss of the keyboard focus.
+/// A line edit with the product's own edit menu, and a signal for the loss of the keyboard focus. The keys of undo and
+/// redo are the document's while nothing is typed that could be taken back.
 class ZKEDITOR_EXPORT LineEdit : public QLineEdit
 {
     Q_OBJECT
@@ -28,6 +29,7 @@ protected Q_SLOTS:
     void onPopupMenuDestroyed(QObject* popup);
 
 protected:
+    bool event(QEvent* event) override;
     void contextMenuEvent(QContextMenuEvent* event) override;
     void focusOutEvent(QFocusEvent* event) override;
 

@@ -5,11 +5,14 @@
 #include "zkeditor/widgets/toolAction.h"
 
 #include <QAction>
+#include <QApplication>
 #include <QEvent>
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QItemSelectionModel>
+#include <QKeyEvent>
 #include <QLabel>
+#include <QPainter>
 #include <QTimer>
 #include <QToolButton>
 #include <QTreeView>
@@ -20,11 +23,94 @@
 namespace {
 
 constexpr int visibleListRows = 5;
+constexpr int usualSectionWidth = 84; // three go into the narrowest pane
+
+/// Rows of which the cells can be reached with the keyboard: the toolkit's tree only goes from row to row while whole
+/// rows are selected.
+class ListRows : public QTreeView
+{
+public:
+    using QTreeView::QTreeView;
+
+    QSize sizeHint() const override
+    {
+        const int row = fontMetrics().height() + 6; // whatever the rows are: the pane must not jump with them
+        const int heading = header()->isHidden() ? 0 : header()->sizeHint().height();
+        return {QTreeView::sizeHint().width(), heading + visibleListRows * row + 2 * frameWidth()};
+    }
+
+    void setPlaceholderText(const QString& text)
+    {
+        m_placeholder = text;
+        viewport()->update();
+    }
+
+protected:
+    void paintEvent(QPaintEvent* event) override
+    {
+        QTreeView::paintEvent(event);
+        if (m_placeholder.isEmpty() || !model() || model()->rowCount() > 0)
+            return;
+        QPainter painter(viewport());
+        painter.setPen(palette().color(QPalette::PlaceholderText));
+        painter.drawText(viewport()->rect().adjusted(4, 2, -4, -2), Qt::AlignLeading | Qt::TextWordWrap, m_placeholder);
+    }
+
+    /// What the keyboard comes to can be removed or linked at once: the toolkit makes a row current, but selects none.
+    void focusInEvent(QFocusEvent* event) override
+    {
+        QTreeView::focusInEvent(event);
+        const Qt::FocusReason reason = event->reason();
+        const bool byKeys = reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason ||
+                            reason == Qt::ShortcutFocusReason || reason == Qt::OtherFocusReason;
+        if (byKeys && currentIndex().isValid() && !selectionModel()->hasSelection())
+            selectionModel()->select(currentIndex(), QItemSelectionModel::Select | QItemSelectionModel::Rows);
+    }
+
+    QModelIndex moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) override
+    {
+        const QModelIndex current = currentIndex();
+        const int step = stepOf(action);
+        if (step == 0 || !current.isValid() || editTriggers() == NoEditTriggers)
+            return QTreeView::moveCursor(action, modifiers);
+        const bool wraps = action == MoveNext || action == MovePrevious;
+        int place = header()->visualIndex(current.column());
+        int row = current.row();
+        do {
+            place += step;
+            if (wraps && (place < 0 || place >= header()->count())) {
+                row += step;
+                place = step > 0 ? 0 : header()->count() - 1;
+            }
+        } while (place >= 0 && place < header()->count() && header()->isSectionHidden(header()->logicalIndex(place)));
+        const QModelIndex next = model()->index(row, header()->logicalIndex(place));
+        return next.isValid() || wraps ? next : current;
+    }
+
+private:
+    int stepOf(CursorAction action) const
+    {
+        switch (action) {
+        case MoveLeft:
+            return isRightToLeft() ? 1 : -1;
+        case MoveRight:
+            return isRightToLeft() ? -1 : 1;
+        case MoveNext:
+            return 1;
+        case MovePrevious:
+            return -1;
+        default:
+            return 0;
+        }
+    }
+
+    QString m_placeholder;
+};
 
 } // namespace
 
 ListEditor::ListEditor(QWidget* parent, const QString& name)
-    : QWidget(parent), m_view(new QTreeView(this)), m_delegate(new EditDelegate(this)), m_buttons(new QHBoxLayout),
+    : QWidget(parent), m_view(new ListRows(this)), m_delegate(new EditDelegate(this)), m_buttons(new QHBoxLayout),
       m_message(new QLabel(this))
 {
     setObjectName(name);
@@ -37,6 +123,9 @@ ListEditor::ListEditor(QWidget* parent, const QString& name)
     m_view->setEditTriggers(QAbstractItemView::DoubleClicked | QAbstractItemView::EditKeyPressed);
     m_view->setTextElideMode(Qt::ElideRight);
     m_view->header()->setStretchLastSection(true);
+    m_view->header()->setDefaultSectionSize(usualSectionWidth);
+    m_view->setContextMenuPolicy(Qt::ActionsContextMenu);
+    m_view->installEventFilter(this);
     m_message->setObjectName(QStringLiteral("message"));
     toolAction::makeMessageLabel(m_message);
     auto* column = new QVBoxLayout(this);
@@ -48,17 +137,12 @@ ListEditor::ListEditor(QWidget* parent, const QString& name)
     m_buttons->setSpacing(2);
     m_buttons->addStretch(1);
     setFocusProxy(m_view);
-    connect(m_delegate, &EditDelegate::refused, this, &ListEditor::setMessage);
+    connect(m_delegate, &EditDelegate::judged, this, &ListEditor::setMessage);
 }
 
 QSize ListEditor::sizeHint() const
 {
-    QSize hint = QWidget::sizeHint();
-    const int rows = visibleListRows * (m_view->fontMetrics().height() + 4) + 2 * m_view->frameWidth();
-    const int others = hint.height() - m_view->sizeHint().height();
-    hint.setHeight(others + rows);
-    hint.setWidth(fontMetrics().averageCharWidth() * 30);
-    return hint;
+    return {fontMetrics().averageCharWidth() * 30, QWidget::sizeHint().height()};
 }
 
 QString ListEditor::message() const
@@ -71,6 +155,12 @@ void ListEditor::setMessage(const QString& message)
     m_message->setText(message);
     m_message->setVisible(!message.isEmpty());
     m_view->setAccessibleDescription(message);
+}
+
+void ListEditor::setPlaceholderText(const QString& text)
+{
+    static_cast<ListRows*>(m_view)->setPlaceholderText(text);
+    m_view->setToolTip(text);
 }
 
 QAction* ListEditor::addButton(const char* icon, const QString& text, const QKeySequence& keys,
@@ -98,8 +188,12 @@ std::pair<QAction*, QAction*> ListEditor::addPlusMinus(const QString& plusText, 
 QAction* ListEditor::makeAction(const QString& text, std::function<void()> run)
 {
     auto* action = new QAction(text, this);
+    m_view->addAction(action); // in its menu
     connect(action, &QAction::triggered, this, [this, run = std::move(run)] {
         setMessage({});
+        // After a click on a button the keys are the list's: Del must not go where the focus was.
+        if (!isAncestorOf(QApplication::focusWidget()))
+            m_view->setFocus();
         run();
     });
     return action;
@@ -150,8 +244,22 @@ void ListEditor::showMixedSoon()
     });
 }
 
+bool ListEditor::eventFilter(QObject* object, QEvent* event)
+{
+    if (object != m_view)
+        return QWidget::eventFilter(object, event);
+    if (event->type() == QEvent::ShortcutOverride && m_view->selectionMode() == QAbstractItemView::ExtendedSelection &&
+        static_cast<QKeyEvent*>(event)->matches(QKeySequence::SelectAll)) {
+        event->accept();
+        return true;
+    }
+    return toolAction::takeKey(this, event);
+}
+
 bool ListEditor::event(QEvent* event)
 {
+    if (toolAction::takeKey(this, event))
+        return true;
     // The name that a form or the property gives this widget is the list's.
     if (event->type() == QEvent::Polish || event->type() == QEvent::FocusIn)
         m_view->setAccessibleName(accessibleName());

@@ -14,7 +14,8 @@ class QLabel;
 class QTreeView;
 
 /// A list with buttons below it, for editors of collections: what they share of looks, keys and messages. Ins adds, Del
-/// removes, F2 edits in place, Alt+Up and Alt+Down move; the buttons do the same.
+/// removes, F2 edits in place, Alt+Up and Alt+Down move; the buttons and the menu of the list do the same. In a list
+/// that is edited in place Left, Right and Tab go from cell to cell.
 class ZKEDITOR_EXPORT ListEditor : public QWidget
 {
     Q_OBJECT
@@ -49,7 +50,11 @@ protected:
     /// Selects rows alone and shows the first of them.
     void selectRows(const QList<int>& rows);
     bool event(QEvent* event) override;
+    bool eventFilter(QObject* object, QEvent* event) override;
     void changeEvent(QEvent* event) override;
+
+    /// Says in the list what it means that it is empty; the empty text says nothing.
+    void setPlaceholderText(const QString& text);
 
     /// Calls showMixed() when what is going on is over: while a change of several nodes goes through them one by one
     /// they differ for a moment, and the list must not lose what is selected in it for that.

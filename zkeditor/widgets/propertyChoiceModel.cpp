@@ -1,6 +1,7 @@
 #include "zkeditor/widgets/propertyChoiceModel.h"
 
 #include "zkcore/model/propertyImpl.h"
+#include "zkeditor/widgets/valueMapModel.h"
 
 #include <QApplication>
 #include <QCoreApplication>
@@ -104,6 +105,7 @@ void PropertyChoiceModel::clear()
 {
     m_document = nullptr;
     m_follower = Property();
+    m_linked = Property();
     setRows({});
 }
 
@@ -173,15 +175,14 @@ QVariant PropertyChoiceModel::data(const QModelIndex& index, int role) const
     case LabelColumn:
         return row->label;
     case TypeColumn:
-        return Value::typeAsString(propertyAt(index.row()).type());
+        return ValueMapModel::kindName(propertyAt(index.row()).type());
     case ValueColumn: {
         const Property property = propertyAt(index.row());
         const Formatter* formatter = property.getFormatter();
         return formatter ? formatter->toText(property.getValue()) : formatValueAsString(property.getValue());
     }
     case LinkColumn: {
-        if (m_follower.isValid() && m_follower.impl()->isProxy() &&
-            m_follower.impl()->proxySubject() == propertyAt(index.row()).impl())
+        if (m_linked.isValid() && m_linked.impl() == propertyAt(index.row()).impl())
             return tr("Linked");
         const QString reason = reasonAt(index.row());
         return reason.isEmpty() ? tr("Possible") : reason;

@@ -30,7 +30,7 @@ class ZKEDITOR_EXPORT PropertyChoiceModel : public RowsModel<PropertyChoiceRow>
     Q_OBJECT
 
 public:
-    enum Column { OwnerColumn, LabelColumn, TypeColumn, ValueColumn, LinkColumn, ColumnCount };
+    enum Column { OwnerColumn, LabelColumn, ValueColumn, LinkColumn, TypeColumn, ColumnCount };
     /// The text that a search looks at.
     static constexpr int searchRole = Qt::UserRole;
 
@@ -41,7 +41,9 @@ public:
     /// that the user sees of the part and its subparts. Linear in the number of nodes.
     void list(DocumentImpl* document, const Property& follower, InstanceId part);
     void clear();
-    /// Tells views that values may have changed.
+    /// The property that is followed already; invalid when it is none, or not the same for all.
+    void setLinked(const Property& target) { m_linked = target; }
+    /// Tells views that values and links may have changed.
     void refresh();
 
     /// Invalid when it is gone.
@@ -56,4 +58,5 @@ public:
 private:
     QPointer<DocumentImpl> m_document;
     Property m_follower;
+    Property m_linked;
 };

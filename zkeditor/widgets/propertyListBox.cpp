@@ -54,7 +54,12 @@ PropertyListBox::PropertyListBox(QWidget* parent, const QString& name)
     view()->setModel(m_found);
     view()->setSelectionMode(QAbstractItemView::SingleSelection);
     view()->setEditTriggers(QAbstractItemView::NoEditTriggers);
-    view()->installEventFilter(this);
+    const int letter = fontMetrics().averageCharWidth();
+    for (const auto& [section, letters] : {std::pair(PropertyChoiceModel::OwnerColumn, 11),
+                                           {PropertyChoiceModel::LabelColumn, 10},
+                                           {PropertyChoiceModel::ValueColumn, 6},
+                                           {PropertyChoiceModel::LinkColumn, 11}})
+        view()->header()->resizeSection(section, letters * letter);
     setTabOrder(m_search, m_parts);
     setTabOrder(m_parts, view());
     setFocusProxy(m_search);
@@ -63,7 +68,10 @@ PropertyListBox::PropertyListBox(QWidget* parent, const QString& name)
     connect(m_search, &QLineEdit::textChanged, m_found, &QSortFilterProxyModel::setFilterFixedString);
     connect(m_parts, &QComboBox::activated, this, &PropertyListBox::listProperties);
     connect(view(), &QAbstractItemView::doubleClicked, this, &PropertyListBox::link);
-    connect(view()->selectionModel(), &QItemSelectionModel::currentChanged, this, &PropertyListBox::updateActions);
+    connect(view()->selectionModel(), &QItemSelectionModel::currentChanged, this, [this] {
+        setMessage(m_model->rowAt(currentRow()) ? m_model->reasonAt(currentRow()) : QString());
+        updateActions();
+    });
     setEnabled(false);
 }
 
@@ -76,9 +84,11 @@ void PropertyListBox::bind(DocumentImpl* document, const std::set<NodeImpl*>& no
     PropertyObserver::bind(document, nodes);
     if (!alive || m_props.empty())
         return;
-    connect(document, &DocumentImpl::ElementAdded, this, &PropertyListBox::scheduleParts);
-    connect(document, &DocumentImpl::ElementRemoved, this, &PropertyListBox::scheduleParts);
-    connect(document, &DocumentImpl::nodeValueChanged, this, &PropertyListBox::scheduleValues);
+    setPlaceholderText(tr("Nothing is found that could be followed."));
+    const auto followParts = [this] { followSoon(FollowParts); };
+    connect(document, &DocumentImpl::ElementAdded, this, followParts);
+    connect(document, &DocumentImpl::ElementRemoved, this, followParts);
+    connect(document, &DocumentImpl::nodeValueChanged, this, [this] { followSoon(FollowValues); });
 }
 
 void PropertyListBox::setupWidget()
@@ -86,6 +96,7 @@ void PropertyListBox::setupWidget()
     setMessage({});
     listParts();
     PropertyObserver::setupWidget();
+    showLink();
 }
 
 void PropertyListBox::unbind()
@@ -96,6 +107,8 @@ void PropertyListBox::unbind()
     PropertyObserver::unbind();
     m_model->clear();
     m_link->clear();
+    m_anyLinked = false;
+    setPlaceholderText({});
     updateActions();
 }
 
@@ -137,48 +150,50 @@ void PropertyListBox::listProperties()
     updateActions();
 }
 
-// Many changes of the document are followed once.
-void PropertyListBox::scheduleParts()
+// Many changes of the document, or of the properties, are followed once.
+void PropertyListBox::followSoon(unsigned int what)
 {
-    if (std::exchange(m_partsPending, true))
+    if (std::exchange(m_pending, m_pending | what) != 0)
         return;
     QTimer::singleShot(0, this, [this] {
-        m_partsPending = false;
-        if (!m_props.empty())
+        const unsigned int pending = std::exchange(m_pending, 0);
+        if (m_props.empty())
+            return;
+        if (pending & FollowParts)
             listParts();
-    });
-}
-
-void PropertyListBox::scheduleValues()
-{
-    if (std::exchange(m_valuesPending, true))
-        return;
-    QTimer::singleShot(0, this, [this] {
-        m_valuesPending = false;
-        m_model->refresh();
+        if (pending & FollowLink)
+            showLink();
+        else
+            m_model->refresh();
     });
 }
 
 void PropertyListBox::onPropertyValueChanged(Property, Value)
 {
-    showLink();
+    followSoon(FollowLink);
 }
 
 void PropertyListBox::onStateChanged()
 {
     const QPointer<POReceiver> alive(m_receiver);
     PropertyObserver::onStateChanged();
-    if (alive && !m_props.empty())
-        showLink();
+    if (alive)
+        followSoon(FollowLink);
 }
 
 void PropertyListBox::showLink()
 {
-    const PropertyImpl* target = m_props.front()->proxySubject();
-    m_link->setText(target ? tr("Follows %1: %2").arg(target->owner()->displayName(), target->getUserVisibleLabel())
-                           : QString());
-    m_link->setVisible(target != nullptr);
-    scheduleValues();
+    PropertyImpl* target = m_props.front()->proxySubject();
+    const bool differ = m_props.findFrom(
+        m_linkDiffersAt, [target](const PropertyImpl* property) { return property->proxySubject() != target; });
+    m_anyLinked =
+        target || m_props.findFrom(m_linkedAt, [](const PropertyImpl* property) { return property->isProxy(); });
+    m_link->setText(differ   ? tr("The selected parts do not follow the same.")
+                    : target ? tr("Follows %1: %2").arg(target->owner()->displayName(), target->getUserVisibleLabel())
+                             : QString());
+    m_link->setVisible(m_anyLinked);
+    m_model->setLinked(differ || !target ? Property() : Property(target));
+    m_model->refresh();
     updateActions();
 }
 
@@ -190,10 +205,9 @@ int PropertyListBox::currentRow() const
 void PropertyListBox::updateActions()
 {
     const bool writeable = !m_props.empty() && isPropertyWriteable();
-    const bool linked = !m_props.empty() && m_props.front()->isProxy();
     const int row = currentRow();
     m_linkAction->setEnabled(writeable && m_model->rowAt(row) && m_model->reasonAt(row).isEmpty());
-    m_detachAction->setEnabled(writeable && linked);
+    m_detachAction->setEnabled(writeable && m_anyLinked);
 }
 
 // Editing
@@ -206,40 +220,43 @@ void PropertyListBox::link()
     setMessage(m_model->reasonAt(currentRow()));
     if (!message().isEmpty())
         return;
-    const QPointer<POReceiver> alive(m_receiver);
-    std::vector<Property> followers;
-    for (PropertyImpl* property : m_props)
-        followers.emplace_back(property);
-    UndoGroup group(m_document);
-    for (const Property& follower : followers) {
-        if (!follower.isValid() || follower.impl()->proxySubject() == target.impl())
-            continue;
-        if (group.run(new SetProxyCommand(follower, target, group.pushUndo())))
-            continue;
-        if (alive)
-            setMessage(group.error());
-        return;
-    }
+    forEachFollower([target](const Property& follower, bool pushUndo) -> std::unique_ptr<Command> {
+        if (follower.impl()->proxySubject() == target.impl())
+            return nullptr;
+        return std::make_unique<SetProxyCommand>(follower, target, pushUndo);
+    });
 }
 
 void PropertyListBox::detach()
 {
     if (m_props.empty() || !isPropertyWriteable())
         return;
+    forEachFollower([](const Property& follower, bool pushUndo) -> std::unique_ptr<Command> {
+        if (!follower.impl()->isProxy())
+            return nullptr;
+        return std::make_unique<DetachProxyCommand>(follower, pushUndo);
+    });
+}
+
+void PropertyListBox::forEachFollower(const std::function<std::unique_ptr<Command>(const Property&, bool)>& makeCommand)
+{
     const QPointer<POReceiver> alive(m_receiver);
+    const unsigned int binding = bindingNumber();
     std::vector<Property> followers;
     for (PropertyImpl* property : m_props)
         followers.emplace_back(property);
     UndoGroup group(m_document);
+    bool done = true;
     for (const Property& follower : followers) {
-        if (!follower.isValid() || !follower.impl()->isProxy())
-            continue;
-        if (group.run(new DetachProxyCommand(follower, group.pushUndo())))
-            continue;
-        if (alive)
-            setMessage(group.error());
-        return;
+        std::unique_ptr<Command> command = follower.isValid() ? makeCommand(follower, group.pushUndo()) : nullptr;
+        done = done && (!command || group.run(command.release()));
+        if (!done)
+            break;
     }
+    if (!alive || binding != bindingNumber())
+        return;
+    setMessage(group.error());
+    showLink();
 }
 
 bool PropertyListBox::eventFilter(QObject* object, QEvent* event)

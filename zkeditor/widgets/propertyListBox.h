@@ -5,7 +5,11 @@
 #include "zkeditor/widgets/listEditor.h"
 #include "zkeditor/widgets/propertyObserver.h"
 
+#include <functional>
+#include <memory>
+
 class ComboBox;
+class Command;
 class LineEdit;
 class PropertyChoiceModel;
 class QLabel;
@@ -35,7 +39,7 @@ public:
     LineEdit* searchField() const { return m_search; }
     ComboBox* partBox() const { return m_parts; }
     PropertyChoiceModel* model() const { return m_model; }
-    /// Shows what the first property follows; its text is empty when it follows none.
+    /// Shows what the properties follow, or that they do not follow the same; its text is empty when none follows.
     QLabel* linkLabel() const { return m_link; }
 
 public Q_SLOTS:
@@ -57,9 +61,10 @@ protected:
 private:
     void listParts();
     void listProperties();
-    void scheduleParts();
-    void scheduleValues();
+    enum Follow { FollowValues = 1, FollowLink = 2, FollowParts = 4 };
+    void followSoon(unsigned int what);
     void showLink();
+    void forEachFollower(const std::function<std::unique_ptr<Command>(const Property&, bool)>& makeCommand);
     int currentRow() const;
 
     LineEdit* m_search;
@@ -69,7 +74,9 @@ private:
     QSortFilterProxyModel* m_found;
     QAction* m_linkAction;
     QAction* m_detachAction;
-    bool m_partsPending = false;
-    bool m_valuesPending = false;
+    unsigned int m_pending = 0; // of Follow
+    bool m_anyLinked = false;
     mutable size_t m_fixedAt = 0;
+    size_t m_linkDiffersAt = 0;
+    size_t m_linkedAt = 0;
 };

@@ -71,6 +71,7 @@ ResourceChooser::ResourceChooser(QWidget* parent, const QString& name)
     column->addLayout(row);
     column->addWidget(m_message);
     setFocusProxy(m_list);
+    m_list->installEventFilter(this);
     setAcceptDrops(true);
     connect(m_import, &QAction::triggered, this, qOverload<>(&ResourceChooser::importFile));
     connect(m_export, &QAction::triggered, this, qOverload<>(&ResourceChooser::exportFile));
@@ -264,6 +265,16 @@ void ResourceChooser::exportFile(const QString& fileName)
     if (m_shown.isValid())
         resourceImport::writeFile(m_shown, fileName, &reason);
     setMessage(reason);
+}
+
+bool ResourceChooser::event(QEvent* event)
+{
+    return toolAction::takeKey(this, event) || QWidget::event(event);
+}
+
+bool ResourceChooser::eventFilter(QObject* object, QEvent* event)
+{
+    return (object == m_list && toolAction::takeKey(this, event)) || QWidget::eventFilter(object, event);
 }
 
 void ResourceChooser::dragEnterEvent(QDragEnterEvent* event)

@@ -62,6 +62,8 @@ protected:
     void setupWidget() override;
     void onPropertyValueChanged(Property property, Value value) override;
 
+    bool event(QEvent* event) override;
+    bool eventFilter(QObject* object, QEvent* event) override;
     void dragEnterEvent(QDragEnterEvent* event) override;
     void dropEvent(QDropEvent* event) override;
     void changeEvent(QEvent* event) override;

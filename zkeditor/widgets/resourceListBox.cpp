@@ -56,6 +56,7 @@ ResourceListBox::ResourceListBox(QWidget* parent, const QString& name)
             qOverload<const QStringList&, int>(&ResourceListBox::addFiles));
     connect(view()->selectionModel(), &QItemSelectionModel::selectionChanged, this, &ResourceListBox::updateActions);
     connect(view()->selectionModel(), &QItemSelectionModel::currentChanged, this, &ResourceListBox::showPreview);
+    connect(view()->selectionModel(), &QItemSelectionModel::selectionChanged, this, &ResourceListBox::showPreview);
     updateActions();
 }
 
@@ -84,7 +85,7 @@ void ResourceListBox::onPropertyValueChanged(Property, Value value)
     m_noValue = false;
     const bool fits = value.isValid() && isTypeCompatible(value.type());
     m_model->setResources(fits ? value.toResourceVector() : std::vector<Resource>());
-    view()->setToolTip({});
+    setPlaceholderText({});
     updateActions();
     showPreview();
 }
@@ -95,7 +96,7 @@ void ResourceListBox::showMixed()
         return;
     m_noValue = true;
     m_model->setResources({});
-    view()->setToolTip(tr("The selected parts have different lists"));
+    setPlaceholderText(tr("The selected parts have different lists. What is added becomes the list of all."));
     updateActions();
     showPreview();
 }
@@ -122,7 +123,9 @@ void ResourceListBox::updateActions()
 
 void ResourceListBox::showPreview()
 {
-    const ResourceRow* row = m_model->rowAt(view()->currentIndex().row());
+    const QList<int> selected = selectedRows();
+    const int current = view()->currentIndex().row();
+    const ResourceRow* row = m_model->rowAt(selected.contains(current) ? current : selected.value(0, -1));
     const bool shown = row && row->resource.type() == Resource::IMAGE;
     m_preview->setPixmap(shown ? ImageCache::getPixmap(row->resource, listPreview, devicePixelRatioF()) : QPixmap());
     m_preview->setAccessibleName(shown ? tr("Preview: %1").arg(row->label) : QString());

@@ -47,6 +47,14 @@ public:
         updateRows(rows);
     }
 
+protected:
+    /// Gives a row other contents, under another key too: it stays the same row for whoever looks at it.
+    void changeRow(int row, Row changed)
+    {
+        m_rows[static_cast<size_t>(row)] = std::move(changed);
+        Q_EMIT this->dataChanged(this->index(row, 0), this->index(row, this->columnCount() - 1));
+    }
+
 private:
     using KeyOf = std::decay_t<decltype(std::declval<const Row&>().key())>;
     static constexpr size_t mostRuns = 16; // told one by one; beyond that the table is laid out anew

@@ -4,6 +4,7 @@
 #include "zkcore/media/resource.h"
 
 #include <QAction>
+#include <QKeyEvent>
 #include <QKeySequence>
 #include <QLabel>
 #include <QToolButton>
@@ -23,6 +24,25 @@ void toolAction::setKeys(QWidget* editor, QAction* action, const QKeySequence& k
     if (!keys.isEmpty())
         action->setToolTip(QStringLiteral("%1 (%2)").arg(action->text(), keys.toString(QKeySequence::NativeText)));
     editor->addAction(action);
+}
+
+bool toolAction::takeKey(const QWidget* editor, QEvent* event)
+{
+    if (event->type() != QEvent::ShortcutOverride && event->type() != QEvent::KeyPress)
+        return false;
+    const auto* key = static_cast<QKeyEvent*>(event);
+    const QKeySequence pressed(
+        QKeyCombination(key->modifiers() & ~Qt::KeypadModifier, static_cast<Qt::Key>(key->key())));
+    const QList<QAction*> actions = editor->actions();
+    for (QAction* action : actions) {
+        if (!action->shortcuts().contains(pressed))
+            continue;
+        event->accept();
+        if (event->type() == QEvent::KeyPress)
+            action->trigger();
+        return true;
+    }
+    return false;
 }
 
 QToolButton* toolAction::addButton(QWidget* editor, QAction* action, const QKeySequence& keys)

@@ -25,8 +25,12 @@ ValueMapListBox::ValueMapListBox(QWidget* parent, const QString& name)
     view()->setSortingEnabled(true);
     view()->sortByColumn(ValueMapModel::KeyColumn, Qt::AscendingOrder);
     view()->header()->setSectionsMovable(false);
+    view()->setAllColumnsShowFocus(false); // the cell that F2 edits
     std::tie(m_add, m_remove) = addPlusMinus(
         tr("Add"), [this] { addEntry(); }, tr("Remove"), [this] { removeSelected(); });
+    m_sort = new QAction(tr("Sort by this column"), this);
+    view()->addAction(m_sort);
+    connect(m_sort, &QAction::triggered, this, &ValueMapListBox::sortByCurrentColumn);
     editDelegate()->setCheck([this](const QModelIndex& index, const QString& text) { return refusalOf(index, text); });
     editDelegate()->setChoices([this](const QModelIndex& index) {
         QStringList choices;
@@ -79,7 +83,7 @@ void ValueMapListBox::onPropertyValueChanged(Property, Value value)
     m_noValue = false;
     const bool fits = value.isValid() && isTypeCompatible(value.type());
     m_model->setMap(fits ? value.toValueMap() : ValueMap());
-    view()->setToolTip({});
+    setPlaceholderText({});
     updateActions();
 }
 
@@ -89,7 +93,7 @@ void ValueMapListBox::showMixed()
         return;
     m_noValue = true;
     m_model->setMap({});
-    view()->setToolTip(tr("The selected parts have different entries"));
+    setPlaceholderText(tr("The selected parts have different entries. What is added becomes the entries of all."));
     updateActions();
 }
 
@@ -99,6 +103,14 @@ void ValueMapListBox::updateActions()
     m_model->setEditable(writeable);
     m_add->setEnabled(writeable);
     m_remove->setEnabled(writeable && view()->selectionModel()->hasSelection());
+}
+
+void ValueMapListBox::sortByCurrentColumn()
+{
+    const int column = qMax(0, view()->currentIndex().column());
+    const QHeaderView* header = view()->header();
+    const bool falls = header->sortIndicatorSection() == column && header->sortIndicatorOrder() == Qt::AscendingOrder;
+    view()->sortByColumn(column, falls ? Qt::DescendingOrder : Qt::AscendingOrder);
 }
 
 void ValueMapListBox::selectEntry(const QString& key, int number)
@@ -214,8 +226,21 @@ void ValueMapListBox::edit(int row, int column, const QString& text)
         if (i < row && other.name == edited.name)
             ++edited.number;
     }
-    if (write(map) && column == ValueMapModel::KeyColumn)
-        selectEntry(edited.name, edited.number);
+    if (column != ValueMapModel::KeyColumn) {
+        write(map);
+        return;
+    }
+    // An editor that was open there may go on to the next cell.
+    const QPointer<POReceiver> alive(m_receiver);
+    const unsigned int binding = bindingNumber();
+    m_model->renameRow(row, edited.name, edited.number);
+    const bool written = write(map);
+    if (!alive || binding != bindingNumber())
+        return;
+    if (written)
+        view()->scrollTo(view()->currentIndex());
+    else
+        showFirstValue();
 }
 
 void ValueMapListBox::changeEvent(QEvent* event)

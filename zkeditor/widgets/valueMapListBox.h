@@ -38,6 +38,8 @@ public Q_SLOTS:
     /// Adds an entry under a new key, and begins to edit the key.
     void addEntry();
     void removeSelected();
+    /// By the column of the current cell; the other way round when it is sorted so already.
+    void sortByCurrentColumn();
     /// Does not enable the box over a read-only property.
     void setEnabled(bool enabled);
     void setDisabled(bool disabled);
@@ -59,5 +61,6 @@ private:
     QSortFilterProxyModel* m_sorted;
     QAction* m_add;
     QAction* m_remove;
+    QAction* m_sort;
     bool m_noValue = false;
 };

@@ -54,6 +54,11 @@ void ValueMapModel::setMap(const ValueMap& map)
     setRows(std::move(rows));
 }
 
+void ValueMapModel::renameRow(int row, const QString& name, int number)
+{
+    changeRow(row, {name, number, rowAt(row)->value});
+}
+
 std::vector<Value::Type> ValueMapModel::kinds()
 {
     std::vector<Value::Type> types;

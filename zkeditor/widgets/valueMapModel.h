@@ -33,6 +33,8 @@ public:
     ~ValueMapModel() override;
 
     void setMap(const ValueMap& map);
+    /// Gives an entry another name before the map that has it so is set: it stays the same row.
+    void renameRow(int row, const QString& name, int number);
     void setEditable(bool editable) { m_editable = editable; }
 
     /// The kinds of values that can be edited.

@@ -162,3 +162,17 @@ TEST(GrayScaleTest, KeepsTransparencyAndScale)
     EXPECT_EQ(colorAt(gray, 1, 0).alpha(), 0);
     EXPECT_TRUE(convertToGrayScale(QPixmap()).isNull());
 }
+
+TEST_F(ImageCacheTest, PicturesOfFewColorsKeepThemWhenTheyAreMadeSmaller)
+{
+    QImage image(QSize(60, 40), QImage::Format_Mono);
+    image.setColorTable({qRgb(255, 0, 0), qRgb(0, 0, 255)});
+    image.fill(0u);
+    QBuffer buffer;
+    buffer.open(QIODevice::WriteOnly);
+    ASSERT_TRUE(image.save(&buffer, "PNG"));
+    const Resource red = resourceOf(QStringLiteral("local/mono"), buffer.data(), QStringLiteral("png"));
+    const QImage small = ImageCache::getPixmap(red, QSize(24, 24), 1.0).toImage();
+    for (int x = 0; x < small.width(); ++x)
+        EXPECT_EQ(small.pixelColor(x, 5), QColor(Qt::red)) << x;
+}

@@ -39,8 +39,8 @@ protected:
     {
         size->setFocus();
         size->lineEdit()->selectAll();
-        QTest::keyClicks(size->lineEdit(), text);
-        QTest::keyClick(size->lineEdit(), end);
+        QTest::keyClicks(QApplication::focusWidget(), text);
+        QTest::keyClick(QApplication::focusWidget(), end);
     }
 
     ComboBox* size = nullptr;
@@ -94,15 +94,20 @@ TEST_F(FontChooserTest, SizesThatCannotBeAreNotWritten)
     for (const char* wrong : {"0", "big", "5000"}) {
         size->setFocus();
         size->lineEdit()->selectAll();
-        QTest::keyClicks(size->lineEdit(), wrong);
+        QTest::keyClicks(size, wrong);
         EXPECT_EQ(size->toolTip(), QString("The size is a number from 1 to 1000."));
-        QTest::keyClick(size->lineEdit(), Qt::Key_Return);
+        QTest::keyClick(size, Qt::Key_Return);
         EXPECT_EQ(size->currentText(), QString("12"));
     }
     typeSize("14", Qt::Key_Escape);
     EXPECT_EQ(size->currentText(), QString("12"));
     EXPECT_EQ(bytesOf(document), before);
-    QTest::keyClicks(size->lineEdit(), "0");
+    typeSize("13.5", Qt::Key_Tab); // none of those that are offered
+    EXPECT_NEAR(at(part, "size").toDouble(), 13.5 * 0.0254 / 72, 1e-12);
+    EXPECT_EQ(size->currentText(), QString("13.5"));
+    typeSize("12", Qt::Key_Return);
+    EXPECT_EQ(bytesOf(document), before);
+    QTest::keyClicks(size, "0");
     chooser.unbind(); // what was typed is written: 120
     EXPECT_NEAR(at(part, "size").toDouble(), 120 * 0.0254 / 72, 1e-12);
 }

@@ -2,6 +2,7 @@
 #include "collectionsFixture.h"
 
 #include <QAbstractItemView>
+#include <QAction>
 #include <QCompleter>
 #include <QSignalSpy>
 
@@ -105,4 +106,28 @@ TEST_F(PartIdLineEditTest, SeveralPartsAreNumbered)
     QTest::keyClicks(&field, "y");
     other->setFocus();
     EXPECT_EQ(idOf(first), QString("y1"));
+}
+
+// Ctrl+Z takes back what is being typed, and after that what was written.
+TEST_F(PartIdLineEditTest, UndoIsTheDocumentsOnceTheTextIsWritten)
+{
+    PartImpl* part = rack();
+    const QString id = idOf(part);
+    auto* undo = new QAction(&window);
+    undo->setShortcut(QKeySequence::Undo);
+    window.addAction(undo);
+    QObject::connect(undo, &QAction::triggered, &document, &DocumentImpl::undo);
+    auto& field = fieldOf({part});
+    QTest::keyClicks(&field, "shelf");
+    const int steps = undoSteps();
+    QTest::keySequence(&field, QKeySequence::Undo);
+    EXPECT_EQ(undoSteps(), steps);
+    EXPECT_NE(field.text(), QString("shelf"));
+    field.selectAll();
+    QTest::keyClicks(&field, "shelf");
+    QTest::keyClick(&field, Qt::Key_Return);
+    EXPECT_EQ(idOf(part), QString("shelf"));
+    QTest::keySequence(&field, QKeySequence::Undo);
+    EXPECT_EQ(idOf(part), id);
+    EXPECT_EQ(field.text(), id);
 }

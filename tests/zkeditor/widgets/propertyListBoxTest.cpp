@@ -1,5 +1,6 @@
 #include "zkeditor/widgets/propertyListBox.h"
 #include "collectionsFixture.h"
+#include "zkcore/commands/deleteNodeCommand.h"
 #include "zkcore/commands/proxyCommands.h"
 #include "zkeditor/widgets/comboBox.h"
 #include "zkeditor/widgets/lineEdit.h"
@@ -8,6 +9,7 @@
 #include <QAbstractItemModelTester>
 #include <QElapsedTimer>
 #include <QLabel>
+#include <QScrollBar>
 #include <QTreeView>
 #include <memory>
 
@@ -138,4 +140,57 @@ TEST_F(PropertyListBoxTest, StaysFluidWithManyRows)
         QCoreApplication::processEvents();
     }
     EXPECT_LT(clock.elapsed(), 3000);
+}
+
+TEST_F(PropertyListBoxTest, SeveralNodesShowWhetherTheyFollowTheSame)
+{
+    PartImpl* first = rack();
+    PartImpl* second = rack();
+    PartImpl* source = rack();
+    run<SetProxyCommand>(document, Property(property(second, "level")), Property(property(source, "gain")));
+    auto& box = boxOf("level", {first, second});
+    const auto linkShown = [&] {
+        return box.model()->index(rowOf(box, source, "gain"), PropertyChoiceModel::LinkColumn).data().toString();
+    };
+    EXPECT_EQ(box.linkLabel()->text(), QString("The selected parts do not follow the same."));
+    EXPECT_EQ(linkShown(), QString("Possible"));
+    const QByteArray before = bytesOf(document);
+    const int steps = undoSteps();
+    choose(box, rowOf(box, source, "gain"));
+    QTest::keyClick(box.view(), Qt::Key_Return);
+    EXPECT_TRUE(box.linkLabel()->text().contains("Gain"));
+    EXPECT_EQ(linkShown(), QString("Linked"));
+    expectOneStepSince(before, steps);
+    EXPECT_EQ(linkShown(), QString("Possible"));
+
+    // Only the second one follows anything.
+    box.view()->setFocus();
+    QTest::keyClick(box.view(), Qt::Key_Delete);
+    EXPECT_FALSE(property(second, "level")->isProxy());
+    EXPECT_FALSE(box.linkLabel()->isVisible());
+    expectOneStepSince(before, steps);
+
+    // What cannot follow for one of them follows for none.
+    choose(box, rowOf(box, first, "level"));
+    EXPECT_EQ(box.message(), QString("A property cannot follow itself."));
+    QTest::keyClick(box.view(), Qt::Key_Return);
+    EXPECT_EQ(bytesOf(document), before);
+}
+
+TEST_F(PropertyListBoxTest, ChoiceAndPlaceSurviveTheModel)
+{
+    PartImpl* part = rack();
+    add("collections/rack", 300);
+    auto& box = boxOf("level", {part});
+    QTreeView* view = box.view();
+    view->setCurrentIndex(view->model()->index(400, 0));
+    view->scrollTo(view->currentIndex(), QAbstractItemView::PositionAtTop);
+    const QString chosen = view->currentIndex().data(PropertyChoiceModel::searchRole).toString();
+    const int place = view->verticalScrollBar()->value();
+    run<DeleteNodeCommand>(document, Node(firstScene(document)->getChildAt(7)), Command::PushUndo);
+    add("collections/rack");
+    set(property(part, "gain"), whole(6));
+    QCoreApplication::processEvents();
+    EXPECT_EQ(view->currentIndex().data(PropertyChoiceModel::searchRole).toString(), chosen);
+    EXPECT_NEAR(view->verticalScrollBar()->value(), place, 6);
 }

@@ -14,6 +14,7 @@
 #include <QMimeData>
 #include <QProgressDialog>
 #include <QPushButton>
+#include <QScrollBar>
 #include <QTimer>
 #include <QTreeView>
 #include <QUrl>
@@ -230,6 +231,8 @@ TEST_F(ResourceEditorsTest, ListOperationsAreOneStepEach)
     list.addFiles({picture("c.png", Qt::green)}, 0);
     EXPECT_EQ(names(first), QStringList("local/c"));
     EXPECT_EQ(names(second), names(first));
+    dropFiles(*list.view()->viewport(), {picture("d.png"), picture("e.png", Qt::black)});
+    EXPECT_EQ(names(second), QStringList({"local/c", "local/d", "local/e"}));
 }
 
 TEST_F(ResourceEditorsTest, FilesAreAddedAllOrNone)
@@ -281,4 +284,32 @@ TEST_F(ResourceEditorsTest, FilesOfOneNameGetNamesOfTheirOwn)
     list.view()->setCurrentIndex(list.model()->index(2, 0)); // the second of the same resource
     press(list, Qt::Key_Up, Qt::AltModifier);
     EXPECT_EQ(names(part), QStringList({"local/a", "local/a", "local/a-2"}));
+}
+
+TEST_F(ResourceEditorsTest, TypingSelectionAndPlaceSurviveTheModel)
+{
+    PartImpl* part = rack();
+    auto& list = listOf({part});
+    list.addFiles({picture("a.png")}, 0);
+    const Resource own = document.resource("local/a");
+    std::vector<Resource> many(10000, Resource("electronics/images/bell"));
+    many[6000] = own;
+    set(property(part, "pictures"), Value(many));
+    list.view()->setCurrentIndex(list.model()->index(6000, 0));
+    list.view()->scrollTo(list.view()->currentIndex(), QAbstractItemView::PositionAtTop);
+    press(list, Qt::Key_F2);
+    auto* edit = list.view()->findChild<QLineEdit*>();
+    ASSERT_TRUE(edit);
+    QTest::keyClicks(edit, "half");
+    many.insert(many.begin(), 2, Resource("electronics/images/horn"));
+    many.erase(many.begin() + 100);
+    set(property(part, "pictures"), Value(many));
+    QCoreApplication::processEvents();
+    ASSERT_EQ(list.view()->findChild<QLineEdit*>(), edit);
+    EXPECT_EQ(edit->text(), QString("half"));
+    EXPECT_EQ(list.view()->currentIndex().row(), 6001);
+    EXPECT_NEAR(list.view()->verticalScrollBar()->value(), 6000, 5);
+    QTest::keyClick(edit, Qt::Key_Return);
+    settle();
+    EXPECT_TRUE(document.resource("local/half").isValid());
 }

@@ -297,3 +297,49 @@ TEST_F(SubpartEditorsTest, TypingSelectionAndPlaceSurviveTheModel)
     EXPECT_TRUE(edit->isVisible());
     EXPECT_NEAR(list.view()->verticalScrollBar()->value(), 6000, 5);
 }
+
+// A host may have shortcuts of the same keys; while the focus is in the list they are the list's.
+TEST_F(SubpartEditorsTest, KeysBelongToTheListThatHasTheFocus)
+{
+    PartImpl* part = rack();
+    auto& list = listOf("pins", {part});
+    int taken = 0;
+    for (const QKeyCombination key :
+         {QKeyCombination(Qt::ALT, Qt::Key_Up), QKeyCombination(Qt::ALT, Qt::Key_Down), QKeyCombination(Qt::Key_Delete),
+          QKeyCombination(Qt::Key_Insert), QKeyCombination(Qt::CTRL, Qt::Key_A)}) {
+        auto* action = new QAction(&window);
+        action->setShortcut(QKeySequence(key));
+        window.addAction(action);
+        QObject::connect(action, &QAction::triggered, [&taken] { ++taken; });
+    }
+    press(list, Qt::Key_Down, Qt::AltModifier);
+    EXPECT_EQ(rowsOf(list), QStringList({"right", "left"}));
+    press(list, Qt::Key_Up, Qt::AltModifier);
+    EXPECT_EQ(rowsOf(list), QStringList({"left", "right"}));
+    press(list, Qt::Key_Delete); // not possible here, and must not reach what else it could delete
+    press(list, Qt::Key_A, Qt::ControlModifier);
+    EXPECT_EQ(list.view()->selectionModel()->selectedRows().size(), 2);
+    press(list, Qt::Key_Insert);
+    EXPECT_EQ(rowsOf(list).size(), 3);
+    EXPECT_EQ(taken, 0);
+    other->setFocus();
+    QTest::keyClick(other, Qt::Key_Down, Qt::AltModifier);
+    EXPECT_EQ(taken, 1);
+}
+
+TEST_F(SubpartEditorsTest, AMessageTakesItsOwnRoomAndGoesWithTheNextSuccess)
+{
+    PartImpl* part = rack();
+    auto& list = listOf("pins", {part});
+    const int height = list.sizeHint().height();
+    press(list, Qt::Key_F2);
+    typeInPlace(list.view(), "right");
+    ASSERT_FALSE(list.message().isEmpty());
+    EXPECT_GT(list.sizeHint().height(), height);
+    EXPECT_LT(list.sizeHint().height(), height + 4 * list.fontMetrics().height());
+    EXPECT_LT(list.heightForWidth(list.width()), height + 4 * list.fontMetrics().height());
+    press(list, Qt::Key_F2);
+    typeInPlace(list.view(), "west");
+    EXPECT_EQ(list.message(), QString());
+    EXPECT_EQ(list.sizeHint().height(), height);
+}

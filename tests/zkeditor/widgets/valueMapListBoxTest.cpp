@@ -177,3 +177,32 @@ TEST_F(ValueMapListBoxTest, TypingSelectionAndPlaceSurviveTheModel)
     many.find("k05999")->second = Value(77);
     EXPECT_EQ(property(part, "table")->getValue(), Value(many));
 }
+
+TEST_F(ValueMapListBoxTest, EveryCellIsReachedByKeys)
+{
+    PartImpl* part = rack();
+    set(property(part, "table"), map({{"a", whole(1)}, {"b", whole(2)}}));
+    auto& box = tableOf({part});
+    box.view()->setCurrentIndex(box.view()->model()->index(0, 0));
+    press(box, Qt::Key_Right);
+    press(box, Qt::Key_F2);
+    typeInPlace(box.view(), "5");
+    EXPECT_EQ(shown(box), QStringList({"a=5", "b=2"}));
+
+    // Tab takes the text and goes on, also where the row finds another place for its new key.
+    press(box, Qt::Key_Left);
+    press(box, Qt::Key_F2);
+    typeInPlace(box.view(), "c", Qt::Key_Tab);
+    EXPECT_EQ(shown(box), QStringList({"b=2", "c=5"}));
+    typeInPlace(box.view(), "6", Qt::Key_Return);
+    EXPECT_EQ(shown(box), QStringList({"b=2", "c=6"}));
+
+    window.setLayoutDirection(Qt::RightToLeft);
+    press(box, Qt::Key_Right);
+    EXPECT_EQ(box.view()->currentIndex().column(), int(ValueMapModel::KeyColumn));
+    box.sortByCurrentColumn();
+    EXPECT_EQ(shown(box), QStringList({"c=6", "b=2"}));
+    press(box, Qt::Key_Left);
+    box.sortByCurrentColumn();
+    EXPECT_EQ(shown(box), QStringList({"b=2", "c=6"}));
+}
