@@ -398,7 +398,7 @@ class Day:
         bench.section(form, "General")
         form.find("text", "Title").write("Lamp of the night", end=None)
         key("ctrl+q")  # what is half typed is entered, then asked about
-        bench.answer("Changes not saved", "Save", "alert")
+        bench.dialog("Changes not saved", "alert").find("push button", "Save").click()
         becomes("the way in which the program ended", lambda: bench.program.process.poll(), 0)
         expect(parts_of(self.file)["lamp"]["title"] == "Lamp of the night", "the last words in the file")
 
@@ -433,6 +433,43 @@ class Day:
         becomes("the title", lambda: form.find("text", "Title").text, "Lamp of the night")
         key("ctrl+q")
         becomes("the way in which the program ended", lambda: bench.program.process.poll(), 0)
+
+    def crash_and_recovery(self):
+        bench = self.bench
+        bench.drag_part_to("Buzzer", 120, 70)
+        bench.form("Buzzer").find("text", "Name").write("alarm", end="Return")
+        bench.click_at(210, 40)
+        bench.status("1 selected")
+        form = bench.form("LED")
+        bench.section(form, "General")
+        form.find("text", "Title").write("Saved by a hair", end="Return")
+        bench.titled(r"^night light.zkdoc\* - ")
+        kept = self.desktop.home / ".local/share/zkauthor/zkauthor/recovery"
+
+        def recovery_file():
+            return [file for file in kept.glob("*") if b"Saved by a hair" in file.read_bytes()]
+
+        [left_over] = wait("the changes to be kept", recovery_file)
+        bench.click_at(10, 190)
+        picture = bench.picture()
+        bench.program.process.kill()
+        bench.program.ended()
+        expect("alarm" not in parts_of(self.file), "the document as it was saved")
+
+        bench = self.start()
+        bench.window.find("push button", "Recover").click()
+        bench.titled(r"^night light.zkdoc \(recovered\)\* - ")
+        bench.window.gone("push button", "Recover")
+        bench.measure()
+        bench.same_picture(picture)
+        bench.click_at(120, 70)
+        becomes("the name of the part", lambda: bench.form("Buzzer").find("text", "Name").text, "alarm")
+        key("ctrl+s")
+        bench.titled("^night light.zkdoc - ")
+        parts = parts_of(self.file)
+        expect(parts["lamp"]["title"] == "Saved by a hair", "the title that was not saved before the crash")
+        expect(parts["alarm"]["class"] == "electronics/buzzer", "the part that was not saved before the crash")
+        wait("what was kept to go", lambda: not left_over.exists())
 
     CHAPTERS = [new_document, parts_from_the_tree, connections, property_form, several_at_once, locks, associations,
                 advanced, inspector, debugging, flowchart_strip, back_and_forth, custom_part, saving,
