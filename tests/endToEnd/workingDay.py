@@ -202,6 +202,53 @@ class Day:
         key("Escape")
         bench.closed("Inspector")
 
+    def the_scene(self):
+        bench = self.bench
+        bench.click_at(10, 190)
+        bench.status("Nothing selected")
+        bench.window.find("push button", "Scene Properties").click()
+        form = bench.form("Scene")
+        bench.section(form, "Appearance")
+        button = form.find("push button", "Background")
+        becomes("the colour of the scene", lambda: button.description, "White")
+        button.click()
+        key("Right", "Return")
+        wait("another colour", lambda: button.description != "White")
+        form.find("text", "Background, name of the colour").write("ivory")
+        becomes("the colour of the scene", lambda: button.description, "#fffff0")
+        form.find("check box", "Show a grid").check()
+        bench.section(form, "General")
+        form.find("text", "Title").write("Night light", end="Return")
+        tabs = bench.window.find("page tab list")
+        tabs.find("page tab", "Night light")
+        bench.menu("Insert", "New Scene")
+        tabs.find("page tab", "scene2")
+        bench.measure()
+        bench.click_at(100, 100)
+        key("ctrl+v")  # what was copied on the other scene
+        bench.form("LED")
+        bench.menu("Insert", "Delete Scene")
+        tabs.gone("page tab", "scene2")
+        bench.measure()
+
+    def keyboard_alone(self):
+        bench = self.bench
+        bench.click_at(200, 150)
+        bench.status("1 selected")
+        key("ctrl+c", "ctrl+v")
+        form = bench.form("LED")
+        becomes("the name of the copy", lambda: form.find("text", "Name").text, "second1")
+        bench.section(form, "General")
+        place = form.find("text", "Position, x")
+        becomes("the place of the copy", lambda: round(place.number), 205)
+        bench.click_at(205, 155)
+        key("shift+Left", "Left")
+        becomes("the place of the copy, moved,", lambda: round(place.number), 194)
+        key("ctrl+z", "ctrl+z", "Delete")
+        bench.status("Nothing selected")
+        key("alt+Down", "alt+Down")
+        becomes("the part selected", lambda: bench.form("Switch").find("text", "Name").text, "main-switch")
+
     def debugging(self):
         bench = self.bench
         bench.click_at(60, 40)
@@ -472,7 +519,8 @@ class Day:
         wait("what was kept to go", lambda: not left_over.exists())
 
     CHAPTERS = [new_document, parts_from_the_tree, connections, property_form, several_at_once, locks, associations,
-                advanced, inspector, debugging, flowchart_strip, back_and_forth, custom_part, saving,
+                keyboard_alone, the_scene, advanced,
+                inspector, debugging, flowchart_strip, back_and_forth, custom_part, saving,
                 page_setup, pdf, models_browser, flowchart, back_to_the_document, quit_and_return]
 
     def run(self, last=None):
