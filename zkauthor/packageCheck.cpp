@@ -4,6 +4,7 @@
 #include "zkcore/model/documentImpl.h"
 #include "zkcore/model/nodeDb.h"
 #include "zkcore/storage/package.h"
+#include "zkcore/values/validator.h"
 #include "zkeditor/formChecker.h"
 
 #include <QDir>
@@ -16,6 +17,33 @@
 namespace {
 
 constexpr qint64 largestTextFile = 16 * 1024 * 1024;
+
+/// The resources that classes of any package name.
+QSet<QString> namedByClasses(const NodeDb& classes)
+{
+    QSet<QString> names;
+    const auto addValue = [&names](const Value& value) {
+        if (value.type() == Value::RESOURCE)
+            names.insert(value.toResource().toString());
+        for (const QString& text : value.toStringVector())
+            names.insert(text);
+        for (const Resource& resource : value.toResourceVector())
+            names.insert(resource.toString());
+        for (const auto& [key, entry] : value.toValueMap())
+            if (entry.type() == Value::RESOURCE)
+                names.insert(entry.toResource().toString());
+    };
+    for (const NodePrototype* prototype : classes.prototypes()) {
+        names.insert(prototype->icon.toString());
+        names.insert(prototype->body.toString());
+        for (const PropertyDefinition& property : prototype->properties()) {
+            addValue(property.defaultValue);
+            if (const auto* validator = dynamic_cast<const ResourceValidator*>(property.validator.get()))
+                addValue(Value(validator->resources()));
+        }
+    }
+    return names;
+}
 
 bool isFormFile(const QString& file)
 {
@@ -107,7 +135,8 @@ void PackageCheck::checkUse()
                                         QStringLiteral("txt"), QStringLiteral("js"), QStringLiteral("py"),
                                         QStringLiteral("lua")};
     const QStringList all = files();
-    QSet<QString> named;
+    DocumentImpl document;
+    QSet<QString> named = namedByClasses(*document.getNodeDb());
     QString everything;
     for (const QString& name : all) {
         QFile file(name);
@@ -129,6 +158,6 @@ void PackageCheck::checkUse()
             addWarning(name + QStringLiteral(":1"),
                        tr("the extension stands for no kind of resource: the file is never used"));
         else if (isWord ? !named.contains(resource) : !everything.contains(resource))
-            addWarning(name + QStringLiteral(":1"), tr("nothing in the package names the file"));
+            addWarning(name + QStringLiteral(":1"), tr("nothing names the file"));
     }
 }

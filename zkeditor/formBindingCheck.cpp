@@ -56,15 +56,20 @@ std::vector<FormFinding> FormBindingCheck::run()
     if (isSection(*m_form.top)) {
         bindChildren(*m_form.top, context);
     } else {
+        bool any = false;
         const auto look = [&](const FormObject& parent, const auto& again) -> void {
             for (const auto& child : parent.children) {
-                if (child->kind == FormObject::Layout)
+                if (child->kind == FormObject::Layout) {
                     again(*child, again);
-                else if (isSection(*child))
+                } else if (isSection(*child)) {
+                    any = true;
                     bindChildren(*child, context);
+                }
             }
         };
         look(*m_form.top, look);
+        if (!any) // no pane shows it, but a program may bind it as a whole
+            bindObject(*m_form.top, context);
     }
     return std::move(m_findings);
 }
@@ -191,18 +196,21 @@ void FormBindingCheck::checkSource(const FormObject& object, const Context& cont
         add(FormFinding::Error, object, nullptr, tr("scenes and pop-ups have no subparts to choose from"));
         return;
     }
-    chosen = select(context.nodes, object.text("subpart"));
+    chosen = select(context.nodes, object.text("subpart"), false);
     if (chosen.empty())
         add(FormFinding::Warning, object, "subpart",
             tr("the list stays empty: nodes of the class have no such subparts, and none can be added"));
 }
 
-FormBindingCheck::Candidates FormBindingCheck::select(const Candidates& nodes, const QString& selector) const
+FormBindingCheck::Candidates FormBindingCheck::select(const Candidates& nodes, const QString& selector,
+                                                      bool rolesInParts) const
 {
     const bool byClass = selector.contains(QLatin1Char('/'));
     const RoleSet roles(byClass ? QString() : selector);
     Candidates found;
     for (const Candidate& node : nodes) {
+        if (rolesInParts && !byClass && node.prototype->kind != NodeKind::Part)
+            continue;
         for (const SubpartDefinition& prescribed : node.prototype->subparts) {
             const NodePrototype* subpart = m_classes.lookupPrototype(prescribed.cid);
             if (!subpart)
@@ -260,7 +268,7 @@ void FormBindingCheck::bindObserver(const FormObject& object, const Context& con
     }
     // Observers of spaces do not look at subparts.
     const QString selector = m_ofSpaces ? QString() : object.text("subpart");
-    const Candidates nodes = selector.isEmpty() ? context.nodes : select(context.nodes, selector);
+    const Candidates nodes = selector.isEmpty() ? context.nodes : select(context.nodes, selector, true);
     if (nodes.empty()) {
         add(FormFinding::Error, object, "subpart",
             tr("there are no subparts \"%1\" to bind").arg(selector.simplified().left(60)));

@@ -47,7 +47,7 @@ private:
     void checkTypes(const FormObject& object, const std::vector<const PropertyDefinition*>& properties);
     void checkChoices(const FormObject& group, const FormObject& object, const PropertyDefinition& property);
     /// The subparts that a selector selects. Observers, unlike lists of subparts, find roles in parts only.
-    Candidates select(const Candidates& nodes, const QString& selector) const;
+    Candidates select(const Candidates& nodes, const QString& selector, bool rolesInParts) const;
     void addAllowed(const NodePrototype& prototype, const QString& selector, Candidates& found) const;
     const PropertyDefinition* find(const NodePrototype& prototype, const QString& key) const;
     QString noProperty(const Candidates& nodes, const QString& key) const;

@@ -32,6 +32,8 @@ bool hasNeededSubpart(const NodeImpl* node, const FormChecker::Need& need, const
                                   : false;
         return selected && child->hasProperty(PropertyKey::fromString(need.key));
     };
+    if (!byClass && node->kind() != NodeKind::Part)
+        return false;
     for (NodeImpl* child : node->children())
         if (serves(child))
             return true;
