@@ -1,5 +1,6 @@
 """Finds the controls of a program as a screen reader does, by role and name, and uses them as a hand does: with real
 events of mouse and keyboard. Whatever is awaited has a time limit; a Missed tells what it was."""
+import collections
 import re
 import subprocess
 import time
@@ -25,7 +26,7 @@ def expect(true, what):
 
 
 def wait(what, probe, limit=LIMIT):
-    """Asks the probe until it answers with something true, and returns that."""
+    """Asks the probe until it answers with something true, and returns that. What it is may be a function too."""
     end = time.monotonic() + limit
     while True:
         try:
@@ -35,7 +36,7 @@ def wait(what, probe, limit=LIMIT):
         if answer:
             return answer
         if time.monotonic() > end:
-            raise Missed(f"waited {limit:.0f} s for {what}")
+            raise Missed(f"waited {limit:.0f} s for {what() if callable(what) else what}")
         time.sleep(PAUSE)
 
 
@@ -90,6 +91,8 @@ def matches(pattern, text):
 
 # What can hold very many things: looked into only by who starts there.
 CLOSED = {"tree", "table", "menu bar", "combo box", "list"}
+# What holds nothing.
+LEAVES = {"label", "push button", "radio button", "separator", "slider", "image", "scroll bar", "table cell"}
 
 
 class Control:
@@ -151,37 +154,42 @@ class Control:
         return [Control(child) for child in found if child]
 
     def walk(self, hidden=False):
-        """This and all below that is on view."""
-        pending = [self]
+        """This and what is on view below it with their roles, level by level: what is asked for mostly lies near."""
+        pending = collections.deque([self])
         while pending:
-            control = pending.pop()
-            yield control
+            control = pending.popleft()
             try:
-                if control is not self and control.role in CLOSED:
+                role = control.role
+                yield control, role
+                if role in LEAVES or (role in CLOSED and control is not self):
                     continue
-                children = control.children
-                pending += reversed([child for child in children if hidden or child.showing])
-            except GLib.Error:
+                pending += [child for child in control.children if hidden or child.showing]
+            except GLib.Error:  # it has gone meanwhile
                 continue
 
-    def look(self, role=None, name=None, description=None, where=None, hidden=False):
-        """All that fit, in the order of the screen reader."""
+    def look(self, role=None, name=None, description=None, where=None, hidden=False, most=None):
+        """All that fit, or as many as asked for."""
         found = []
-        for control in self.walk(hidden):
+        for control, its_role in self.walk(hidden):
             try:
-                if ((role is None or control.role == role) and (name is None or matches(name, control.name)) and
+                if ((role is None or its_role == role) and (name is None or matches(name, control.name)) and
                         (description is None or matches(description, control.description)) and
                         (where is None or where(control))):
                     found.append(control)
+                    if len(found) == most:
+                        break
             except GLib.Error:
                 continue
         return found
 
-    def find(self, role=None, name=None, index=0, limit=LIMIT, **more):
+    def find(self, role=None, name=None, limit=LIMIT, **more):
         """Waits until there is such a control below this one."""
-        text = " ".join(str(part) for part in [role or "something", f"named {name!r}" if name else "", more or "",
-                                                f"in {self}"] if part)
-        return wait(text, lambda: (self.look(role, name, **more)[index:] or [None])[0], limit)
+
+        def text():
+            return " ".join(str(part) for part in [role or "something", f"named {name!r}" if name else "", more or "",
+                                                   f"in {self}"] if part)
+
+        return wait(text, lambda: self.look(role, name, most=1, **more), limit)[0]
 
     def combo(self, label, **more):
         """The combo box with that label, or that description where it has none."""
@@ -196,7 +204,7 @@ class Control:
         return self
 
     def gone(self, role=None, name=None, **more):
-        wait(f"{role} {name!r} to go", lambda: not self.look(role, name, **more))
+        wait(f"{role} {name!r} to go", lambda: not self.look(role, name, most=1, **more))
 
     # --- the hand ---
 

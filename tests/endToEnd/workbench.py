@@ -5,7 +5,7 @@ import xml.etree.ElementTree as xml
 
 from driver import LIMIT, Missed, Program, becomes, click_at, drag, expect, hand, key, type_text, wait
 
-MILLIMETRES = re.compile(r"^(-?[\d.]+), (-?[\d.]+) mm$")
+MILLIMETRES = re.compile(r"^(-?[\d.,]+), (-?[\d.,]+) mm$")
 
 
 class Workbench:
@@ -14,7 +14,14 @@ class Workbench:
     def __init__(self, desktop, program, *arguments):
         self.desktop = desktop
         self.program = Program("zkauthor", desktop.run([str(program), *map(str, arguments)], "zkauthor"))
-        self.window = self.program.window(re.compile(" - zkauthor"), "frame")
+        self.find_window("File")
+
+    def find_window(self, menu):
+        """Works with the main window whose first menu is called so: another one takes its place for another language."""
+        self.window = wait(f"a main window with the menu {menu}", lambda: next(
+            (window for window in self.program.children
+             if window.role == "frame" and " - zkauthor" in window.name and window.showing and
+             any(bar.look("menu item", menu, most=1) for bar in window.look("menu bar", most=1))), None))
 
     # --- the window ---
 
@@ -78,10 +85,10 @@ class Workbench:
 
     def section(self, form, name):
         """Opens a section of a form, if it is closed."""
-        header = form.find("check box", name, where=lambda box: box.description in ("expanded", "collapsed"))
-        if header.description != "expanded":
+        header = form.find("check box", name)
+        if not header.checked:
             header.click((0.5, 0.5))
-            wait(f"the section {name} to open", lambda: header.description == "expanded")
+            wait(f"the section {name} to open", lambda: header.checked)
         return header.parent
 
     # --- the tree of parts ---
@@ -98,7 +105,7 @@ class Workbench:
 
     @property
     def view(self):
-        return self.window.find("filler", re.compile("^Scene "))
+        return self.window.find("layered pane")  # of the tabs, whose page it fills
 
     def measure(self):
         """Finds out by the status bar where on the screen a millimetre of the scene is."""
@@ -118,7 +125,7 @@ class Workbench:
         for label in self.window.find("status bar").look("label"):
             found = MILLIMETRES.match(label.name)
             if found:
-                return float(found[1]), float(found[2])
+                return tuple(float(number.replace(",", ".")) for number in found.groups())
         return None
 
     def at(self, u, v):

@@ -4,6 +4,7 @@ recovered one. Run by ctest as endToEnd; by hand: workingDay.py --program build/
 import argparse
 import re
 import shutil
+import signal
 import sys
 import time
 import traceback
@@ -518,10 +519,31 @@ class Day:
         expect(parts["alarm"]["class"] == "electronics/buzzer", "the part that was not saved before the crash")
         wait("what was kept to go", lambda: not left_over.exists())
 
+    def another_language(self):
+        """The same window speaks German, and writes numbers as Germans do, and then English again."""
+        bench = self.bench
+        bench.menu("Edit", "Preferences...")
+        bench.dialog("Preferences").combo("Language:").choose("Deutsch")
+        bench.answer("Preferences", "OK")
+        bench.find_window("Datei")
+        bench.titled("^night light.zkdoc - ")
+        bench.measure()
+        bench.click_at(210, 40)
+        form = bench.window.find("frame", re.compile("^LED"), where=lambda frame: frame.look("check box", "Licht"))
+        bench.section(form, "Licht")
+        becomes("the period in German", lambda: form.find("text", "Blinkperiode").text, "0,6")
+        bench.menu("Bearbeiten", "Einstellungen...")
+        bench.dialog("Einstellungen").combo("Sprache:").choose("British English")
+        bench.answer("Einstellungen", "OK")
+        bench.find_window("File")
+        bench.titled("^night light.zkdoc - ")
+        bench.measure()
+
     CHAPTERS = [new_document, parts_from_the_tree, connections, property_form, several_at_once, locks, associations,
                 keyboard_alone, the_scene, advanced,
                 inspector, debugging, flowchart_strip, back_and_forth, custom_part, saving,
-                page_setup, pdf, models_browser, flowchart, back_to_the_document, quit_and_return]
+                page_setup, pdf, models_browser, flowchart, back_to_the_document,
+                quit_and_return]
 
     def run(self, last=None):
         start = time.monotonic()
@@ -539,6 +561,7 @@ def main():
     arguments.add_argument("--folder", required=True, type=Path, help="for logs and pictures; is emptied")
     arguments.add_argument("--until", help="the last chapter to play")
     options = arguments.parse_args()
+    signal.signal(signal.SIGTERM, lambda *_: sys.exit("stopped"))  # so that nothing that was started stays behind
     samples = Path(__file__).resolve().parents[2] / "samples"
     with Desktop(options.folder.resolve()) as desktop:
         # Not before there is a display and a bus to speak with.
