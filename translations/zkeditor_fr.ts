@@ -441,6 +441,10 @@ Veuillez en saisir un autre</translation>
         <source>Adding of a scene</source>
         <translation>Ajout d&apos;une scène</translation>
     </message>
+    <message>
+        <source>The document has no more instance ids for new objects.</source>
+        <translation>Le document n&apos;a plus d&apos;identifiants d&apos;instance pour de nouveaux objets.</translation>
+    </message>
 </context>
 <context>
     <name>AddResourceCommand</name>
@@ -2159,6 +2163,22 @@ Veuillez en saisir un autre</translation>
         <translation>les classes sont trop imbriquées</translation>
     </message>
     <message>
+        <source>a class has at most %1 properties, values, forms, substitutions, subparts, rules and bases, with those of its bases</source>
+        <translation>une classe a au plus %1 propriétés, valeurs, formulaires, substitutions, sous-pièces, règles et classes de base, y compris ceux de ses classes de base</translation>
+    </message>
+    <message>
+        <source>the classes of a package have at most %1 properties, subparts and so on together</source>
+        <translation>les classes d&apos;un paquet ont ensemble au plus %1 propriétés, sous-pièces et autres</translation>
+    </message>
+    <message>
+        <source>a part of the class would have more than %1 subparts</source>
+        <translation>une pièce de la classe aurait plus de %1 sous-pièces</translation>
+    </message>
+    <message>
+        <source>a part of the class would have subparts more than %1 deep in one another</source>
+        <translation>une pièce de la classe aurait des sous-pièces imbriquées sur plus de %1 niveaux</translation>
+    </message>
+    <message>
         <source>a class without a base needs a kind</source>
         <translation>une classe sans base a besoin d&apos;une sorte</translation>
     </message>
@@ -2992,6 +3012,10 @@ Veuillez en saisir un autre</translation>
     <message>
         <source>An instance id is in use already.</source>
         <translation>Un numéro d&apos;instance est déjà utilisé.</translation>
+    </message>
+    <message>
+        <source>The document has no more instance ids for new objects.</source>
+        <translation>Le document n&apos;a plus d&apos;identifiants d&apos;instance pour de nouveaux objets.</translation>
     </message>
 </context>
 <context>
@@ -3855,6 +3879,13 @@ Veuillez en saisir un autre</translation>
     <message>
         <source>The picture %1 cannot be written: %2</source>
         <translation>L&apos;image %1 ne peut pas être écrite : %2</translation>
+    </message>
+</context>
+<context>
+    <name>XmlGuard</name>
+    <message>
+        <source>an element has more than %1 attributes</source>
+        <translation>un élément a plus de %1 attributs</translation>
     </message>
 </context>
 </TS>
