@@ -1423,7 +1423,7 @@ Please enter another id</source>
     </message>
     <message>
         <source>Black</source>
-        <translation>أسود</translation>
+        <translation>سميك جدًا</translation>
     </message>
     <message>
         <source>Italic</source>
@@ -2732,6 +2732,10 @@ Please enter another id</source>
         <source>The preferences hold until the program ends: they cannot be kept.</source>
         <translation>تبقى التفضيلات حتى ينتهي البرنامج: لا يمكن حفظها.</translation>
     </message>
+    <message>
+        <source>The language of all texts, and how numbers are written.</source>
+        <translation>لغة جميع النصوص وطريقة كتابة الأرقام.</translation>
+    </message>
 </context>
 <context>
     <name>PrintCommand</name>
@@ -3488,16 +3492,27 @@ Please enter another id</source>
         <translation>يقبل --log القيم stdout أو stderr أو file أو console أو none، وليس &quot;%1&quot;.</translation>
     </message>
     <message>
-        <source>Only one document can be opened, but %1 were given.</source>
-        <translation>لا يمكن فتح إلا مستند واحد، لكن أُعطي %1.</translation>
-    </message>
-    <message>
         <source>--screenshot needs the name of a file.</source>
         <translation>يحتاج --screenshot إلى اسم ملف.</translation>
     </message>
     <message>
         <source>--%1 only works together with --screenshot.</source>
         <translation>لا يعمل --%1 إلا مع --screenshot.</translation>
+    </message>
+    <message>
+        <source>The language of this run, such as de or fr_FR.</source>
+        <translation>لغة هذا التشغيل، مثل de أو fr_FR.</translation>
+    </message>
+    <message numerus="yes">
+        <source>Only one document can be opened, but %n were given.</source>
+        <translation>
+            <numerusform>يمكن فتح مستند واحد فقط، لكن لم يُذكر أي مستند.</numerusform>
+            <numerusform>يمكن فتح مستند واحد فقط، وقد ذُكر مستند واحد.</numerusform>
+            <numerusform>يمكن فتح مستند واحد فقط، لكن ذُكر مستندان.</numerusform>
+            <numerusform>يمكن فتح مستند واحد فقط، لكن ذُكرت %n مستندات.</numerusform>
+            <numerusform>يمكن فتح مستند واحد فقط، لكن ذُكر %n مستندًا.</numerusform>
+            <numerusform>يمكن فتح مستند واحد فقط، لكن ذُكر %n مستند.</numerusform>
+        </translation>
     </message>
 </context>
 <context>

@@ -1407,7 +1407,7 @@ Bitte geben Sie eine andere Kennung ein</translation>
     </message>
     <message>
         <source>Black</source>
-        <translation>Schwarz</translation>
+        <translation>Extrafett</translation>
     </message>
     <message>
         <source>Italic</source>
@@ -2684,6 +2684,10 @@ Bitte geben Sie eine andere Kennung ein</translation>
         <source>The preferences hold until the program ends: they cannot be kept.</source>
         <translation>Die Einstellungen gelten, bis das Programm endet: sie können nicht bewahrt werden.</translation>
     </message>
+    <message>
+        <source>The language of all texts, and how numbers are written.</source>
+        <translation>Die Sprache aller Texte und die Schreibweise der Zahlen.</translation>
+    </message>
 </context>
 <context>
     <name>PrintCommand</name>
@@ -3424,16 +3428,23 @@ Bitte geben Sie eine andere Kennung ein</translation>
         <translation>--log nimmt stdout, stderr, file, console oder none, nicht &quot;%1&quot;.</translation>
     </message>
     <message>
-        <source>Only one document can be opened, but %1 were given.</source>
-        <translation>Nur ein Dokument kann geöffnet werden, aber es wurden %1 angegeben.</translation>
-    </message>
-    <message>
         <source>--screenshot needs the name of a file.</source>
         <translation>--screenshot braucht den Namen einer Datei.</translation>
     </message>
     <message>
         <source>--%1 only works together with --screenshot.</source>
         <translation>--%1 wirkt nur zusammen mit --screenshot.</translation>
+    </message>
+    <message>
+        <source>The language of this run, such as de or fr_FR.</source>
+        <translation>Die Sprache für diesen Start, etwa de oder fr_FR.</translation>
+    </message>
+    <message numerus="yes">
+        <source>Only one document can be opened, but %n were given.</source>
+        <translation>
+            <numerusform>Es kann nur ein Dokument geöffnet werden, angegeben wurde %n.</numerusform>
+            <numerusform>Es kann nur ein Dokument geöffnet werden, angegeben wurden %n.</numerusform>
+        </translation>
     </message>
 </context>
 <context>

@@ -149,4 +149,14 @@
         </translation>
     </message>
 </context>
+<context>
+    <name>StartOptions</name>
+    <message numerus="yes">
+        <source>Only one document can be opened, but %n were given.</source>
+        <translation>
+            <numerusform>Only one document can be opened, but %n was given.</numerusform>
+            <numerusform>Only one document can be opened, but %n were given.</numerusform>
+        </translation>
+    </message>
+</context>
 </TS>

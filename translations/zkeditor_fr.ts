@@ -1407,7 +1407,7 @@ Veuillez en saisir un autre</translation>
     </message>
     <message>
         <source>Black</source>
-        <translation>Noir</translation>
+        <translation>Extra-gras</translation>
     </message>
     <message>
         <source>Italic</source>
@@ -2684,6 +2684,10 @@ Veuillez en saisir un autre</translation>
         <source>The preferences hold until the program ends: they cannot be kept.</source>
         <translation>Les préférences valent jusqu&apos;à la fin du programme : elles ne peuvent pas être gardées.</translation>
     </message>
+    <message>
+        <source>The language of all texts, and how numbers are written.</source>
+        <translation>La langue de tous les textes et l’écriture des nombres.</translation>
+    </message>
 </context>
 <context>
     <name>PrintCommand</name>
@@ -3424,16 +3428,23 @@ Veuillez en saisir un autre</translation>
         <translation>--log accepte stdout, stderr, file, console ou none, pas « %1 ».</translation>
     </message>
     <message>
-        <source>Only one document can be opened, but %1 were given.</source>
-        <translation>Un seul document peut être ouvert, mais %1 ont été donnés.</translation>
-    </message>
-    <message>
         <source>--screenshot needs the name of a file.</source>
         <translation>--screenshot a besoin du nom d&apos;un fichier.</translation>
     </message>
     <message>
         <source>--%1 only works together with --screenshot.</source>
         <translation>--%1 ne fonctionne qu&apos;avec --screenshot.</translation>
+    </message>
+    <message>
+        <source>The language of this run, such as de or fr_FR.</source>
+        <translation>La langue de cette exécution, par exemple de ou fr_FR.</translation>
+    </message>
+    <message numerus="yes">
+        <source>Only one document can be opened, but %n were given.</source>
+        <translation>
+            <numerusform>Un seul document peut être ouvert, mais %n a été indiqué.</numerusform>
+            <numerusform>Un seul document peut être ouvert, mais %n ont été indiqués.</numerusform>
+        </translation>
     </message>
 </context>
 <context>

@@ -75,6 +75,8 @@ void succeedWindow(MainWindow& before, MainWindow& now)
     scrollAlike(before, now);
     if (const QRect inspector = earlier->inspectorGeometry(); inspector.isValid())
         palettes->showInspector(inspector);
+    if (before.isVisible())
+        now.activateWindow();
     if (SceneView* view = now.spaceTabs()->currentView())
         view->setFocus();
 }
