@@ -144,7 +144,7 @@
     </message>
     <message>
         <source>Select Ne&amp;xt</source>
-        <translation>تحديد ال&amp;تالي</translation>
+        <translation>تحديد الت&amp;الي</translation>
     </message>
     <message>
         <source>Select the next part</source>
@@ -160,7 +160,7 @@
     </message>
     <message>
         <source>Rotate Le&amp;ft</source>
-        <translation>تدوير إلى الي&amp;سار</translation>
+        <translation>تدوير إلى اليسا&amp;ر</translation>
     </message>
     <message>
         <source>Turn the selected parts a quarter to the left</source>
@@ -240,7 +240,7 @@
     </message>
     <message>
         <source>Print Previe&amp;w...</source>
-        <translation>م&amp;عاينة الطباعة...</translation>
+        <translation>معاي&amp;نة الطباعة...</translation>
     </message>
     <message>
         <source>Show the pages as they are printed</source>
@@ -272,7 +272,7 @@
     </message>
     <message>
         <source>&amp;Save as Custom Part...</source>
-        <translation>ح&amp;فظ كقطعة خاصة...</translation>
+        <translation>حف&amp;ظ كقطعة خاصة...</translation>
     </message>
     <message>
         <source>Offer the selected part among the parts from now on</source>
@@ -500,7 +500,7 @@ Please enter another id</source>
         <translation>ال&amp;مشهد</translation>
     </message>
     <message>
-        <source>Cl&amp;ick</source>
+        <source>Clic&amp;k</source>
         <translation>ال&amp;نقر</translation>
     </message>
     <message>
@@ -509,15 +509,15 @@ Please enter another id</source>
     </message>
     <message>
         <source>&amp;Copies</source>
-        <translation>الن&amp;سخ</translation>
+        <translation>النس&amp;خ</translation>
     </message>
     <message>
-        <source>Offset &amp;right</source>
+        <source>Offset ri&amp;ght</source>
         <translation>الإزاحة إلى ال&amp;يمين</translation>
     </message>
     <message>
         <source>Offset &amp;down</source>
-        <translation>الإزاحة إلى الأ&amp;سفل</translation>
+        <translation>الإزاحة إلى الأس&amp;فل</translation>
     </message>
     <message>
         <source>D&amp;uplicate</source>
@@ -1899,7 +1899,7 @@ Please enter another id</source>
         <translation>الترخيص</translation>
     </message>
     <message>
-        <source>Licence &amp;code:</source>
+        <source>Licenc&amp;e code:</source>
         <translation>&amp;رمز الترخيص:</translation>
     </message>
     <message>
@@ -2825,7 +2825,7 @@ Please enter another id</source>
     </message>
     <message>
         <source>I&amp;nspector...</source>
-        <translation>ال&amp;مفتش...</translation>
+        <translation>المفت&amp;ش...</translation>
     </message>
     <message>
         <source>Show the tree of everything in the document</source>

@@ -496,7 +496,7 @@ Bitte geben Sie eine andere Kennung ein</translation>
         <translation>&amp;Szene</translation>
     </message>
     <message>
-        <source>Cl&amp;ick</source>
+        <source>Clic&amp;k</source>
         <translation>&amp;Klick</translation>
     </message>
     <message>
@@ -505,10 +505,10 @@ Bitte geben Sie eine andere Kennung ein</translation>
     </message>
     <message>
         <source>&amp;Copies</source>
-        <translation>Ko&amp;pien</translation>
+        <translation>K&amp;opien</translation>
     </message>
     <message>
-        <source>Offset &amp;right</source>
+        <source>Offset ri&amp;ght</source>
         <translation>Versatz nach &amp;rechts</translation>
     </message>
     <message>
@@ -517,7 +517,7 @@ Bitte geben Sie eine andere Kennung ein</translation>
     </message>
     <message>
         <source>D&amp;uplicate</source>
-        <translation>&amp;Duplizieren</translation>
+        <translation>Dupl&amp;izieren</translation>
     </message>
     <message>
         <source>Adds the copies, each beside the one before it</source>
@@ -1879,7 +1879,7 @@ Bitte geben Sie eine andere Kennung ein</translation>
         <translation>Lizenz</translation>
     </message>
     <message>
-        <source>Licence &amp;code:</source>
+        <source>Licenc&amp;e code:</source>
         <translation>Lizenz&amp;code:</translation>
     </message>
     <message>
@@ -2979,7 +2979,7 @@ Bitte geben Sie eine andere Kennung ein</translation>
     </message>
     <message>
         <source>The &amp;wheel zooms scenes (with Ctrl it scrolls them)</source>
-        <translation>Das &amp;Rad vergrößert Szenen (mit Strg rollt es sie)</translation>
+        <translation>Das Ra&amp;d vergrößert Szenen (mit Strg rollt es sie)</translation>
     </message>
     <message>
         <source>&amp;Messages go to:</source>

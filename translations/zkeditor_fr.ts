@@ -224,7 +224,7 @@
     </message>
     <message>
         <source>Delete S&amp;cene</source>
-        <translation>&amp;Supprimer la scène</translation>
+        <translation>Su&amp;pprimer la scène</translation>
     </message>
     <message>
         <source>Delete the scene on view</source>
@@ -280,7 +280,7 @@
     </message>
     <message>
         <source>Pr&amp;eferences...</source>
-        <translation>Préféren&amp;ces...</translation>
+        <translation>Pré&amp;férences...</translation>
     </message>
     <message>
         <source>How the program works for you</source>
@@ -383,7 +383,7 @@
     </message>
     <message>
         <source>&amp;Cancel</source>
-        <translation>A&amp;nnuler</translation>
+        <translation>Annule&amp;r</translation>
     </message>
     <message>
         <source>The part id %1 is already in use.
@@ -496,8 +496,8 @@ Veuillez en saisir un autre</translation>
         <translation>&amp;Scène</translation>
     </message>
     <message>
-        <source>Cl&amp;ick</source>
-        <translation>Cl&amp;ic</translation>
+        <source>Clic&amp;k</source>
+        <translation>Cli&amp;c</translation>
     </message>
     <message>
         <source> mm</source>
@@ -505,15 +505,15 @@ Veuillez en saisir un autre</translation>
     </message>
     <message>
         <source>&amp;Copies</source>
-        <translation>&amp;Copies</translation>
+        <translation>Copi&amp;es</translation>
     </message>
     <message>
-        <source>Offset &amp;right</source>
-        <translation>Décalage à &amp;droite</translation>
+        <source>Offset ri&amp;ght</source>
+        <translation>Décalage à droi&amp;te</translation>
     </message>
     <message>
         <source>Offset &amp;down</source>
-        <translation>Décalage vers le &amp;bas</translation>
+        <translation>Décalage &amp;vers le bas</translation>
     </message>
     <message>
         <source>D&amp;uplicate</source>
@@ -1879,7 +1879,7 @@ Veuillez en saisir un autre</translation>
         <translation>Licence</translation>
     </message>
     <message>
-        <source>Licence &amp;code:</source>
+        <source>Licenc&amp;e code:</source>
         <translation>&amp;Code de licence :</translation>
     </message>
     <message>
@@ -2596,7 +2596,7 @@ Veuillez en saisir un autre</translation>
     </message>
     <message>
         <source>O&amp;rientation:</source>
-        <translation>&amp;Orientation :</translation>
+        <translation>O&amp;rientation :</translation>
     </message>
     <message>
         <source>Scale to Page &amp;Width:</source>

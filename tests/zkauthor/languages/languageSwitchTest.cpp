@@ -8,8 +8,6 @@
 #include "zkauthor/sceneView.h"
 #include "zkauthor/spaceTabs.h"
 #include "zkcore/commands/addNodesCommand.h"
-#include "zkcore/commands/deleteNodeCommand.h"
-#include "zkcore/commands/setValueCommand.h"
 #include "zkcore/model/propertyImpl.h"
 #include "zkcore/services/languages.h"
 #include "zkeditor/inspector.h"
@@ -85,8 +83,7 @@ TEST_F(LanguageSwitchTest, KeepsTheWorkAndTheViewOfIt)
     document->setSelection({lamp});
     window().palettes()->showInspector(QRect(50, 60, 500, 400));
     QApplication::processEvents();
-    document->executeCommand(
-        new SetValueCommand(Property(property(lamp, "brightness")), Value(50.0), true));
+    ASSERT_TRUE(set(property(lamp, "brightness"), Value(50)));
     const QString file = document->getUrl().toLocalFile();
     const int steps = document->undoStack()->count();
     const bool remembered = window().findChild<QAction*>(QStringLiteral("undo"))->isEnabled();
@@ -159,8 +156,7 @@ TEST_F(LanguageSwitchTest, LeavesNoTextOfTheOldLanguage)
     ASSERT_NO_FATAL_FAILURE(start(QStringLiteral("de_DE")));
     select({QStringLiteral("first")});
     PartImpl* lamp = addPart(document(), "electronics/led");
-    document().executeCommand(
-        new SetValueCommand(Property(property(lamp, "brightness")), Value(50.0), true));
+    ASSERT_TRUE(set(property(lamp, "brightness"), Value(50)));
     const QString undo = actionText("undo");
     EXPECT_TRUE(undo.contains(QStringLiteral("Helligkeit"))) << undo.toStdString();
     for (const char* locale : {"ar_EG", "fr_FR", "en_GB"}) {
