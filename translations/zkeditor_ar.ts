@@ -1518,7 +1518,7 @@ Please enter another id</source>
     </message>
     <message>
         <source>the button stands for nothing in the group &apos;%1&apos;: %2</source>
-        <translation>الزر لا يمثل شيئًا في المجموعة '%1': %2</translation>
+        <translation>الزر لا يمثل شيئًا في المجموعة &apos;%1&apos;: %2</translation>
     </message>
     <message>
         <source>the name is taken by what begins in line %1: connections and buddies find only one of them</source>
@@ -2604,8 +2604,8 @@ Please enter another id</source>
         <translation>الامتداد لا يدل على أي نوع من الموارد: لا يُستعمل الملف أبدًا</translation>
     </message>
     <message>
-        <source>nothing in the package names the file</source>
-        <translation>لا شيء في الحزمة يذكر الملف</translation>
+        <source>nothing names the file</source>
+        <translation>لا شيء يذكر الملف</translation>
     </message>
 </context>
 <context>

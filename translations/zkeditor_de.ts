@@ -1502,7 +1502,7 @@ Bitte geben Sie eine andere Kennung ein</translation>
     </message>
     <message>
         <source>the button stands for nothing in the group &apos;%1&apos;: %2</source>
-        <translation>der Knopf steht für nichts in der Gruppe '%1': %2</translation>
+        <translation>der Knopf steht für nichts in der Gruppe &apos;%1&apos;: %2</translation>
     </message>
     <message>
         <source>the name is taken by what begins in line %1: connections and buddies find only one of them</source>
@@ -2560,8 +2560,8 @@ Bitte geben Sie eine andere Kennung ein</translation>
         <translation>die Endung steht für keine Art von Ressource: die Datei wird nie verwendet</translation>
     </message>
     <message>
-        <source>nothing in the package names the file</source>
-        <translation>nichts im Paket nennt die Datei</translation>
+        <source>nothing names the file</source>
+        <translation>nichts nennt die Datei</translation>
     </message>
 </context>
 <context>

@@ -1462,19 +1462,19 @@ Veuillez en saisir un autre</translation>
     <name>FormChecker</name>
     <message>
         <source>scenes and pop-ups have no subparts to choose from</source>
-        <translation>les scènes et les bulles n'ont pas de sous-pièces à choisir</translation>
+        <translation>les scènes et les bulles n&apos;ont pas de sous-pièces à choisir</translation>
     </message>
     <message>
         <source>the list stays empty: nodes of the class have no such subparts, and none can be added</source>
-        <translation>la liste reste vide : les nœuds de la classe n'ont pas de telles sous-pièces, et on ne peut pas en ajouter</translation>
+        <translation>la liste reste vide : les nœuds de la classe n&apos;ont pas de telles sous-pièces, et on ne peut pas en ajouter</translation>
     </message>
     <message>
         <source>there is no property &quot;%1&quot; to bind</source>
-        <translation>il n'y a pas de propriété « %1 » à lier</translation>
+        <translation>il n&apos;y a pas de propriété « %1 » à lier</translation>
     </message>
     <message>
         <source>there is no property &quot;%1&quot; to bind; did you mean &quot;%2&quot;?</source>
-        <translation>il n'y a pas de propriété « %1 » à lier ; vouliez-vous dire « %2 » ?</translation>
+        <translation>il n&apos;y a pas de propriété « %1 » à lier ; vouliez-vous dire « %2 » ?</translation>
     </message>
     <message>
         <source>the key of the property to bind is missing</source>
@@ -1482,15 +1482,15 @@ Veuillez en saisir un autre</translation>
     </message>
     <message>
         <source>there are no subparts &quot;%1&quot; to bind</source>
-        <translation>il n'y a pas de sous-pièces « %1 » à lier</translation>
+        <translation>il n&apos;y a pas de sous-pièces « %1 » à lier</translation>
     </message>
     <message>
         <source>not all subparts that can be chosen have the property &quot;%1&quot;</source>
-        <translation>toutes les sous-pièces que l'on peut choisir n'ont pas la propriété « %1 »</translation>
+        <translation>toutes les sous-pièces que l&apos;on peut choisir n&apos;ont pas la propriété « %1 »</translation>
     </message>
     <message>
         <source>new nodes have no subparts &quot;%1&quot;: the form is not shown for them</source>
-        <translation>les nouveaux nœuds n'ont pas de sous-pièces « %1 » : le formulaire n'est pas montré pour eux</translation>
+        <translation>les nouveaux nœuds n&apos;ont pas de sous-pièces « %1 » : le formulaire n&apos;est pas montré pour eux</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is of the type %2, but the control takes %3</source>
@@ -1502,23 +1502,23 @@ Veuillez en saisir un autre</translation>
     </message>
     <message>
         <source>the button stands for nothing in the group &apos;%1&apos;: %2</source>
-        <translation>le bouton ne représente rien dans le groupe '%1' : %2</translation>
+        <translation>le bouton ne représente rien dans le groupe &apos;%1&apos; : %2</translation>
     </message>
     <message>
         <source>the name is taken by what begins in line %1: connections and buddies find only one of them</source>
-        <translation>le nom est pris par ce qui commence à la ligne %1 : connexions et partenaires n'en trouvent qu'un</translation>
+        <translation>le nom est pris par ce qui commence à la ligne %1 : connexions et partenaires n&apos;en trouvent qu&apos;un</translation>
     </message>
     <message>
         <source>a widget of this class keeps what is in it to itself: the top widget of a form has to be a QWidget</source>
-        <translation>un élément de cette classe garde son contenu pour lui : l'élément principal d'un formulaire doit être un QWidget</translation>
+        <translation>un élément de cette classe garde son contenu pour lui : l&apos;élément principal d&apos;un formulaire doit être un QWidget</translation>
     </message>
     <message>
         <source>the form has no section: directly in its top widget there must be a PaletteBoxSection</source>
-        <translation>le formulaire n'a pas de section : il doit y avoir une PaletteBoxSection directement dans son élément principal</translation>
+        <translation>le formulaire n&apos;a pas de section : il doit y avoir une PaletteBoxSection directement dans son élément principal</translation>
     </message>
     <message>
         <source>it stands outside all sections and is never shown</source>
-        <translation>il se trouve hors de toutes les sections et n'est jamais montré</translation>
+        <translation>il se trouve hors de toutes les sections et n&apos;est jamais montré</translation>
     </message>
     <message>
         <source>the class is missing</source>
@@ -1526,27 +1526,27 @@ Veuillez en saisir un autre</translation>
     </message>
     <message>
         <source>there is no such class</source>
-        <translation>cette classe n'existe pas</translation>
+        <translation>cette classe n&apos;existe pas</translation>
     </message>
     <message>
         <source>there is no such class; did you mean %1?</source>
-        <translation>cette classe n'existe pas ; vouliez-vous dire %1 ?</translation>
+        <translation>cette classe n&apos;existe pas ; vouliez-vous dire %1 ?</translation>
     </message>
     <message>
         <source>there is no such class; a %1, which it refines, is shown in its place</source>
-        <translation>cette classe n'existe pas ; %1, qu'elle spécialise, est montré à sa place</translation>
+        <translation>cette classe n&apos;existe pas ; %1, qu&apos;elle spécialise, est montré à sa place</translation>
     </message>
     <message>
         <source>the class has no such property</source>
-        <translation>la classe n'a pas cette propriété</translation>
+        <translation>la classe n&apos;a pas cette propriété</translation>
     </message>
     <message>
         <source>the class has no such property; did you mean &quot;%1&quot;?</source>
-        <translation>la classe n'a pas cette propriété ; vouliez-vous dire « %1 » ?</translation>
+        <translation>la classe n&apos;a pas cette propriété ; vouliez-vous dire « %1 » ?</translation>
     </message>
     <message>
         <source>there is no value; &lt;%1&gt; is needed</source>
-        <translation>il n'y a pas de valeur ; il faut &lt;%1&gt;</translation>
+        <translation>il n&apos;y a pas de valeur ; il faut &lt;%1&gt;</translation>
     </message>
     <message>
         <source>&lt;%1&gt; is given where &lt;%2&gt; is needed</source>
@@ -1554,7 +1554,7 @@ Veuillez en saisir un autre</translation>
     </message>
     <message>
         <source>%1 is no number</source>
-        <translation>%1 n'est pas un nombre</translation>
+        <translation>%1 n&apos;est pas un nombre</translation>
     </message>
     <message>
         <source>at most %1 are possible</source>
@@ -1562,7 +1562,7 @@ Veuillez en saisir un autre</translation>
     </message>
     <message>
         <source>%1 is neither &quot;true&quot; nor &quot;false&quot;</source>
-        <translation>%1 n'est ni « true » ni « false »</translation>
+        <translation>%1 n&apos;est ni « true » ni « false »</translation>
     </message>
     <message>
         <source>%1 is none of %2</source>
@@ -1570,19 +1570,19 @@ Veuillez en saisir un autre</translation>
     </message>
     <message>
         <source>the picture %1 is no resource of the program: whether it is found depends on the folder in which the program is started</source>
-        <translation>l'image %1 n'est pas une ressource du programme : qu'elle soit trouvée dépend du dossier où le programme est lancé</translation>
+        <translation>l&apos;image %1 n&apos;est pas une ressource du programme : qu&apos;elle soit trouvée dépend du dossier où le programme est lancé</translation>
     </message>
     <message>
         <source>there is no picture %1</source>
-        <translation>il n'y a pas d'image %1</translation>
+        <translation>il n&apos;y a pas d&apos;image %1</translation>
     </message>
     <message>
         <source>there is no widget %1</source>
-        <translation>il n'y a pas d'élément %1</translation>
+        <translation>il n&apos;y a pas d&apos;élément %1</translation>
     </message>
     <message>
         <source>there is no widget %1; did you mean &quot;%2&quot;?</source>
-        <translation>il n'y a pas d'élément %1 ; vouliez-vous dire « %2 » ?</translation>
+        <translation>il n&apos;y a pas d&apos;élément %1 ; vouliez-vous dire « %2 » ?</translation>
     </message>
     <message>
         <source>the text is missing: a control over two texts needs both, not empty</source>
@@ -1590,23 +1590,23 @@ Veuillez en saisir un autre</translation>
     </message>
     <message>
         <source>the signal %1 does not bring what the slot %2 takes</source>
-        <translation>le signal %1 n'apporte pas ce que prend le slot %2</translation>
+        <translation>le signal %1 n&apos;apporte pas ce que prend le slot %2</translation>
     </message>
     <message>
         <source>the connection leads nowhere: there is no widget %1</source>
-        <translation>la connexion ne mène nulle part : il n'y a pas d'élément %1</translation>
+        <translation>la connexion ne mène nulle part : il n&apos;y a pas d&apos;élément %1</translation>
     </message>
     <message>
         <source>the connection leads nowhere: there is no widget %1; did you mean &quot;%2&quot;?</source>
-        <translation>la connexion ne mène nulle part : il n'y a pas d'élément %1 ; vouliez-vous dire « %2 » ?</translation>
+        <translation>la connexion ne mène nulle part : il n&apos;y a pas d&apos;élément %1 ; vouliez-vous dire « %2 » ?</translation>
     </message>
     <message>
         <source>the connection leads nowhere: the class has no signal %1</source>
-        <translation>la connexion ne mène nulle part : la classe n'a pas de signal %1</translation>
+        <translation>la connexion ne mène nulle part : la classe n&apos;a pas de signal %1</translation>
     </message>
     <message>
         <source>the connection leads nowhere: the class has no slot %1</source>
-        <translation>la connexion ne mène nulle part : la classe n'a pas de slot %1</translation>
+        <translation>la connexion ne mène nulle part : la classe n&apos;a pas de slot %1</translation>
     </message>
     <message>
         <source>the connection closes a circle: %1 would switch itself for ever</source>
@@ -1614,31 +1614,31 @@ Veuillez en saisir un autre</translation>
     </message>
     <message>
         <source>the tab order names %1, but there is no such widget</source>
-        <translation>l'ordre de tabulation nomme %1, mais cet élément n'existe pas</translation>
+        <translation>l&apos;ordre de tabulation nomme %1, mais cet élément n&apos;existe pas</translation>
     </message>
     <message>
         <source>the list stays empty: the property needs a validator of the kind &quot;set&quot;</source>
-        <translation>la liste reste vide : la propriété a besoin d'une règle de validation de la sorte « set »</translation>
+        <translation>la liste reste vide : la propriété a besoin d&apos;une règle de validation de la sorte « set »</translation>
     </message>
     <message>
         <source>the list stays empty: the property&apos;s validator allows no value</source>
-        <translation>la liste reste vide : la règle de validation de la propriété n'admet aucune valeur</translation>
+        <translation>la liste reste vide : la règle de validation de la propriété n&apos;admet aucune valeur</translation>
     </message>
     <message>
         <source>the list stays empty: the property needs a validator of the kind &quot;resources&quot;</source>
-        <translation>la liste reste vide : la propriété a besoin d'une règle de validation de la sorte « resources »</translation>
+        <translation>la liste reste vide : la propriété a besoin d&apos;une règle de validation de la sorte « resources »</translation>
     </message>
     <message>
         <source>no unit is shown: the property has neither a unit nor a format with units</source>
-        <translation>aucune unité n'est montrée : la propriété n'a ni unité ni format avec unités</translation>
+        <translation>aucune unité n&apos;est montrée : la propriété n&apos;a ni unité ni format avec unités</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is no value of the type %2</source>
-        <translation>« %1 » n'est pas une valeur du type %2</translation>
+        <translation>« %1 » n&apos;est pas une valeur du type %2</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is no value that the property may take</source>
-        <translation>« %1 » n'est pas une valeur que la propriété puisse prendre</translation>
+        <translation>« %1 » n&apos;est pas une valeur que la propriété puisse prendre</translation>
     </message>
 </context>
 <context>
@@ -1657,11 +1657,11 @@ Veuillez en saisir un autre</translation>
     </message>
     <message>
         <source>this is no form but &lt;%1&gt;</source>
-        <translation>ce n'est pas un formulaire mais &lt;%1&gt;</translation>
+        <translation>ce n&apos;est pas un formulaire mais &lt;%1&gt;</translation>
     </message>
     <message>
         <source>the form has no widget</source>
-        <translation>le formulaire n'a pas d'élément</translation>
+        <translation>le formulaire n&apos;a pas d&apos;élément</translation>
     </message>
     <message>
         <source>the form has the version %1, 4.0 is needed</source>
@@ -1673,7 +1673,7 @@ Veuillez en saisir un autre</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is no %2 of a grid; at most %3 are possible</source>
-        <translation>« %1 » n'est pas une %2 de grille ; %3 au plus sont possibles</translation>
+        <translation>« %1 » n&apos;est pas une %2 de grille ; %3 au plus sont possibles</translation>
     </message>
     <message>
         <source>%1 is larger than anything that can be shown</source>
@@ -1685,7 +1685,7 @@ Veuillez en saisir un autre</translation>
     </message>
     <message>
         <source>the class &quot;%1&quot; refines too many others</source>
-        <translation>la classe « %1 » en spécialise trop d'autres</translation>
+        <translation>la classe « %1 » en spécialise trop d&apos;autres</translation>
     </message>
     <message>
         <source>the form is larger than %1 MB</source>
@@ -1700,7 +1700,7 @@ Veuillez en saisir un autre</translation>
     </message>
     <message>
         <source>The form &quot;%1&quot; is faulty and is not shown. What its author has to mend:</source>
-        <translation>Le formulaire « %1 » est défectueux et n'est pas montré. Ce que son auteur doit corriger :</translation>
+        <translation>Le formulaire « %1 » est défectueux et n&apos;est pas montré. Ce que son auteur doit corriger :</translation>
     </message>
     <message>
         <source>Line %1: %2</source>
@@ -1718,15 +1718,15 @@ Veuillez en saisir un autre</translation>
     <name>FormGate</name>
     <message>
         <source>there is no form of this name</source>
-        <translation>il n'y a pas de formulaire de ce nom</translation>
+        <translation>il n&apos;y a pas de formulaire de ce nom</translation>
     </message>
     <message>
         <source>what is selected has no subpart &quot;%1&quot; with the property &quot;%2&quot;</source>
-        <translation>ce qui est sélectionné n'a pas de sous-pièce « %1 » avec la propriété « %2 »</translation>
+        <translation>ce qui est sélectionné n&apos;a pas de sous-pièce « %1 » avec la propriété « %2 »</translation>
     </message>
     <message>
         <source>the toolkit cannot read the form, or makes no section of it directly in its top widget</source>
-        <translation>la bibliothèque ne peut pas lire le formulaire, ou n'en fait aucune section directement dans son élément principal</translation>
+        <translation>la bibliothèque ne peut pas lire le formulaire, ou n&apos;en fait aucune section directement dans son élément principal</translation>
     </message>
 </context>
 <context>
@@ -2017,7 +2017,7 @@ Veuillez en saisir un autre</translation>
     </message>
     <message>
         <source>What it can follow</source>
-        <translation>Ce qu'elle peut suivre</translation>
+        <translation>Ce qu&apos;elle peut suivre</translation>
     </message>
 </context>
 <context>
@@ -2557,11 +2557,11 @@ Veuillez en saisir un autre</translation>
     </message>
     <message>
         <source>the extension stands for no kind of resource: the file is never used</source>
-        <translation>l'extension ne correspond à aucune sorte de ressource : le fichier n'est jamais utilisé</translation>
+        <translation>l&apos;extension ne correspond à aucune sorte de ressource : le fichier n&apos;est jamais utilisé</translation>
     </message>
     <message>
-        <source>nothing in the package names the file</source>
-        <translation>rien dans le paquet ne nomme le fichier</translation>
+        <source>nothing names the file</source>
+        <translation>rien ne nomme le fichier</translation>
     </message>
 </context>
 <context>
@@ -3179,7 +3179,7 @@ Veuillez en saisir un autre</translation>
     </message>
     <message>
         <source>Nothing is found that could be followed.</source>
-        <translation>Rien n'est trouvé qui puisse être suivi.</translation>
+        <translation>Rien n&apos;est trouvé qui puisse être suivi.</translation>
     </message>
     <message>
         <source>The selected parts do not follow the same.</source>
@@ -3761,7 +3761,7 @@ Veuillez en saisir un autre</translation>
     </message>
     <message>
         <source>Tell what is wrong with a form, and quit. The exit code is 0 when nothing is, 1 for errors, 2 when the form cannot be read.</source>
-        <translation>Dire ce qui ne va pas dans un formulaire, et quitter. Le code de sortie est 0 si tout va bien, 1 en cas d'erreurs, 2 si le formulaire ne peut pas être lu.</translation>
+        <translation>Dire ce qui ne va pas dans un formulaire, et quitter. Le code de sortie est 0 si tout va bien, 1 en cas d&apos;erreurs, 2 si le formulaire ne peut pas être lu.</translation>
     </message>
     <message>
         <source>Check the form for this class. May be given several times. Without it, the form is checked for the classes that name it.</source>
@@ -3773,11 +3773,11 @@ Veuillez en saisir un autre</translation>
     </message>
     <message>
         <source>--%1 needs the name of a file or folder.</source>
-        <translation>--%1 a besoin du nom d'un fichier ou d'un dossier.</translation>
+        <translation>--%1 a besoin du nom d&apos;un fichier ou d&apos;un dossier.</translation>
     </message>
     <message>
         <source>--class only works together with --check-form.</source>
-        <translation>--class ne fonctionne qu'avec --check-form.</translation>
+        <translation>--class ne fonctionne qu&apos;avec --check-form.</translation>
     </message>
     <message>
         <source>--check-form and --check-package cannot be given together.</source>
@@ -4205,7 +4205,7 @@ Veuillez en saisir un autre</translation>
     </message>
     <message>
         <source>%1 is no file.</source>
-        <translation>%1 n'est pas un fichier.</translation>
+        <translation>%1 n&apos;est pas un fichier.</translation>
     </message>
     <message>
         <source>%1 cannot be read: %2</source>
@@ -4213,11 +4213,11 @@ Veuillez en saisir un autre</translation>
     </message>
     <message>
         <source>There is no class &quot;%1&quot;.</source>
-        <translation>Il n'y a pas de classe « %1 ».</translation>
+        <translation>Il n&apos;y a pas de classe « %1 ».</translation>
     </message>
     <message>
         <source>%1 is no package: it has no file package.xml.</source>
-        <translation>%1 n'est pas un paquet : il n'a pas de fichier package.xml.</translation>
+        <translation>%1 n&apos;est pas un paquet : il n&apos;a pas de fichier package.xml.</translation>
     </message>
 </context>
 <context>

@@ -21,6 +21,7 @@
 #include <QTimer>
 #include <QTreeView>
 #include <QVBoxLayout>
+#include <algorithm>
 #include <utility>
 
 PropertyListBox::PropertyListBox(QWidget* parent, const QString& name)
