@@ -1003,7 +1003,7 @@
     </message>
     <message>
         <source>Light</source>
-        <translation>خفيف</translation>
+        <translation>الضوء</translation>
     </message>
     <message>
         <source>The colour of the light.</source>
@@ -2753,7 +2753,7 @@
     </message>
     <message>
         <source>Open</source>
-        <translation>فتح</translation>
+        <translation>مفتوحة</translation>
     </message>
     <message>
         <source>Whether the pop-up is shown now.</source>
@@ -3337,7 +3337,7 @@
     </message>
     <message>
         <source>Clear</source>
-        <translation>مسح</translation>
+        <translation>شفافة</translation>
     </message>
     <message>
         <source>Milky</source>
@@ -3400,7 +3400,7 @@
     </message>
     <message>
         <source>Light</source>
-        <translation>خفيف</translation>
+        <translation>الضوء</translation>
     </message>
     <message>
         <source>How bright it is at the start, in percent.</source>
@@ -3813,7 +3813,7 @@
     </message>
     <message>
         <source>square</source>
-        <translation>مربع</translation>
+        <translation>بزوايا قائمة</translation>
     </message>
     <message>
         <source>Cross-section in mm²</source>
@@ -4053,7 +4053,7 @@
     </message>
     <message>
         <source>square</source>
-        <translation>مربع</translation>
+        <translation>بزوايا قائمة</translation>
     </message>
     <message>
         <source>straight</source>
@@ -4170,7 +4170,7 @@
     </message>
     <message>
         <source>Switch</source>
-        <translation>مفتاح كهربائي</translation>
+        <translation>تبديل</translation>
     </message>
     <message>
         <source>Flash</source>

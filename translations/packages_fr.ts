@@ -1003,7 +1003,7 @@
     </message>
     <message>
         <source>Light</source>
-        <translation>Léger</translation>
+        <translation>Lumière</translation>
     </message>
     <message>
         <source>The colour of the light.</source>
@@ -2753,7 +2753,7 @@
     </message>
     <message>
         <source>Open</source>
-        <translation>Ouvrir</translation>
+        <translation>Ouverte</translation>
     </message>
     <message>
         <source>Whether the pop-up is shown now.</source>
@@ -3337,7 +3337,7 @@
     </message>
     <message>
         <source>Clear</source>
-        <translation>Vider</translation>
+        <translation>Claire</translation>
     </message>
     <message>
         <source>Milky</source>
@@ -3400,7 +3400,7 @@
     </message>
     <message>
         <source>Light</source>
-        <translation>Léger</translation>
+        <translation>Lumière</translation>
     </message>
     <message>
         <source>How bright it is at the start, in percent.</source>
@@ -3617,7 +3617,7 @@
     </message>
     <message>
         <source>none</source>
-        <translation>aucun</translation>
+        <translation>aucune</translation>
     </message>
     <message>
         <source>positive</source>
@@ -3770,7 +3770,7 @@
     </message>
     <message>
         <source>Key</source>
-        <translation>Clé</translation>
+        <translation>Touche</translation>
     </message>
     <message>
         <source>The key that works the switch while the model runs; one capital letter or digit.</source>
@@ -3813,7 +3813,7 @@
     </message>
     <message>
         <source>square</source>
-        <translation>carrée</translation>
+        <translation>à angles droits</translation>
     </message>
     <message>
         <source>Cross-section in mm²</source>
@@ -4053,7 +4053,7 @@
     </message>
     <message>
         <source>square</source>
-        <translation>carrée</translation>
+        <translation>à angles droits</translation>
     </message>
     <message>
         <source>straight</source>
@@ -4170,7 +4170,7 @@
     </message>
     <message>
         <source>Switch</source>
-        <translation>Interrupteur</translation>
+        <translation>Commuter</translation>
     </message>
     <message>
         <source>Flash</source>

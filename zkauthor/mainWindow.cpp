@@ -203,7 +203,11 @@ void MainWindow::setDocument(DocumentImpl* document)
     m_palettes->setDocument(document);
     m_printing->setDocument(document);
     m_flowcharts->setDocument(document);
-    m_tabs->setDocument(document);
+    {
+        // The first tab comes up first, which is no reason to let go of what is selected in another one.
+        const QScopedValueRollback<bool> showing(m_showingSelection, true);
+        m_tabs->setDocument(document);
+    }
     updateTitle();
     updateUndoActions();
     updateActions();
@@ -417,6 +421,12 @@ void MainWindow::showSelection()
     m_tabs->showSpace(space);
 }
 
+void MainWindow::showTabsLike(const MainWindow& other)
+{
+    const QScopedValueRollback<bool> showing(m_showingSelection, true);
+    m_tabs->showLike(*other.m_tabs);
+}
+
 bool MainWindow::openFile(const QString& fileName, QString& error)
 {
     return m_files->openFile(fileName, error);
@@ -473,8 +483,13 @@ void MainWindow::about()
 void MainWindow::editPreferences()
 {
     m_palettes->commitPendingEdit();
-    if (Preferences::edit(this))
-        applyPreferences();
+    const QString language = Preferences::read().language;
+    const std::optional<Preferences> chosen = Preferences::edit(this);
+    if (!chosen)
+        return;
+    applyPreferences();
+    if (chosen->language != language)
+        Q_EMIT languageChosen(chosen->language);
 }
 
 void MainWindow::applyPreferences()

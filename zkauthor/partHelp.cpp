@@ -24,7 +24,8 @@ QString describeClass(const ElementImpl* element, const QString& label)
     if (!prototype.group.isEmpty())
         html += QStringLiteral("<p>%1</p>")
                     .arg(helpText(QT_TRANSLATE_NOOP("PartHelp", "Group: %1"))
-                             .arg(translateStringFromContext(element, prototype.group).toHtmlEscaped()));
+                             .arg(QCoreApplication::translate("PartsTree", prototype.group.toUtf8().constData())
+                                      .toHtmlEscaped()));
     html += QStringLiteral("<dl>");
     for (const PropertyDefinition& property : prototype.properties()) {
         if (property.flags & (PropertyDefinition::Invisible | PropertyDefinition::UIHidden) || property.help.isEmpty())

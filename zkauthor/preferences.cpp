@@ -119,7 +119,7 @@ StartOptions::Log Preferences::logTarget() const
     return target;
 }
 
-bool Preferences::edit(QWidget* parent)
+std::optional<Preferences> Preferences::edit(QWidget* parent)
 {
     Preferences preferences = read();
     QDialog dialog(parent);
@@ -129,7 +129,7 @@ bool Preferences::edit(QWidget* parent)
 
     QComboBox* language = languageBox(preferences.language);
     language->setToolTip(
-        preferencesText(QT_TRANSLATE_NOOP("Preferences", "Takes effect when the program starts again.")));
+        preferencesText(QT_TRANSLATE_NOOP("Preferences", "The language of all texts, and how numbers are written.")));
     form->addRow(preferencesText(QT_TRANSLATE_NOOP("Preferences", "&Language:")), language);
     QComboBox* lengths = choiceBox(lengthUnits, preferences.lengthUnit);
     lengths->setToolTip(
@@ -152,7 +152,7 @@ bool Preferences::edit(QWidget* parent)
     QObject::connect(buttons, &QDialogButtonBox::rejected, &dialog, &QDialog::reject);
     form->addRow(buttons);
     if (dialog.exec() != QDialog::Accepted)
-        return false;
+        return std::nullopt;
 
     preferences.language = language->currentData().toString();
     preferences.lengthUnit = lengths->currentData().toString();
@@ -164,5 +164,5 @@ bool Preferences::edit(QWidget* parent)
         QMessageBox::warning(parent, dialog.windowTitle(),
                              preferencesText(QT_TRANSLATE_NOOP(
                                  "Preferences", "The preferences hold until the program ends: they cannot be kept.")));
-    return true;
+    return preferences;
 }

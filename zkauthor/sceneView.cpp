@@ -124,6 +124,13 @@ zk::Point SceneView::visibleCentre() const
     return toMetres(mapToScene(viewport()->rect().center()));
 }
 
+void SceneView::showLike(const SceneView& other)
+{
+    setZoom(other.zoom());
+    centerOn(other.mapToScene(other.viewport()->rect().center()));
+    m_followFit = other.m_followFit;
+}
+
 void SceneView::resizeEvent(QResizeEvent* event)
 {
     QGraphicsView::resizeEvent(event);

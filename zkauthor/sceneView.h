@@ -37,6 +37,8 @@ public:
     void zoomToFit();
     /// The middle of what is visible, in metres from the space's top left corner.
     zk::Point visibleCentre() const;
+    /// Takes over the zoom and the place of another view of the same space.
+    void showLike(const SceneView& other);
     /// Selects the part after (or before) the selected one, back to front, and scrolls to it.
     void selectNext(bool backwards);
     void selectAllParts();

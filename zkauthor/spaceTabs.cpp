@@ -226,6 +226,23 @@ void SpaceTabs::showSpace(SpaceImpl* space)
         view->setFocus();
 }
 
+void SpaceTabs::showLike(const SpaceTabs& other)
+{
+    const auto show = [this](InstanceId id) {
+        if (auto* space = qobject_cast<SpaceImpl*>(m_document->nodeById(id)))
+            showSpace(space);
+    };
+    for (int i = 0; i < other.count(); ++i) {
+        const SceneView* like = other.viewAt(i);
+        if (!like)
+            continue; // never looked at
+        show(other.spaceAt(i));
+        if (SceneView* view = currentView())
+            view->showLike(*like);
+    }
+    show(other.spaceAt(other.currentIndex()));
+}
+
 void SpaceTabs::setReaderMode(bool reader)
 {
     m_readerMode = reader;

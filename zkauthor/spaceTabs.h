@@ -32,6 +32,8 @@ public:
     void setReaderMode(bool reader);
     /// Shows the space's tab, which a pop-up gets if it has none yet. Only a look at the document, no change of it.
     void showSpace(SpaceImpl* space);
+    /// Shows the same tabs as others of the same document, each at the same place and as large.
+    void showLike(const SpaceTabs& other);
 
 Q_SIGNALS:
     /// Another space is shown, or none.

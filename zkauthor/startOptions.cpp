@@ -89,6 +89,10 @@ bool StartOptions::parse(const QCoreApplication& application, StartOptions& opti
     parser.addOption(checkFormOption);
     parser.addOption(classOption);
     parser.addOption(checkPackageOption);
+    const QCommandLineOption languageOption(QStringLiteral("language"),
+                                            StartTexts::tr("The language of this run, such as de or fr_FR."),
+                                            QStringLiteral("locale"));
+    parser.addOption(languageOption);
     parser.addPositionalArgument(QStringLiteral("document"), StartTexts::tr("The document to open."),
                                  QStringLiteral("[document]"));
     parser.process(application);
@@ -102,8 +106,8 @@ bool StartOptions::parse(const QCoreApplication& application, StartOptions& opti
         }
     }
     if (parser.positionalArguments().size() > 1) {
-        error = StartTexts::tr("Only one document can be opened, but %1 were given.")
-                    .arg(parser.positionalArguments().size());
+        error = StartTexts::tr("Only one document can be opened, but %n were given.", nullptr,
+                               static_cast<int>(parser.positionalArguments().size()));
         return false;
     }
     if (!parser.positionalArguments().isEmpty())
@@ -130,6 +134,7 @@ bool StartOptions::parse(const QCoreApplication& application, StartOptions& opti
         return false;
     }
     options.screenshot = parser.value(screenshotOption);
+    options.language = parser.value(languageOption);
     options.select = parser.values(selectOption);
     options.forms = parser.isSet(formsOption);
     options.dark = parser.isSet(darkOption);

@@ -13,6 +13,8 @@ struct StartOptions
     Log log = Log::Default;
     /// The document to open; empty for a new one.
     QString document;
+    /// The locale whose language the run has; empty for that of the preferences.
+    QString language;
     /// The picture to write instead of opening a window; empty for none.
     QString screenshot;
     /// What to select for the picture: "id" texts or instance ids.

@@ -568,7 +568,7 @@ void ModelMutator::removeResource(const QString& name)
     Q_EMIT m_document.resourcesChanged();
 }
 
-void ModelMutator::openStep(const QString& description)
+void ModelMutator::openStep(const LiveText& description)
 {
     m_document.m_openStepPending = true;
     m_document.m_openStepDescription = description;

@@ -49,7 +49,7 @@ public:
     void addResource(std::shared_ptr<const ResourceEntry> entry);
     void removeResource(const QString& name);
     /// Changes that follow with the undo flag off make a step of their own under this description.
-    void openStep(const QString& description);
+    void openStep(const LiveText& description);
 
     /// The first of `count` instance ids that are not used; 0 when there are not so many.
     InstanceId takeIds(size_t count);

@@ -121,10 +121,20 @@ Formatter* PropertyImpl::getFormatter() const
 
 QString PropertyImpl::getUserVisibleLabel() const
 {
+    return liveUserVisibleLabel()();
+}
+
+LiveText PropertyImpl::liveUserVisibleLabel() const
+{
     if (!m_label.isNull())
-        return m_label;
-    const QString label = m_definition->label.isEmpty() ? key().toString() : m_definition->label;
-    return translateStringFromContext(m_owner, label);
+        return [label = m_label] { return label; };
+    return liveStringFromContext(*m_owner, m_definition->label.isEmpty() ? key().toString() : m_definition->label,
+                                 m_domain);
+}
+
+QString PropertyImpl::translated(const QString& text) const
+{
+    return liveStringFromContext(*m_owner, text, m_domain)();
 }
 
 void PropertyImpl::setUserVisibleLabel(const QString& label)

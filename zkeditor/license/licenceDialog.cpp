@@ -24,7 +24,7 @@ LicenceDialog::LicenceDialog(LicenceManager* manager, QWidget* parent) : QDialog
     m_status->setTextFormat(Qt::PlainText);
     layout->addWidget(m_status);
 
-    auto* label = new QLabel(tr("Licence &code:"));
+    auto* label = new QLabel(tr("Licenc&e code:"));
     m_code = new QPlainTextEdit;
     m_code->setObjectName(QStringLiteral("code"));
     m_code->setTabChangesFocus(true);
