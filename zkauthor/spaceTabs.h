@@ -32,6 +32,8 @@ public:
     void setReaderMode(bool reader);
     /// Shows the space's tab, which a pop-up gets if it has none yet. Only a look at the document, no change of it.
     void showSpace(SpaceImpl* space);
+    /// Nothing happens while a scene is on view.
+    void closeCurrentPopup() { onTabCloseRequested(currentIndex()); }
 
 Q_SIGNALS:
     /// Another space is shown, or none.

@@ -111,7 +111,7 @@ QWidget* AdvancedPalette::makeClickSection()
     m_scene = new ValueChooser(QStringLiteral("click-scene"), section);
     m_linkLabel = newFieldLabel(tr("&Link"), m_link, section);
     m_sceneLabel = newFieldLabel(tr("&Scene"), m_scene, section);
-    layout->addWidget(newFieldLabel(tr("Cl&ick"), m_action, section), 0, 0);
+    layout->addWidget(newFieldLabel(tr("Clic&k"), m_action, section), 0, 0);
     layout->addWidget(m_action, 0, 1);
     layout->addWidget(m_linkLabel, 1, 0);
     layout->addWidget(m_link, 1, 1);
@@ -131,7 +131,7 @@ QWidget* AdvancedPalette::makeDuplicationSection()
         return box;
     };
     m_count = addNumber(layout, 0, tr("&Copies"), new DoubleSpinBox(1, mostCopies, 1, 0, section), 1);
-    m_offsetX = addNumber(layout, 1, tr("Offset &right"), newOffset(), 5);
+    m_offsetX = addNumber(layout, 1, tr("Offset ri&ght"), newOffset(), 5);
     m_offsetY = addNumber(layout, 2, tr("Offset &down"), newOffset(), 5);
     auto* button = new QPushButton(tr("D&uplicate"), section);
     button->setAutoDefault(false);
