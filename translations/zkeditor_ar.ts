@@ -338,6 +338,14 @@
         <source>Badge</source>
         <translation>الشارة</translation>
     </message>
+    <message>
+        <source>C&amp;lose Pop-up</source>
+        <translation>إ&amp;غلاق النافذة المنبثقة</translation>
+    </message>
+    <message>
+        <source>Close the pop-up on view</source>
+        <translation>إغلاق النافذة المنبثقة المعروضة</translation>
+    </message>
 </context>
 <context>
     <name>AddCustomPartDialog</name>
@@ -500,7 +508,7 @@ Please enter another id</source>
         <translation>ال&amp;مشهد</translation>
     </message>
     <message>
-        <source>Cl&amp;ick</source>
+        <source>Clic&amp;k</source>
         <translation>ال&amp;نقر</translation>
     </message>
     <message>
@@ -512,7 +520,7 @@ Please enter another id</source>
         <translation>الن&amp;سخ</translation>
     </message>
     <message>
-        <source>Offset &amp;right</source>
+        <source>Offset ri&amp;ght</source>
         <translation>الإزاحة إلى ال&amp;يمين</translation>
     </message>
     <message>
@@ -857,6 +865,13 @@ Please enter another id</source>
     <message>
         <source>Change property value</source>
         <translation>تغيير قيمة الخاصية</translation>
+    </message>
+</context>
+<context>
+    <name>DebugConsole</name>
+    <message>
+        <source>Messages</source>
+        <translation>الرسائل</translation>
     </message>
 </context>
 <context>
@@ -1620,7 +1635,7 @@ Please enter another id</source>
         <translation>الترخيص</translation>
     </message>
     <message>
-        <source>Licence &amp;code:</source>
+        <source>&amp;Licence code:</source>
         <translation>&amp;رمز الترخيص:</translation>
     </message>
     <message>
@@ -1856,6 +1871,10 @@ Please enter another id</source>
     <message>
         <source>There is no part with the id &quot;%1&quot;.</source>
         <translation>لا توجد قطعة بالمعرّف &quot;%1&quot;.</translation>
+    </message>
+    <message>
+        <source>Selected: %1</source>
+        <translation>المحدد: %1</translation>
     </message>
 </context>
 <context>
@@ -2792,6 +2811,14 @@ Please enter another id</source>
     <message>
         <source>SVG drawings (*.svg)</source>
         <translation>رسوم SVG (*.svg)</translation>
+    </message>
+    <message>
+        <source>Zoom</source>
+        <translation>التكبير</translation>
+    </message>
+    <message>
+        <source>Page</source>
+        <translation>الصفحة</translation>
     </message>
 </context>
 <context>
@@ -3758,6 +3785,13 @@ Please enter another id</source>
     <message>
         <source>percent</source>
         <translation>بالمئة</translation>
+    </message>
+</context>
+<context>
+    <name>UnitChooser</name>
+    <message>
+        <source>Unit of %1</source>
+        <translation>وحدة %1</translation>
     </message>
 </context>
 <context>

@@ -338,6 +338,14 @@
         <source>Badge</source>
         <translation>Plakette</translation>
     </message>
+    <message>
+        <source>C&amp;lose Pop-up</source>
+        <translation>Pop-up schl&amp;ießen</translation>
+    </message>
+    <message>
+        <source>Close the pop-up on view</source>
+        <translation>Das gezeigte Pop-up schließen</translation>
+    </message>
 </context>
 <context>
     <name>AddCustomPartDialog</name>
@@ -496,7 +504,7 @@ Bitte geben Sie eine andere Kennung ein</translation>
         <translation>&amp;Szene</translation>
     </message>
     <message>
-        <source>Cl&amp;ick</source>
+        <source>Clic&amp;k</source>
         <translation>&amp;Klick</translation>
     </message>
     <message>
@@ -508,7 +516,7 @@ Bitte geben Sie eine andere Kennung ein</translation>
         <translation>Ko&amp;pien</translation>
     </message>
     <message>
-        <source>Offset &amp;right</source>
+        <source>Offset ri&amp;ght</source>
         <translation>Versatz nach &amp;rechts</translation>
     </message>
     <message>
@@ -853,6 +861,13 @@ Bitte geben Sie eine andere Kennung ein</translation>
     <message>
         <source>Change property value</source>
         <translation>Wert der Eigenschaft ändern</translation>
+    </message>
+</context>
+<context>
+    <name>DebugConsole</name>
+    <message>
+        <source>Messages</source>
+        <translation>Meldungen</translation>
     </message>
 </context>
 <context>
@@ -1604,7 +1619,7 @@ Bitte geben Sie eine andere Kennung ein</translation>
         <translation>Lizenz</translation>
     </message>
     <message>
-        <source>Licence &amp;code:</source>
+        <source>&amp;Licence code:</source>
         <translation>Lizenz&amp;code:</translation>
     </message>
     <message>
@@ -1820,6 +1835,10 @@ Bitte geben Sie eine andere Kennung ein</translation>
     <message>
         <source>There is no part with the id &quot;%1&quot;.</source>
         <translation>Es gibt kein Teil mit der Kennung &quot;%1&quot;.</translation>
+    </message>
+    <message>
+        <source>Selected: %1</source>
+        <translation>Ausgewählt: %1</translation>
     </message>
 </context>
 <context>
@@ -2740,6 +2759,14 @@ Bitte geben Sie eine andere Kennung ein</translation>
     <message>
         <source>SVG drawings (*.svg)</source>
         <translation>SVG-Zeichnungen (*.svg)</translation>
+    </message>
+    <message>
+        <source>Zoom</source>
+        <translation>Vergrößerung</translation>
+    </message>
+    <message>
+        <source>Page</source>
+        <translation>Seite</translation>
     </message>
 </context>
 <context>
@@ -3694,6 +3721,13 @@ Bitte geben Sie eine andere Kennung ein</translation>
     <message>
         <source>percent</source>
         <translation>Prozent</translation>
+    </message>
+</context>
+<context>
+    <name>UnitChooser</name>
+    <message>
+        <source>Unit of %1</source>
+        <translation>Einheit von %1</translation>
     </message>
 </context>
 <context>

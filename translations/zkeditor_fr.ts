@@ -338,6 +338,14 @@
         <source>Badge</source>
         <translation>Badge</translation>
     </message>
+    <message>
+        <source>C&amp;lose Pop-up</source>
+        <translation>Fer&amp;mer la bulle</translation>
+    </message>
+    <message>
+        <source>Close the pop-up on view</source>
+        <translation>Fermer la bulle affichée</translation>
+    </message>
 </context>
 <context>
     <name>AddCustomPartDialog</name>
@@ -496,7 +504,7 @@ Veuillez en saisir un autre</translation>
         <translation>&amp;Scène</translation>
     </message>
     <message>
-        <source>Cl&amp;ick</source>
+        <source>Clic&amp;k</source>
         <translation>Cl&amp;ic</translation>
     </message>
     <message>
@@ -508,7 +516,7 @@ Veuillez en saisir un autre</translation>
         <translation>&amp;Copies</translation>
     </message>
     <message>
-        <source>Offset &amp;right</source>
+        <source>Offset ri&amp;ght</source>
         <translation>Décalage à &amp;droite</translation>
     </message>
     <message>
@@ -853,6 +861,13 @@ Veuillez en saisir un autre</translation>
     <message>
         <source>Change property value</source>
         <translation>Modifier la valeur de la propriété</translation>
+    </message>
+</context>
+<context>
+    <name>DebugConsole</name>
+    <message>
+        <source>Messages</source>
+        <translation>Messages</translation>
     </message>
 </context>
 <context>
@@ -1604,7 +1619,7 @@ Veuillez en saisir un autre</translation>
         <translation>Licence</translation>
     </message>
     <message>
-        <source>Licence &amp;code:</source>
+        <source>&amp;Licence code:</source>
         <translation>&amp;Code de licence :</translation>
     </message>
     <message>
@@ -1820,6 +1835,10 @@ Veuillez en saisir un autre</translation>
     <message>
         <source>There is no part with the id &quot;%1&quot;.</source>
         <translation>Il n&apos;y a pas de pièce avec l&apos;identifiant « %1 ».</translation>
+    </message>
+    <message>
+        <source>Selected: %1</source>
+        <translation>Sélection : %1</translation>
     </message>
 </context>
 <context>
@@ -2740,6 +2759,14 @@ Veuillez en saisir un autre</translation>
     <message>
         <source>SVG drawings (*.svg)</source>
         <translation>Dessins SVG (*.svg)</translation>
+    </message>
+    <message>
+        <source>Zoom</source>
+        <translation>Zoom</translation>
+    </message>
+    <message>
+        <source>Page</source>
+        <translation>Page</translation>
     </message>
 </context>
 <context>
@@ -3694,6 +3721,13 @@ Veuillez en saisir un autre</translation>
     <message>
         <source>percent</source>
         <translation>pour cent</translation>
+    </message>
+</context>
+<context>
+    <name>UnitChooser</name>
+    <message>
+        <source>Unit of %1</source>
+        <translation>Unité de %1</translation>
     </message>
 </context>
 <context>
