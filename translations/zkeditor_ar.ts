@@ -338,6 +338,14 @@
         <source>Badge</source>
         <translation>الشارة</translation>
     </message>
+    <message>
+        <source>C&amp;lose Pop-up</source>
+        <translation>إ&amp;غلاق النافذة المنبثقة</translation>
+    </message>
+    <message>
+        <source>Close the pop-up on view</source>
+        <translation>إغلاق النافذة المنبثقة المعروضة</translation>
+    </message>
 </context>
 <context>
     <name>AddCustomPartDialog</name>
@@ -865,6 +873,13 @@ Please enter another id</source>
     <message>
         <source>Change property value</source>
         <translation>تغيير قيمة الخاصية</translation>
+    </message>
+</context>
+<context>
+    <name>DebugConsole</name>
+    <message>
+        <source>Messages</source>
+        <translation>الرسائل</translation>
     </message>
 </context>
 <context>
@@ -2155,6 +2170,10 @@ Please enter another id</source>
         <source>There is no part with the id &quot;%1&quot;.</source>
         <translation>لا توجد قطعة بالمعرّف &quot;%1&quot;.</translation>
     </message>
+    <message>
+        <source>Selected: %1</source>
+        <translation>المحدد: %1</translation>
+    </message>
 </context>
 <context>
     <name>MessagesPane</name>
@@ -3125,6 +3144,14 @@ Please enter another id</source>
     <message>
         <source>SVG drawings (*.svg)</source>
         <translation>رسوم SVG (*.svg)</translation>
+    </message>
+    <message>
+        <source>Zoom</source>
+        <translation>التكبير</translation>
+    </message>
+    <message>
+        <source>Page</source>
+        <translation>الصفحة</translation>
     </message>
 </context>
 <context>
@@ -4138,6 +4165,13 @@ Please enter another id</source>
     <message>
         <source>percent</source>
         <translation>بالمئة</translation>
+    </message>
+</context>
+<context>
+    <name>UnitChooser</name>
+    <message>
+        <source>Unit of %1</source>
+        <translation>وحدة %1</translation>
     </message>
 </context>
 <context>

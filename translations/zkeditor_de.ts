@@ -338,6 +338,14 @@
         <source>Badge</source>
         <translation>Plakette</translation>
     </message>
+    <message>
+        <source>C&amp;lose Pop-up</source>
+        <translation>Pop-up schl&amp;ießen</translation>
+    </message>
+    <message>
+        <source>Close the pop-up on view</source>
+        <translation>Das gezeigte Pop-up schließen</translation>
+    </message>
 </context>
 <context>
     <name>AddCustomPartDialog</name>
@@ -861,6 +869,13 @@ Bitte geben Sie eine andere Kennung ein</translation>
     <message>
         <source>Change property value</source>
         <translation>Wert der Eigenschaft ändern</translation>
+    </message>
+</context>
+<context>
+    <name>DebugConsole</name>
+    <message>
+        <source>Messages</source>
+        <translation>Meldungen</translation>
     </message>
 </context>
 <context>
@@ -2115,6 +2130,10 @@ Bitte geben Sie eine andere Kennung ein</translation>
         <source>There is no part with the id &quot;%1&quot;.</source>
         <translation>Es gibt kein Teil mit der Kennung &quot;%1&quot;.</translation>
     </message>
+    <message>
+        <source>Selected: %1</source>
+        <translation>Ausgewählt: %1</translation>
+    </message>
 </context>
 <context>
     <name>MessagesPane</name>
@@ -3069,6 +3088,14 @@ Bitte geben Sie eine andere Kennung ein</translation>
     <message>
         <source>SVG drawings (*.svg)</source>
         <translation>SVG-Zeichnungen (*.svg)</translation>
+    </message>
+    <message>
+        <source>Zoom</source>
+        <translation>Vergrößerung</translation>
+    </message>
+    <message>
+        <source>Page</source>
+        <translation>Seite</translation>
     </message>
 </context>
 <context>
@@ -4066,6 +4093,13 @@ Bitte geben Sie eine andere Kennung ein</translation>
     <message>
         <source>percent</source>
         <translation>Prozent</translation>
+    </message>
+</context>
+<context>
+    <name>UnitChooser</name>
+    <message>
+        <source>Unit of %1</source>
+        <translation>Einheit von %1</translation>
     </message>
 </context>
 <context>

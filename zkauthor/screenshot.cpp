@@ -16,6 +16,19 @@
 
 namespace {
 
+/// Makes the window so high that nothing in the widget needs to be scrolled.
+void showWhole(QWidget& window, const QWidget& widget)
+{
+    int hidden = 0;
+    const auto areas = widget.findChildren<QScrollArea*>();
+    for (const QScrollArea* area : areas)
+        hidden = std::max(hidden, area->verticalScrollBar()->maximum());
+    window.resize(window.width(), window.height() + hidden);
+    QCoreApplication::processEvents();
+}
+
+} // namespace
+
 QPalette darkPalette()
 {
     const QColor ground(0x3a, 0x3c, 0x40);
@@ -34,19 +47,6 @@ QPalette darkPalette()
     palette.setColor(QPalette::ToolTipBase, QColor(0x4a, 0x4d, 0x50));
     return palette;
 }
-
-/// Makes the window so high that nothing in the widget needs to be scrolled.
-void showWhole(QWidget& window, const QWidget& widget)
-{
-    int hidden = 0;
-    const auto areas = widget.findChildren<QScrollArea*>();
-    for (const QScrollArea* area : areas)
-        hidden = std::max(hidden, area->verticalScrollBar()->maximum());
-    window.resize(window.width(), window.height() + hidden);
-    QCoreApplication::processEvents();
-}
-
-} // namespace
 
 bool takeScreenshot(const StartOptions& options, QString& error)
 {

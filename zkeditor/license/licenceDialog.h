@@ -4,6 +4,7 @@
 
 #include <QDialog>
 
+class ErrorLabel;
 class LicenceManager;
 class QLabel;
 class QPlainTextEdit;
@@ -33,6 +34,6 @@ private:
     LicenceManager* m_manager;
     QLabel* m_status;
     QPlainTextEdit* m_code;
-    QLabel* m_verdict;
+    ErrorLabel* m_verdict;
     QPushButton* m_remove;
 };
