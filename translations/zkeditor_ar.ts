@@ -19,6 +19,10 @@
         <source>Folder of your own parts</source>
         <translation>مجلد قطعك الخاصة</translation>
     </message>
+    <message>
+        <source>How things are done</source>
+        <translation>كيفية القيام بالأمور</translation>
+    </message>
 </context>
 <context>
     <name>Actions</name>
@@ -346,6 +350,14 @@
         <source>Close the pop-up on view</source>
         <translation>إغلاق النافذة المنبثقة المعروضة</translation>
     </message>
+    <message>
+        <source>&amp;Contents</source>
+        <translation>&amp;المحتويات</translation>
+    </message>
+    <message>
+        <source>Read how things are done</source>
+        <translation>قراءة كيفية القيام بالأمور</translation>
+    </message>
 </context>
 <context>
     <name>AddCustomPartDialog</name>
@@ -554,6 +566,30 @@ Please enter another id</source>
     <message>
         <source>Show &amp;Pop-up</source>
         <translation>&amp;عرض النافذة المنبثقة</translation>
+    </message>
+    <message>
+        <source>Cl&amp;ick</source>
+        <translation>ال&amp;نقر</translation>
+    </message>
+    <message>
+        <source>Offset &amp;right</source>
+        <translation>الإزاحة إلى ال&amp;يمين</translation>
+    </message>
+    <message>
+        <source>Opens when the &amp;mouse rests on it</source>
+        <translation>يُفتح حين يستقر ال&amp;مؤشر عليه</translation>
+    </message>
+    <message>
+        <source>Opens the pop-up without a click.</source>
+        <translation>يفتح النافذة المنبثقة بلا نقر.</translation>
+    </message>
+    <message>
+        <source>Goes away &amp;after reading</source>
+        <translation>يختفي &amp;بعد القراءة</translation>
+    </message>
+    <message>
+        <source>Hides the button once its pop-up has been closed.</source>
+        <translation>يخفي الزر بعد إغلاق نافذته المنبثقة.</translation>
     </message>
 </context>
 <context>
@@ -1792,6 +1828,21 @@ Please enter another id</source>
     </message>
 </context>
 <context>
+    <name>HelpWindow</name>
+    <message>
+        <source>Help</source>
+        <translation>مساعدة</translation>
+    </message>
+    <message>
+        <source>&amp;Back</source>
+        <translation>&amp;رجوع</translation>
+    </message>
+    <message>
+        <source>C&amp;ontents</source>
+        <translation>ال&amp;محتويات</translation>
+    </message>
+</context>
+<context>
     <name>IdProvider</name>
     <message>
         <source>The id must not be empty.</source>
@@ -1963,6 +2014,14 @@ Please enter another id</source>
             <numerusform>صحيح حتى الآن: %n مجموعة.</numerusform>
             <numerusform>صحيح حتى الآن: %n مجموعة.</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Licence &amp;code:</source>
+        <translation>&amp;رمز الترخيص:</translation>
+    </message>
+    <message>
+        <source>How licence codes work</source>
+        <translation>كيف تعمل رموز الترخيص</translation>
     </message>
 </context>
 <context>
@@ -2923,6 +2982,10 @@ Please enter another id</source>
         <source>About %1</source>
         <translation>حول %1</translation>
     </message>
+    <message>
+        <source>How properties are changed</source>
+        <translation>كيفية تغيير الخصائص</translation>
+    </message>
 </context>
 <context>
     <name>PartIdLineEdit</name>
@@ -3083,6 +3146,10 @@ Please enter another id</source>
     <message>
         <source>The language of all texts, and how numbers are written.</source>
         <translation>لغة جميع النصوص وطريقة كتابة الأرقام.</translation>
+    </message>
+    <message>
+        <source>What these settings do</source>
+        <translation>ما تفعله هذه الإعدادات</translation>
     </message>
 </context>
 <context>
@@ -3377,6 +3444,13 @@ Please enter another id</source>
     </message>
 </context>
 <context>
+    <name>ReaderActions</name>
+    <message>
+        <source>The link &quot;%1&quot; cannot be opened.</source>
+        <translation>لا يمكن فتح الرابط &quot;%1&quot;.</translation>
+    </message>
+</context>
+<context>
     <name>RecentFiles</name>
     <message>
         <source>No recent files</source>
@@ -3570,6 +3644,10 @@ Please enter another id</source>
     <message>
         <source>The selected parts have different lists. What is added becomes the list of all.</source>
         <translation>للقطع المحددة قوائم مختلفة. ما يُضاف يصبح قائمة الجميع.</translation>
+    </message>
+    <message>
+        <source>The selected parts have different lists</source>
+        <translation>للقطع المحددة قوائم مختلفة</translation>
     </message>
 </context>
 <context>
@@ -3905,6 +3983,26 @@ Please enter another id</source>
     <message>
         <source>--check-form and --check-package cannot be given together.</source>
         <translation>لا يمكن ذكر ‎--check-form‎ و‎--check-package‎ معًا.</translation>
+    </message>
+    <message>
+        <source>Only one document can be opened, but %1 were given.</source>
+        <translation>لا يمكن فتح إلا مستند واحد، لكن أُعطي %1.</translation>
+    </message>
+    <message>
+        <source>Dark colours, whatever those of the desktop are.</source>
+        <translation>ألوان داكنة أيًا كانت ألوان سطح المكتب.</translation>
+    </message>
+    <message>
+        <source>Let the picture show the dialog of a menu entry: preferences, page-setup, save-custom-part, licence or about.</source>
+        <translation>تُظهر الصورة مربع حوار أحد بنود القائمة: preferences أو page-setup أو save-custom-part أو licence أو about.</translation>
+    </message>
+    <message>
+        <source>Run the flowcharts for so many seconds before the picture.</source>
+        <translation>تشغيل المخططات الانسيابية هذا العدد من الثواني قبل الصورة.</translation>
+    </message>
+    <message>
+        <source>--run takes seconds up to %1, not &quot;%2&quot;.</source>
+        <translation>يتطلب --run عددًا من الثواني حتى %1، وليس &quot;%2&quot;.</translation>
     </message>
 </context>
 <context>
@@ -4254,6 +4352,10 @@ Please enter another id</source>
         <source>The selected parts have different entries. What is added becomes the entries of all.</source>
         <translation>للقطع المحددة إدخالات مختلفة. ما يُضاف يصبح إدخالات الجميع.</translation>
     </message>
+    <message>
+        <source>The selected parts have different entries</source>
+        <translation>للقطع المحددة مدخلات مختلفة</translation>
+    </message>
 </context>
 <context>
     <name>ValueMapModel</name>
@@ -4318,6 +4420,13 @@ Please enter another id</source>
     </message>
 </context>
 <context>
+    <name>XmlGuard</name>
+    <message>
+        <source>an element has more than %1 attributes</source>
+        <translation>في عنصرٍ أكثر من %1 سمة</translation>
+    </message>
+</context>
+<context>
     <name>checkForms</name>
     <message numerus="yes">
         <source>%n error(s)</source>
@@ -4379,12 +4488,9 @@ Please enter another id</source>
         <source>The picture %1 cannot be written: %2</source>
         <translation>لا يمكن كتابة الصورة %1: %2</translation>
     </message>
-</context>
-<context>
-    <name>XmlGuard</name>
     <message>
-        <source>an element has more than %1 attributes</source>
-        <translation>في عنصرٍ أكثر من %1 سمة</translation>
+        <source>There is no dialog &quot;%1&quot; for what is selected.</source>
+        <translation>لا يوجد مربع حوار &quot;%1&quot; لما هو محدد.</translation>
     </message>
 </context>
 </TS>

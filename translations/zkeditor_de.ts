@@ -19,6 +19,10 @@
         <source>Folder of your own parts</source>
         <translation>Ordner Ihrer eigenen Teile</translation>
     </message>
+    <message>
+        <source>How things are done</source>
+        <translation>So wird es gemacht</translation>
+    </message>
 </context>
 <context>
     <name>Actions</name>
@@ -346,6 +350,14 @@
         <source>Close the pop-up on view</source>
         <translation>Das gezeigte Pop-up schließen</translation>
     </message>
+    <message>
+        <source>&amp;Contents</source>
+        <translation>&amp;Inhalt</translation>
+    </message>
+    <message>
+        <source>Read how things are done</source>
+        <translation>Nachlesen, wie es gemacht wird</translation>
+    </message>
 </context>
 <context>
     <name>AddCustomPartDialog</name>
@@ -550,6 +562,30 @@ Bitte geben Sie eine andere Kennung ein</translation>
     <message>
         <source>Show &amp;Pop-up</source>
         <translation>Pop-up &amp;zeigen</translation>
+    </message>
+    <message>
+        <source>Cl&amp;ick</source>
+        <translation>&amp;Klick</translation>
+    </message>
+    <message>
+        <source>Offset &amp;right</source>
+        <translation>Versatz nach &amp;rechts</translation>
+    </message>
+    <message>
+        <source>Opens when the &amp;mouse rests on it</source>
+        <translation>Öffnet sich, wenn die &amp;Maus darauf ruht</translation>
+    </message>
+    <message>
+        <source>Opens the pop-up without a click.</source>
+        <translation>Öffnet das Pop-up ohne Klick.</translation>
+    </message>
+    <message>
+        <source>Goes away &amp;after reading</source>
+        <translation>Verschwindet &amp;nach dem Lesen</translation>
+    </message>
+    <message>
+        <source>Hides the button once its pop-up has been closed.</source>
+        <translation>Verbirgt den Knopf, sobald sein Pop-up geschlossen wurde.</translation>
     </message>
 </context>
 <context>
@@ -1772,6 +1808,21 @@ Bitte geben Sie eine andere Kennung ein</translation>
     </message>
 </context>
 <context>
+    <name>HelpWindow</name>
+    <message>
+        <source>Help</source>
+        <translation>Hilfe</translation>
+    </message>
+    <message>
+        <source>&amp;Back</source>
+        <translation>&amp;Zurück</translation>
+    </message>
+    <message>
+        <source>C&amp;ontents</source>
+        <translation>&amp;Inhalt</translation>
+    </message>
+</context>
+<context>
     <name>IdProvider</name>
     <message>
         <source>The id must not be empty.</source>
@@ -1939,6 +1990,14 @@ Bitte geben Sie eine andere Kennung ein</translation>
             <numerusform>Bis hier richtig: %n Gruppe.</numerusform>
             <numerusform>Bis hier richtig: %n Gruppen.</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Licence &amp;code:</source>
+        <translation>Lizenz&amp;code:</translation>
+    </message>
+    <message>
+        <source>How licence codes work</source>
+        <translation>Wie Lizenzcodes funktionieren</translation>
     </message>
 </context>
 <context>
@@ -2875,6 +2934,10 @@ Bitte geben Sie eine andere Kennung ein</translation>
         <source>About %1</source>
         <translation>Über %1</translation>
     </message>
+    <message>
+        <source>How properties are changed</source>
+        <translation>Wie Eigenschaften geändert werden</translation>
+    </message>
 </context>
 <context>
     <name>PartIdLineEdit</name>
@@ -3031,6 +3094,10 @@ Bitte geben Sie eine andere Kennung ein</translation>
     <message>
         <source>The language of all texts, and how numbers are written.</source>
         <translation>Die Sprache aller Texte und die Schreibweise der Zahlen.</translation>
+    </message>
+    <message>
+        <source>What these settings do</source>
+        <translation>Was diese Einstellungen bewirken</translation>
     </message>
 </context>
 <context>
@@ -3321,6 +3388,13 @@ Bitte geben Sie eine andere Kennung ein</translation>
     </message>
 </context>
 <context>
+    <name>ReaderActions</name>
+    <message>
+        <source>The link &quot;%1&quot; cannot be opened.</source>
+        <translation>Der Link &quot;%1&quot; kann nicht geöffnet werden.</translation>
+    </message>
+</context>
+<context>
     <name>RecentFiles</name>
     <message>
         <source>No recent files</source>
@@ -3514,6 +3588,10 @@ Bitte geben Sie eine andere Kennung ein</translation>
     <message>
         <source>The selected parts have different lists. What is added becomes the list of all.</source>
         <translation>Die ausgewählten Teile haben verschiedene Listen. Was hinzukommt, wird zur Liste aller.</translation>
+    </message>
+    <message>
+        <source>The selected parts have different lists</source>
+        <translation>Die ausgewählten Teile haben verschiedene Listen</translation>
     </message>
 </context>
 <context>
@@ -3833,6 +3911,26 @@ Bitte geben Sie eine andere Kennung ein</translation>
     <message>
         <source>--check-form and --check-package cannot be given together.</source>
         <translation>--check-form und --check-package können nicht zusammen angegeben werden.</translation>
+    </message>
+    <message>
+        <source>Only one document can be opened, but %1 were given.</source>
+        <translation>Nur ein Dokument kann geöffnet werden, aber es wurden %1 angegeben.</translation>
+    </message>
+    <message>
+        <source>Dark colours, whatever those of the desktop are.</source>
+        <translation>Dunkle Farben, gleich welche die der Arbeitsumgebung sind.</translation>
+    </message>
+    <message>
+        <source>Let the picture show the dialog of a menu entry: preferences, page-setup, save-custom-part, licence or about.</source>
+        <translation>Das Bild zeigt den Dialog eines Menüeintrags: preferences, page-setup, save-custom-part, licence oder about.</translation>
+    </message>
+    <message>
+        <source>Run the flowcharts for so many seconds before the picture.</source>
+        <translation>Die Ablaufpläne vor dem Bild so viele Sekunden laufen lassen.</translation>
+    </message>
+    <message>
+        <source>--run takes seconds up to %1, not &quot;%2&quot;.</source>
+        <translation>--run erwartet Sekunden bis %1, nicht „%2“.</translation>
     </message>
 </context>
 <context>
@@ -4182,6 +4280,10 @@ Bitte geben Sie eine andere Kennung ein</translation>
         <source>The selected parts have different entries. What is added becomes the entries of all.</source>
         <translation>Die ausgewählten Teile haben verschiedene Einträge. Was hinzukommt, gilt dann für alle.</translation>
     </message>
+    <message>
+        <source>The selected parts have different entries</source>
+        <translation>Die ausgewählten Teile haben verschiedene Einträge</translation>
+    </message>
 </context>
 <context>
     <name>ValueMapModel</name>
@@ -4246,6 +4348,13 @@ Bitte geben Sie eine andere Kennung ein</translation>
     </message>
 </context>
 <context>
+    <name>XmlGuard</name>
+    <message>
+        <source>an element has more than %1 attributes</source>
+        <translation>ein Element hat mehr als %1 Attribute</translation>
+    </message>
+</context>
+<context>
     <name>checkForms</name>
     <message numerus="yes">
         <source>%n error(s)</source>
@@ -4299,12 +4408,9 @@ Bitte geben Sie eine andere Kennung ein</translation>
         <source>The picture %1 cannot be written: %2</source>
         <translation>Das Bild %1 kann nicht geschrieben werden: %2</translation>
     </message>
-</context>
-<context>
-    <name>XmlGuard</name>
     <message>
-        <source>an element has more than %1 attributes</source>
-        <translation>ein Element hat mehr als %1 Attribute</translation>
+        <source>There is no dialog &quot;%1&quot; for what is selected.</source>
+        <translation>Für die Auswahl gibt es keinen Dialog „%1“.</translation>
     </message>
 </context>
 </TS>

@@ -19,6 +19,10 @@
         <source>Folder of your own parts</source>
         <translation>Dossier de vos propres pièces</translation>
     </message>
+    <message>
+        <source>How things are done</source>
+        <translation>Comment faire</translation>
+    </message>
 </context>
 <context>
     <name>Actions</name>
@@ -346,6 +350,14 @@
         <source>Close the pop-up on view</source>
         <translation>Fermer la bulle affichée</translation>
     </message>
+    <message>
+        <source>&amp;Contents</source>
+        <translation>&amp;Sommaire</translation>
+    </message>
+    <message>
+        <source>Read how things are done</source>
+        <translation>Lire comment faire</translation>
+    </message>
 </context>
 <context>
     <name>AddCustomPartDialog</name>
@@ -550,6 +562,30 @@ Veuillez en saisir un autre</translation>
     <message>
         <source>Show &amp;Pop-up</source>
         <translation>&amp;Montrer la bulle</translation>
+    </message>
+    <message>
+        <source>Cl&amp;ick</source>
+        <translation>Cl&amp;ic</translation>
+    </message>
+    <message>
+        <source>Offset &amp;right</source>
+        <translation>Décalage à &amp;droite</translation>
+    </message>
+    <message>
+        <source>Opens when the &amp;mouse rests on it</source>
+        <translation>S&apos;ouvre quand la &amp;souris s&apos;y pose</translation>
+    </message>
+    <message>
+        <source>Opens the pop-up without a click.</source>
+        <translation>Ouvre la bulle sans clic.</translation>
+    </message>
+    <message>
+        <source>Goes away &amp;after reading</source>
+        <translation>Disparaît &amp;après lecture</translation>
+    </message>
+    <message>
+        <source>Hides the button once its pop-up has been closed.</source>
+        <translation>Cache le bouton une fois sa bulle fermée.</translation>
     </message>
 </context>
 <context>
@@ -1772,6 +1808,21 @@ Veuillez en saisir un autre</translation>
     </message>
 </context>
 <context>
+    <name>HelpWindow</name>
+    <message>
+        <source>Help</source>
+        <translation>Aide</translation>
+    </message>
+    <message>
+        <source>&amp;Back</source>
+        <translation>&amp;Retour</translation>
+    </message>
+    <message>
+        <source>C&amp;ontents</source>
+        <translation>S&amp;ommaire</translation>
+    </message>
+</context>
+<context>
     <name>IdProvider</name>
     <message>
         <source>The id must not be empty.</source>
@@ -1939,6 +1990,14 @@ Veuillez en saisir un autre</translation>
             <numerusform>Juste jusqu&apos;ici : %n groupe.</numerusform>
             <numerusform>Juste jusqu&apos;ici : %n groupes.</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Licence &amp;code:</source>
+        <translation>&amp;Code de licence :</translation>
+    </message>
+    <message>
+        <source>How licence codes work</source>
+        <translation>Comment fonctionnent les codes de licence</translation>
     </message>
 </context>
 <context>
@@ -2875,6 +2934,10 @@ Veuillez en saisir un autre</translation>
         <source>About %1</source>
         <translation>À propos de %1</translation>
     </message>
+    <message>
+        <source>How properties are changed</source>
+        <translation>Comment modifier les propriétés</translation>
+    </message>
 </context>
 <context>
     <name>PartIdLineEdit</name>
@@ -3031,6 +3094,10 @@ Veuillez en saisir un autre</translation>
     <message>
         <source>The language of all texts, and how numbers are written.</source>
         <translation>La langue de tous les textes et l’écriture des nombres.</translation>
+    </message>
+    <message>
+        <source>What these settings do</source>
+        <translation>Ce que font ces réglages</translation>
     </message>
 </context>
 <context>
@@ -3321,6 +3388,13 @@ Veuillez en saisir un autre</translation>
     </message>
 </context>
 <context>
+    <name>ReaderActions</name>
+    <message>
+        <source>The link &quot;%1&quot; cannot be opened.</source>
+        <translation>Le lien « %1 » ne peut pas être ouvert.</translation>
+    </message>
+</context>
+<context>
     <name>RecentFiles</name>
     <message>
         <source>No recent files</source>
@@ -3514,6 +3588,10 @@ Veuillez en saisir un autre</translation>
     <message>
         <source>The selected parts have different lists. What is added becomes the list of all.</source>
         <translation>Les pièces sélectionnées ont des listes différentes. Ce qui est ajouté devient la liste de toutes.</translation>
+    </message>
+    <message>
+        <source>The selected parts have different lists</source>
+        <translation>Les pièces sélectionnées ont des listes différentes</translation>
     </message>
 </context>
 <context>
@@ -3833,6 +3911,26 @@ Veuillez en saisir un autre</translation>
     <message>
         <source>--check-form and --check-package cannot be given together.</source>
         <translation>--check-form et --check-package ne peuvent pas être donnés ensemble.</translation>
+    </message>
+    <message>
+        <source>Only one document can be opened, but %1 were given.</source>
+        <translation>Un seul document peut être ouvert, mais %1 ont été donnés.</translation>
+    </message>
+    <message>
+        <source>Dark colours, whatever those of the desktop are.</source>
+        <translation>Couleurs sombres, quelles que soient celles du bureau.</translation>
+    </message>
+    <message>
+        <source>Let the picture show the dialog of a menu entry: preferences, page-setup, save-custom-part, licence or about.</source>
+        <translation>L’image montre le dialogue d’une entrée de menu : preferences, page-setup, save-custom-part, licence ou about.</translation>
+    </message>
+    <message>
+        <source>Run the flowcharts for so many seconds before the picture.</source>
+        <translation>Exécuter les organigrammes pendant ce nombre de secondes avant l’image.</translation>
+    </message>
+    <message>
+        <source>--run takes seconds up to %1, not &quot;%2&quot;.</source>
+        <translation>--run attend des secondes jusqu’à %1, pas « %2 ».</translation>
     </message>
 </context>
 <context>
@@ -4182,6 +4280,10 @@ Veuillez en saisir un autre</translation>
         <source>The selected parts have different entries. What is added becomes the entries of all.</source>
         <translation>Les pièces sélectionnées ont des entrées différentes. Ce qui est ajouté devient les entrées de toutes.</translation>
     </message>
+    <message>
+        <source>The selected parts have different entries</source>
+        <translation>Les pièces sélectionnées ont des entrées différentes</translation>
+    </message>
 </context>
 <context>
     <name>ValueMapModel</name>
@@ -4246,6 +4348,13 @@ Veuillez en saisir un autre</translation>
     </message>
 </context>
 <context>
+    <name>XmlGuard</name>
+    <message>
+        <source>an element has more than %1 attributes</source>
+        <translation>un élément a plus de %1 attributs</translation>
+    </message>
+</context>
+<context>
     <name>checkForms</name>
     <message numerus="yes">
         <source>%n error(s)</source>
@@ -4299,12 +4408,9 @@ Veuillez en saisir un autre</translation>
         <source>The picture %1 cannot be written: %2</source>
         <translation>L&apos;image %1 ne peut pas être écrite : %2</translation>
     </message>
-</context>
-<context>
-    <name>XmlGuard</name>
     <message>
-        <source>an element has more than %1 attributes</source>
-        <translation>un élément a plus de %1 attributs</translation>
+        <source>There is no dialog &quot;%1&quot; for what is selected.</source>
+        <translation>Il n’y a pas de dialogue « %1 » pour la sélection.</translation>
     </message>
 </context>
 </TS>

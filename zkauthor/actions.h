@@ -56,6 +56,7 @@ public:
     QAction* exportSvg;
     QAction* saveCustomPart;
     QAction* preferences;
+    QAction* help;
     QAction* licence;
     QAction* about;
 

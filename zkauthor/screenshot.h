@@ -2,11 +2,7 @@
 
 #include <QString>
 
-class QPalette;
 struct StartOptions;
-
-/// The colours of a dark desktop, as pictures and tests show them.
-QPalette darkPalette();
 
 /// Opens the document of the options, selects what they name, and writes a picture of the main window, or of the forms
 /// alone. False, with the

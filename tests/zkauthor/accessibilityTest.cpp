@@ -3,10 +3,10 @@
 
 #include "tests/support/accessibilityWalk.h"
 #include "tests/support/testDocument.h"
+#include "zkauthor/darkPalette.h"
 #include "zkauthor/palettes.h"
 #include "zkauthor/partHelp.h"
 #include "zkauthor/sceneView.h"
-#include "zkauthor/screenshot.h"
 #include "zkauthor/spaceTabs.h"
 #include "zkcore/model/nodeDb.h"
 #include "zkeditor/debugConsole.h"

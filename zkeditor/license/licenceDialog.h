@@ -6,6 +6,7 @@
 
 class ErrorLabel;
 class LicenceManager;
+class LinkLabel;
 class QLabel;
 class QPlainTextEdit;
 class QPushButton;
@@ -24,6 +25,14 @@ public Q_SLOTS:
     /// Enters the code; stays open when something is wrong with it, and selects the group that is wrong.
     void accept() override;
 
+Q_SIGNALS:
+    /// The user asks what licence codes are. The link for it is there when somebody is connected as the dialog is
+    /// shown.
+    void helpRequested();
+
+protected:
+    void showEvent(QShowEvent* event) override;
+
 private:
     void onCodeChanged();
     void onRemove();
@@ -35,5 +44,6 @@ private:
     QLabel* m_status;
     QPlainTextEdit* m_code;
     ErrorLabel* m_verdict;
+    LinkLabel* m_help;
     QPushButton* m_remove;
 };
