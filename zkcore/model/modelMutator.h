@@ -92,6 +92,8 @@ private:
     void unlink(PropertyImpl& property);
     void noteValue(const PropertyAddress& address, Value before, Value after);
     void dropFromSelection(NodeImpl* node);
+    void markValue(InstanceId node);
+    void markShape(InstanceId node);
 
     DocumentImpl& m_document;
     std::unique_ptr<ChangeSet> m_own; // of the outermost mutator
