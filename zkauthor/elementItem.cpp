@@ -55,6 +55,7 @@ void ElementItem::updateGeometry()
     m_bounds = bounds;
     m_area = area;
     m_place = placeOf(*element);
+    followVisibility();
     update();
 }
 
@@ -76,6 +77,19 @@ void ElementItem::followPosition()
 QPainterPath ElementItem::shape() const
 {
     return m_area;
+}
+
+void ElementItem::setReaderMode(bool reader)
+{
+    m_readerMode = reader;
+    followVisibility();
+    update();
+}
+
+void ElementItem::followVisibility()
+{
+    if (const ElementImpl* element = this->element())
+        setVisible(!m_readerMode || isSeenByReaders(*element));
 }
 
 void ElementItem::setMarked(bool marked)
@@ -102,7 +116,7 @@ void ElementItem::paint(QPainter* painter, const QStyleOptionGraphicsItem*, QWid
     painter->scale(mmPerMetre, mmPerMetre);
     painter->setLayoutDirection(Qt::LayoutDirectionAuto); // the document's texts, not the program's language, decide
     ScenePainter scenePainter(*painter);
-    scenePainter.setHiddenOpacity(hiddenOpacity);
+    scenePainter.setHiddenOpacity(m_readerMode ? 0.0 : hiddenOpacity);
     scenePainter.paintElement(*element);
     painter->restore();
     if (!m_marked)

@@ -1,5 +1,6 @@
 // Start-up of the host: command line, message handler, crash handler, main window.
 #include "zkauthor/checkForms.h"
+#include "zkauthor/darkPalette.h"
 #include "zkauthor/mainWindow.h"
 #include "zkauthor/preferences.h"
 #include "zkauthor/screenshot.h"
@@ -15,6 +16,7 @@
 #include <QIcon>
 #include <QLocale>
 #include <QMessageBox>
+#include <QPalette>
 #include <QSettings>
 #include <cstdio>
 
@@ -116,6 +118,8 @@ int main(int argc, char** argv)
     }
 
     chooseLanguage();
+    if (options.dark)
+        QApplication::setPalette(darkPalette());
     MainWindow window;
     SettingsService* settings =
         SettingsService::createService(&window, QStringLiteral("zkauthor"), QSettings::UserScope);

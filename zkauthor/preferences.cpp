@@ -1,9 +1,11 @@
 #include "zkauthor/preferences.h"
 
+#include "zkauthor/helpWindow.h"
 #include "zkauthor/sceneView.h"
 #include "zkcore/values/preferredUnits.h"
 #include "zkcore/values/value.h"
 #include "zkeditor/settingsService.h"
+#include "zkeditor/widgets/linkLabel.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -147,6 +149,8 @@ bool Preferences::edit(QWidget* parent)
     QComboBox* log = choiceBox(logTargets, preferences.log);
     log->setToolTip(preferencesText(QT_TRANSLATE_NOOP("Preferences", "Takes effect when the program starts again.")));
     form->addRow(preferencesText(QT_TRANSLATE_NOOP("Preferences", "&Messages go to:")), log);
+    form->addRow(makeHelpLink(preferencesText(QT_TRANSLATE_NOOP("Preferences", "What these settings do")),
+                              QStringLiteral("dialogs#preferences")));
     auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
     QObject::connect(buttons, &QDialogButtonBox::accepted, &dialog, &QDialog::accept);
     QObject::connect(buttons, &QDialogButtonBox::rejected, &dialog, &QDialog::reject);

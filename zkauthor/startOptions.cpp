@@ -70,7 +70,7 @@ bool StartOptions::parse(const QCoreApplication& application, StartOptions& opti
     const QCommandLineOption formsOption(
         QStringLiteral("forms"),
         StartTexts::tr("Let the picture show the forms of what is selected from top to bottom, alone."));
-    const QCommandLineOption darkOption(QStringLiteral("dark"), StartTexts::tr("Take the picture in dark colours."));
+    const QCommandLineOption darkOption(QStringLiteral("dark"), StartTexts::tr("Dark colours, whatever those of the desktop are."));
     parser.addOption(formsOption);
     parser.addOption(darkOption);
     const QCommandLineOption checkFormOption(
@@ -133,7 +133,7 @@ bool StartOptions::parse(const QCoreApplication& application, StartOptions& opti
     options.select = parser.values(selectOption);
     options.forms = parser.isSet(formsOption);
     options.dark = parser.isSet(darkOption);
-    for (const QCommandLineOption& option : {selectOption, formsOption, darkOption}) {
+    for (const QCommandLineOption& option : {selectOption, formsOption}) {
         if (parser.isSet(option) && options.screenshot.isEmpty()) {
             error = StartTexts::tr("--%1 only works together with --screenshot.").arg(option.names().constFirst());
             return false;

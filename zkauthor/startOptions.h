@@ -19,7 +19,7 @@ struct StartOptions
     QStringList select;
     /// Whether the picture shows the forms of what is selected, all of them, instead of the window.
     bool forms = false;
-    /// Whether the picture is taken in dark colours.
+    /// Whether the program takes dark colours, whatever those of the desktop are.
     bool dark = false;
 
     /// The form to check instead of opening a window; empty for none.
