@@ -48,7 +48,7 @@ void showAboutBox(QWidget* parent, const LicenceManager& licence)
     auto* folder = new HyperLink(Package::userFolder(), nullptr);
     folder->setDisplayText(AboutTexts::tr("Folder of your own parts"));
     layout->addWidget(folder);
-    layout->addWidget(makeHelpLink(tr("How things are done"), QStringLiteral("help")));
+    layout->addWidget(makeHelpLink(AboutTexts::tr("How things are done"), QStringLiteral("help")));
     auto* buttons = new QDialogButtonBox(QDialogButtonBox::Close);
     QObject::connect(buttons, &QDialogButtonBox::rejected, &dialog, &QDialog::reject);
     layout->addWidget(buttons);

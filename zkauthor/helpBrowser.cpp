@@ -11,8 +11,9 @@
 
 namespace {
 
-const QString helpFolder = QStringLiteral(":/zk/help/");
-constexpr int greatestPictureWidth = 420;
+// Where all pages and pictures are. The browser's own address is that of the page before while one is read.
+const QUrl helpFolder(QStringLiteral("qrc:/zk/help/"));
+constexpr int greatestPictureWidth = 330;
 
 /// What links call a heading: small letters, hyphens for blanks.
 QString linkNameOf(const QString& heading)
@@ -33,7 +34,7 @@ HelpBrowser::HelpBrowser(QWidget* parent) : QTextBrowser(parent)
 void HelpBrowser::showPage(const QString& page)
 {
     const QString heading = page.section(u'#', 1);
-    QUrl url(QStringLiteral("qrc%1%2.md").arg(helpFolder, page.section(u'#', 0, 0)));
+    QUrl url(page.section(u'#', 0, 0) + QLatin1String(".md"));
     if (!heading.isEmpty())
         url.setFragment(heading);
     setSource(url);
@@ -48,7 +49,7 @@ QVariant HelpBrowser::loadResource(int type, const QUrl& name)
 {
     if (type != QTextDocument::ImageResource)
         return QTextBrowser::loadResource(type, name);
-    const QImage picture(u':' + source().resolved(name).path());
+    const QImage picture(u':' + helpFolder.resolved(name).path());
     if (picture.width() <= greatestPictureWidth)
         return picture;
     return picture.scaledToWidth(greatestPictureWidth, Qt::SmoothTransformation);
@@ -56,7 +57,7 @@ QVariant HelpBrowser::loadResource(int type, const QUrl& name)
 
 void HelpBrowser::doSetSource(const QUrl& name, QTextDocument::ResourceType type)
 {
-    const QUrl whole = source().resolved(name);
+    const QUrl whole = (name.path().isEmpty() ? source() : helpFolder).resolved(name);
     if (whole.scheme() != QLatin1String("qrc") || !QFile::exists(u':' + whole.path()))
         return;
     m_heading = whole.fragment();

@@ -8,6 +8,7 @@
 #include <QDialogButtonBox>
 #include <QPalette>
 #include <QPushButton>
+#include <QUrl>
 #include <QVBoxLayout>
 
 namespace {
@@ -47,8 +48,9 @@ void showHelp(QWidget* parent, const QString& page)
     QObject::connect(contents, &QPushButton::clicked, browser,
                      [browser] { browser->showPage(QStringLiteral("help")); });
     QObject::connect(browser, &QTextBrowser::backwardAvailable, back, &QWidget::setEnabled);
-    QObject::connect(browser, &QTextBrowser::sourceChanged, contents,
-                     [contents, browser] { contents->setEnabled(browser->page() != QLatin1String("help")); });
+    QObject::connect(browser, &QTextBrowser::sourceChanged, contents, [contents](const QUrl& url) {
+        contents->setEnabled(!url.path().endsWith(QLatin1String("/help.md")));
+    });
     window->resize(760, 620);
     browser->showPage(page);
     browser->setFocus();

@@ -70,7 +70,8 @@ bool StartOptions::parse(const QCoreApplication& application, StartOptions& opti
     const QCommandLineOption formsOption(
         QStringLiteral("forms"),
         StartTexts::tr("Let the picture show the forms of what is selected from top to bottom, alone."));
-    const QCommandLineOption darkOption(QStringLiteral("dark"), StartTexts::tr("Dark colours, whatever those of the desktop are."));
+    const QCommandLineOption darkOption(QStringLiteral("dark"),
+                                        StartTexts::tr("Dark colours, whatever those of the desktop are."));
     parser.addOption(formsOption);
     parser.addOption(darkOption);
     const QCommandLineOption checkFormOption(

@@ -74,6 +74,17 @@ TEST_F(HelpWindowTest, KeysLeadFromPageToPageAndBack)
     QTest::keyClick(shown, Qt::Key_Tab);
     QTest::keyClick(shown, Qt::Key_Return);
     EXPECT_EQ(shown->page(), "palettes");
+    QPushButton* contents = nullptr;
+    for (QPushButton* button : shown->window()->findChildren<QPushButton*>()) {
+        if (button->text() == QLatin1String("C&ontents"))
+            contents = button;
+    }
+    ASSERT_TRUE(contents && contents->isEnabled());
+    contents->click();
+    EXPECT_EQ(shown->page(), "help");
+    EXPECT_FALSE(contents->isEnabled());
+    QTest::keyClick(shown, Qt::Key_Left, Qt::AltModifier);
+    EXPECT_EQ(shown->page(), "palettes");
     QTest::keyClick(shown, Qt::Key_Left, Qt::AltModifier);
     EXPECT_EQ(shown->page(), "help");
     const MessageCapture messages;
