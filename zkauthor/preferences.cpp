@@ -18,6 +18,7 @@
 #include <QMessageBox>
 #include <QSpinBox>
 #include <algorithm>
+#include <optional>
 
 namespace {
 
@@ -74,10 +75,19 @@ QString text(const SettingsService& settings, const QString& key)
     return settings.hasSetting(key) ? settings.readSetting(key, Value(QString())).toQString() : QString();
 }
 
+/// What was chosen where nothing can be written; it holds until the program ends.
+std::optional<Preferences>& unkeptPreferences()
+{
+    static std::optional<Preferences> preferences;
+    return preferences;
+}
+
 } // namespace
 
 Preferences Preferences::read()
 {
+    if (unkeptPreferences())
+        return *unkeptPreferences();
     Preferences preferences;
     if (!SettingsService::exists())
         return preferences;
@@ -102,7 +112,12 @@ bool Preferences::write() const
     written = settings.writeSetting(lengthUnitKey, Value(lengthUnit)) && written;
     written = settings.writeSetting(undoLimitKey, Value(undoLimit)) && written;
     written = settings.writeSetting(wheelKey, Value(wheelZooms)) && written;
-    return settings.writeSetting(logKey, Value(log)) && written;
+    written = settings.writeSetting(logKey, Value(log)) && written;
+    if (written)
+        unkeptPreferences().reset();
+    else
+        unkeptPreferences() = *this;
+    return written;
 }
 
 void Preferences::apply() const
