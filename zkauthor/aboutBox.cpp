@@ -11,6 +11,7 @@
 #include <QCoreApplication>
 #include <QDialog>
 #include <QDialogButtonBox>
+#include <QDir>
 #include <QLabel>
 #include <QPushButton>
 #include <QVBoxLayout>
@@ -48,6 +49,8 @@ void showAboutBox(QWidget* parent, const LicenceManager& licence)
     auto* folder = new HyperLink(Package::userFolder(), nullptr);
     folder->setDisplayText(AboutTexts::tr("Folder of your own parts"));
     layout->addWidget(folder);
+    if (!QDir(Package::userFolder()).exists())
+        folder->hide(); // it comes with the first part
     layout->addWidget(makeHelpLink(AboutTexts::tr("How things are done"), QStringLiteral("help")));
     auto* buttons = new QDialogButtonBox(QDialogButtonBox::Close);
     QObject::connect(buttons, &QDialogButtonBox::rejected, &dialog, &QDialog::reject);
