@@ -1,5 +1,6 @@
 #include "zkauthor/elementItem.h"
 
+#include "zkauthor/partRules.h"
 #include "zkcore/model/elementImpl.h"
 #include "zkcore/printing/elementGeometry.h"
 #include "zkcore/printing/scenePainter.h"
