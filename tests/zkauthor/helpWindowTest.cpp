@@ -70,7 +70,7 @@ TEST_F(HelpWindowTest, KeysLeadFromPageToPageAndBack)
     ASSERT_TRUE(shown);
     EXPECT_EQ(shown->page(), "help");
     ASSERT_TRUE(QTest::qWaitForWindowActive(shown->window()));
-    EXPECT_TRUE(shown->hasFocus());
+    EXPECT_TRUE(QTest::qWaitFor([shown] { return shown->hasFocus(); }, 1000));
     QTest::keyClick(shown, Qt::Key_Tab);
     QTest::keyClick(shown, Qt::Key_Return);
     EXPECT_EQ(shown->page(), "palettes");

@@ -42,6 +42,7 @@ protected:
     SpaceImpl* popup() { return part("info")->popup(); }
     void closeWithEscape()
     {
+        EXPECT_TRUE(QTest::qWaitFor([this] { return view().hasFocus(); }, 1000)); // a new view is shown first
         keys(Qt::Key_Escape);
         QApplication::processEvents(); // the view goes when the key has been dealt with
     }
@@ -68,7 +69,7 @@ TEST_F(ReaderActionsTest, ExplanationsOpenWhenTheMouseRestsOnThem)
         EXPECT_EQ(tabs().currentSpace(), popup());
         closeWithEscape();
         EXPECT_EQ(tabs().currentSpace(), scene);
-        EXPECT_TRUE(view().hasFocus());
+        EXPECT_TRUE(QTest::qWaitFor([this] { return view().hasFocus(); }, 1000));
         EXPECT_TRUE(isSeen("info"));
         trigger("run");
     }
