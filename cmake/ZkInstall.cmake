@@ -107,7 +107,7 @@ set(CPACK_DEBIAN_APPLICATION_PACKAGE_SECTION education)
 set(sameRuntime "libzkeditor${zkAbi} (= ${PROJECT_VERSION})")
 set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_DEPENDS "${sameRuntime}, qt6-base-dev")
 set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_SUGGESTS "designer-qt6")
-set(CPACK_DEBIAN_APPLICATION_PACKAGE_DEPENDS "${sameRuntime}")
+set(CPACK_DEBIAN_APPLICATION_PACKAGE_DEPENDS "${sameRuntime}, qt6-translations-l10n")
 set(CPACK_DEBIAN_RUNTIME_DESCRIPTION "editing widgets for documents made of parts - libraries
 Forms drawn in the form designer bind themselves to what is selected, one part
 or a hundred thousand, and every change goes through one undo history.")

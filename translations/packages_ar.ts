@@ -1003,7 +1003,7 @@
     </message>
     <message>
         <source>Light</source>
-        <translation>خفيف</translation>
+        <translation>الضوء</translation>
     </message>
     <message>
         <source>The colour of the light.</source>
@@ -2593,14 +2593,6 @@
         <source>Whether the button goes away when the explanation has been read.</source>
         <translation>هل يختفي الزر بعد قراءة الشرح.</translation>
     </message>
-    <message>
-        <source>Been read</source>
-        <translation>مقروء</translation>
-    </message>
-    <message>
-        <source>Whether the reader has closed the explanation, while the model runs.</source>
-        <translation>ما إذا كان القارئ قد أغلق الشرح أثناء تشغيل النموذج.</translation>
-    </message>
 </context>
 <context>
     <name>core/model</name>
@@ -2761,7 +2753,7 @@
     </message>
     <message>
         <source>Open</source>
-        <translation>فتح</translation>
+        <translation>مفتوحة</translation>
     </message>
     <message>
         <source>Whether the pop-up is shown now.</source>
@@ -3345,7 +3337,7 @@
     </message>
     <message>
         <source>Clear</source>
-        <translation>مسح</translation>
+        <translation>شفافة</translation>
     </message>
     <message>
         <source>Milky</source>
@@ -3408,7 +3400,7 @@
     </message>
     <message>
         <source>Light</source>
-        <translation>خفيف</translation>
+        <translation>الضوء</translation>
     </message>
     <message>
         <source>How bright it is at the start, in percent.</source>
@@ -3821,7 +3813,7 @@
     </message>
     <message>
         <source>square</source>
-        <translation>مربع</translation>
+        <translation>بزوايا قائمة</translation>
     </message>
     <message>
         <source>Cross-section in mm²</source>
@@ -4061,7 +4053,7 @@
     </message>
     <message>
         <source>square</source>
-        <translation>مربع</translation>
+        <translation>بزوايا قائمة</translation>
     </message>
     <message>
         <source>straight</source>
@@ -4178,7 +4170,7 @@
     </message>
     <message>
         <source>Switch</source>
-        <translation>مفتاح كهربائي</translation>
+        <translation>تبديل</translation>
     </message>
     <message>
         <source>Flash</source>

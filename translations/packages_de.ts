@@ -1003,7 +1003,7 @@
     </message>
     <message>
         <source>Light</source>
-        <translation>Leicht</translation>
+        <translation>Licht</translation>
     </message>
     <message>
         <source>The colour of the light.</source>
@@ -2593,14 +2593,6 @@
         <source>Whether the button goes away when the explanation has been read.</source>
         <translation>Ob der Knopf verschwindet, wenn die Erklärung gelesen wurde.</translation>
     </message>
-    <message>
-        <source>Been read</source>
-        <translation>Gelesen</translation>
-    </message>
-    <message>
-        <source>Whether the reader has closed the explanation, while the model runs.</source>
-        <translation>Ob der Leser die Erklärung geschlossen hat, während das Modell läuft.</translation>
-    </message>
 </context>
 <context>
     <name>core/model</name>
@@ -2761,7 +2753,7 @@
     </message>
     <message>
         <source>Open</source>
-        <translation>Öffnen</translation>
+        <translation>Offen</translation>
     </message>
     <message>
         <source>Whether the pop-up is shown now.</source>
@@ -3345,7 +3337,7 @@
     </message>
     <message>
         <source>Clear</source>
-        <translation>Leeren</translation>
+        <translation>Klar</translation>
     </message>
     <message>
         <source>Milky</source>
@@ -3408,7 +3400,7 @@
     </message>
     <message>
         <source>Light</source>
-        <translation>Leicht</translation>
+        <translation>Licht</translation>
     </message>
     <message>
         <source>How bright it is at the start, in percent.</source>
@@ -3586,7 +3578,7 @@
     </message>
     <message>
         <source>square</source>
-        <translation>eckig</translation>
+        <translation>quadratisch</translation>
     </message>
     <message>
         <source>oval</source>
@@ -3625,7 +3617,7 @@
     </message>
     <message>
         <source>none</source>
-        <translation>keiner</translation>
+        <translation>keine</translation>
     </message>
     <message>
         <source>positive</source>
@@ -3778,7 +3770,7 @@
     </message>
     <message>
         <source>Key</source>
-        <translation>Schlüssel</translation>
+        <translation>Taste</translation>
     </message>
     <message>
         <source>The key that works the switch while the model runs; one capital letter or digit.</source>
@@ -3821,7 +3813,7 @@
     </message>
     <message>
         <source>square</source>
-        <translation>eckig</translation>
+        <translation>rechtwinklig</translation>
     </message>
     <message>
         <source>Cross-section in mm²</source>
@@ -4061,7 +4053,7 @@
     </message>
     <message>
         <source>square</source>
-        <translation>eckig</translation>
+        <translation>rechtwinklig</translation>
     </message>
     <message>
         <source>straight</source>
@@ -4178,7 +4170,7 @@
     </message>
     <message>
         <source>Switch</source>
-        <translation>Schalter</translation>
+        <translation>Schalten</translation>
     </message>
     <message>
         <source>Flash</source>

@@ -1003,7 +1003,7 @@
     </message>
     <message>
         <source>Light</source>
-        <translation>Léger</translation>
+        <translation>Lumière</translation>
     </message>
     <message>
         <source>The colour of the light.</source>
@@ -2593,14 +2593,6 @@
         <source>Whether the button goes away when the explanation has been read.</source>
         <translation>Si le bouton disparaît quand l&apos;explication a été lue.</translation>
     </message>
-    <message>
-        <source>Been read</source>
-        <translation>Lu</translation>
-    </message>
-    <message>
-        <source>Whether the reader has closed the explanation, while the model runs.</source>
-        <translation>Si le lecteur a fermé l’explication pendant que le modèle fonctionne.</translation>
-    </message>
 </context>
 <context>
     <name>core/model</name>
@@ -2761,7 +2753,7 @@
     </message>
     <message>
         <source>Open</source>
-        <translation>Ouvrir</translation>
+        <translation>Ouverte</translation>
     </message>
     <message>
         <source>Whether the pop-up is shown now.</source>
@@ -3345,7 +3337,7 @@
     </message>
     <message>
         <source>Clear</source>
-        <translation>Vider</translation>
+        <translation>Claire</translation>
     </message>
     <message>
         <source>Milky</source>
@@ -3408,7 +3400,7 @@
     </message>
     <message>
         <source>Light</source>
-        <translation>Léger</translation>
+        <translation>Lumière</translation>
     </message>
     <message>
         <source>How bright it is at the start, in percent.</source>
@@ -3625,7 +3617,7 @@
     </message>
     <message>
         <source>none</source>
-        <translation>aucun</translation>
+        <translation>aucune</translation>
     </message>
     <message>
         <source>positive</source>
@@ -3778,7 +3770,7 @@
     </message>
     <message>
         <source>Key</source>
-        <translation>Clé</translation>
+        <translation>Touche</translation>
     </message>
     <message>
         <source>The key that works the switch while the model runs; one capital letter or digit.</source>
@@ -3821,7 +3813,7 @@
     </message>
     <message>
         <source>square</source>
-        <translation>carrée</translation>
+        <translation>à angles droits</translation>
     </message>
     <message>
         <source>Cross-section in mm²</source>
@@ -4061,7 +4053,7 @@
     </message>
     <message>
         <source>square</source>
-        <translation>carrée</translation>
+        <translation>à angles droits</translation>
     </message>
     <message>
         <source>straight</source>
@@ -4178,7 +4170,7 @@
     </message>
     <message>
         <source>Switch</source>
-        <translation>Interrupteur</translation>
+        <translation>Commuter</translation>
     </message>
     <message>
         <source>Flash</source>

@@ -19,10 +19,6 @@
         <source>Folder of your own parts</source>
         <translation>مجلد قطعك الخاصة</translation>
     </message>
-    <message>
-        <source>How things are done</source>
-        <translation>كيفية القيام بالأمور</translation>
-    </message>
 </context>
 <context>
     <name>Actions</name>
@@ -148,7 +144,7 @@
     </message>
     <message>
         <source>Select Ne&amp;xt</source>
-        <translation>تحديد ال&amp;تالي</translation>
+        <translation>تحديد الت&amp;الي</translation>
     </message>
     <message>
         <source>Select the next part</source>
@@ -164,7 +160,7 @@
     </message>
     <message>
         <source>Rotate Le&amp;ft</source>
-        <translation>تدوير إلى الي&amp;سار</translation>
+        <translation>تدوير إلى اليسا&amp;ر</translation>
     </message>
     <message>
         <source>Turn the selected parts a quarter to the left</source>
@@ -244,7 +240,7 @@
     </message>
     <message>
         <source>Print Previe&amp;w...</source>
-        <translation>م&amp;عاينة الطباعة...</translation>
+        <translation>معاي&amp;نة الطباعة...</translation>
     </message>
     <message>
         <source>Show the pages as they are printed</source>
@@ -276,7 +272,7 @@
     </message>
     <message>
         <source>&amp;Save as Custom Part...</source>
-        <translation>ح&amp;فظ كقطعة خاصة...</translation>
+        <translation>حف&amp;ظ كقطعة خاصة...</translation>
     </message>
     <message>
         <source>Offer the selected part among the parts from now on</source>
@@ -341,14 +337,6 @@
     <message>
         <source>Badge</source>
         <translation>الشارة</translation>
-    </message>
-    <message>
-        <source>&amp;Contents</source>
-        <translation>&amp;المحتويات</translation>
-    </message>
-    <message>
-        <source>Read how things are done</source>
-        <translation>قراءة كيفية القيام بالأمور</translation>
     </message>
 </context>
 <context>
@@ -512,7 +500,7 @@ Please enter another id</source>
         <translation>ال&amp;مشهد</translation>
     </message>
     <message>
-        <source>Cl&amp;ick</source>
+        <source>Clic&amp;k</source>
         <translation>ال&amp;نقر</translation>
     </message>
     <message>
@@ -521,15 +509,15 @@ Please enter another id</source>
     </message>
     <message>
         <source>&amp;Copies</source>
-        <translation>الن&amp;سخ</translation>
+        <translation>النس&amp;خ</translation>
     </message>
     <message>
-        <source>Offset &amp;right</source>
+        <source>Offset ri&amp;ght</source>
         <translation>الإزاحة إلى ال&amp;يمين</translation>
     </message>
     <message>
         <source>Offset &amp;down</source>
-        <translation>الإزاحة إلى الأ&amp;سفل</translation>
+        <translation>الإزاحة إلى الأس&amp;فل</translation>
     </message>
     <message>
         <source>D&amp;uplicate</source>
@@ -554,22 +542,6 @@ Please enter another id</source>
     <message>
         <source>Show &amp;Pop-up</source>
         <translation>&amp;عرض النافذة المنبثقة</translation>
-    </message>
-    <message>
-        <source>Opens when the &amp;mouse rests on it</source>
-        <translation>يُفتح حين يستقر ال&amp;مؤشر عليه</translation>
-    </message>
-    <message>
-        <source>Opens the pop-up without a click.</source>
-        <translation>يفتح النافذة المنبثقة بلا نقر.</translation>
-    </message>
-    <message>
-        <source>Goes away &amp;after reading</source>
-        <translation>يختفي &amp;بعد القراءة</translation>
-    </message>
-    <message>
-        <source>Hides the button once its pop-up has been closed.</source>
-        <translation>يخفي الزر بعد إغلاق نافذته المنبثقة.</translation>
     </message>
 </context>
 <context>
@@ -601,6 +573,10 @@ Please enter another id</source>
     <message>
         <source>Multiple parts selected</source>
         <translation>عدة قطع محددة</translation>
+    </message>
+    <message>
+        <source>New Link</source>
+        <translation>ارتباط جديد</translation>
     </message>
 </context>
 <context>
@@ -1360,6 +1336,10 @@ Please enter another id</source>
         <source>Flowchart</source>
         <translation>مخطط انسيابي</translation>
     </message>
+    <message>
+        <source>The link &quot;%1&quot; cannot be opened.</source>
+        <translation>لا يمكن فتح الرابط &quot;%1&quot;.</translation>
+    </message>
 </context>
 <context>
     <name>FlowchartRunner</name>
@@ -1447,7 +1427,7 @@ Please enter another id</source>
     </message>
     <message>
         <source>Black</source>
-        <translation>أسود</translation>
+        <translation>سميك جدًا</translation>
     </message>
     <message>
         <source>Italic</source>
@@ -1495,6 +1475,281 @@ Please enter another id</source>
     </message>
 </context>
 <context>
+    <name>FormChecker</name>
+    <message>
+        <source>scenes and pop-ups have no subparts to choose from</source>
+        <translation>ليس للمشاهد والنوافذ المنبثقة قطع فرعية للاختيار منها</translation>
+    </message>
+    <message>
+        <source>the list stays empty: nodes of the class have no such subparts, and none can be added</source>
+        <translation>تبقى القائمة فارغة: ليس لعقد الفئة مثل هذه القطع الفرعية، ولا يمكن إضافة أي منها</translation>
+    </message>
+    <message>
+        <source>there is no property &quot;%1&quot; to bind</source>
+        <translation>لا توجد خاصية &quot;%1&quot; لربطها</translation>
+    </message>
+    <message>
+        <source>there is no property &quot;%1&quot; to bind; did you mean &quot;%2&quot;?</source>
+        <translation>لا توجد خاصية &quot;%1&quot; لربطها؛ هل تقصد &quot;%2&quot;؟</translation>
+    </message>
+    <message>
+        <source>the key of the property to bind is missing</source>
+        <translation>مفتاح الخاصية المراد ربطها ناقص</translation>
+    </message>
+    <message>
+        <source>there are no subparts &quot;%1&quot; to bind</source>
+        <translation>لا توجد قطع فرعية &quot;%1&quot; لربطها</translation>
+    </message>
+    <message>
+        <source>not all subparts that can be chosen have the property &quot;%1&quot;</source>
+        <translation>ليست كل القطع الفرعية التي يمكن اختيارها لها الخاصية &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>new nodes have no subparts &quot;%1&quot;: the form is not shown for them</source>
+        <translation>ليس للعقد الجديدة قطع فرعية &quot;%1&quot;: لا يُعرض النموذج لها</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is of the type %2, but the control takes %3</source>
+        <translation>&quot;%1&quot; من النوع %2، لكن عنصر التحكم يأخذ %3</translation>
+    </message>
+    <message>
+        <source>the values that &quot;%1&quot; may take cannot be listed</source>
+        <translation>لا يمكن سرد القيم التي يجوز أن تأخذها &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>the button stands for nothing in the group &apos;%1&apos;: %2</source>
+        <translation>الزر لا يمثل شيئًا في المجموعة &apos;%1&apos;: %2</translation>
+    </message>
+    <message>
+        <source>the name is taken by what begins in line %1: connections and buddies find only one of them</source>
+        <translation>الاسم مستعمل لما يبدأ في السطر %1: الاتصالات والعناصر المرافقة لا تجد إلا واحدًا منهما</translation>
+    </message>
+    <message>
+        <source>a widget of this class keeps what is in it to itself: the top widget of a form has to be a QWidget</source>
+        <translation>العنصر من هذه الفئة يحتفظ بمحتواه لنفسه: يجب أن يكون العنصر الأعلى في النموذج QWidget</translation>
+    </message>
+    <message>
+        <source>the form has no section: directly in its top widget there must be a PaletteBoxSection</source>
+        <translation>ليس في النموذج قسم: يجب أن توجد PaletteBoxSection مباشرة في عنصره الأعلى</translation>
+    </message>
+    <message>
+        <source>it stands outside all sections and is never shown</source>
+        <translation>يقع خارج كل الأقسام ولا يُعرض أبدًا</translation>
+    </message>
+    <message>
+        <source>the class is missing</source>
+        <translation>الفئة ناقصة</translation>
+    </message>
+    <message>
+        <source>there is no such class</source>
+        <translation>لا توجد مثل هذه الفئة</translation>
+    </message>
+    <message>
+        <source>there is no such class; did you mean %1?</source>
+        <translation>لا توجد مثل هذه الفئة؛ هل تقصد %1؟</translation>
+    </message>
+    <message>
+        <source>there is no such class; a %1, which it refines, is shown in its place</source>
+        <translation>لا توجد مثل هذه الفئة؛ يُعرض بدلًا منها %1 الذي تخصصه</translation>
+    </message>
+    <message>
+        <source>the class has no such property</source>
+        <translation>ليس للفئة هذه الخاصية</translation>
+    </message>
+    <message>
+        <source>the class has no such property; did you mean &quot;%1&quot;?</source>
+        <translation>ليس للفئة هذه الخاصية؛ هل تقصد &quot;%1&quot;؟</translation>
+    </message>
+    <message>
+        <source>there is no value; &lt;%1&gt; is needed</source>
+        <translation>لا توجد قيمة؛ يلزم &lt;%1&gt;</translation>
+    </message>
+    <message>
+        <source>&lt;%1&gt; is given where &lt;%2&gt; is needed</source>
+        <translation>ورد &lt;%1&gt; حيث يلزم &lt;%2&gt;</translation>
+    </message>
+    <message>
+        <source>%1 is no number</source>
+        <translation>%1 ليس عددًا</translation>
+    </message>
+    <message>
+        <source>at most %1 are possible</source>
+        <translation>الحد الأقصى الممكن %1</translation>
+    </message>
+    <message>
+        <source>%1 is neither &quot;true&quot; nor &quot;false&quot;</source>
+        <translation>%1 ليست &quot;true&quot; ولا &quot;false&quot;</translation>
+    </message>
+    <message>
+        <source>%1 is none of %2</source>
+        <translation>%1 ليس ضمن %2</translation>
+    </message>
+    <message>
+        <source>the picture %1 is no resource of the program: whether it is found depends on the folder in which the program is started</source>
+        <translation>الصورة %1 ليست موردًا للبرنامج: العثور عليها يتوقف على المجلد الذي يُشغَّل فيه البرنامج</translation>
+    </message>
+    <message>
+        <source>there is no picture %1</source>
+        <translation>لا توجد صورة %1</translation>
+    </message>
+    <message>
+        <source>there is no widget %1</source>
+        <translation>لا يوجد عنصر %1</translation>
+    </message>
+    <message>
+        <source>there is no widget %1; did you mean &quot;%2&quot;?</source>
+        <translation>لا يوجد عنصر %1؛ هل تقصد &quot;%2&quot;؟</translation>
+    </message>
+    <message>
+        <source>the text is missing: a control over two texts needs both, not empty</source>
+        <translation>النص ناقص: عنصر التحكم الخاص بنصين يحتاج إليهما معًا غير فارغين</translation>
+    </message>
+    <message>
+        <source>the signal %1 does not bring what the slot %2 takes</source>
+        <translation>الإشارة %1 لا تحمل ما يأخذه المستقبِل %2</translation>
+    </message>
+    <message>
+        <source>the connection leads nowhere: there is no widget %1</source>
+        <translation>الاتصال لا يؤدي إلى شيء: لا يوجد عنصر %1</translation>
+    </message>
+    <message>
+        <source>the connection leads nowhere: there is no widget %1; did you mean &quot;%2&quot;?</source>
+        <translation>الاتصال لا يؤدي إلى شيء: لا يوجد عنصر %1؛ هل تقصد &quot;%2&quot;؟</translation>
+    </message>
+    <message>
+        <source>the connection leads nowhere: the class has no signal %1</source>
+        <translation>الاتصال لا يؤدي إلى شيء: ليس للفئة إشارة %1</translation>
+    </message>
+    <message>
+        <source>the connection leads nowhere: the class has no slot %1</source>
+        <translation>الاتصال لا يؤدي إلى شيء: ليس للفئة مستقبِل %1</translation>
+    </message>
+    <message>
+        <source>the connection closes a circle: %1 would switch itself for ever</source>
+        <translation>الاتصال يغلق حلقة: سيبدّل %1 نفسه إلى ما لا نهاية</translation>
+    </message>
+    <message>
+        <source>the tab order names %1, but there is no such widget</source>
+        <translation>ترتيب التنقل يذكر %1، لكن لا يوجد مثل هذا العنصر</translation>
+    </message>
+    <message>
+        <source>the list stays empty: the property needs a validator of the kind &quot;set&quot;</source>
+        <translation>تبقى القائمة فارغة: تحتاج الخاصية إلى قاعدة تحقق من النوع &quot;set&quot;</translation>
+    </message>
+    <message>
+        <source>the list stays empty: the property&apos;s validator allows no value</source>
+        <translation>تبقى القائمة فارغة: قاعدة التحقق من الخاصية لا تسمح بأي قيمة</translation>
+    </message>
+    <message>
+        <source>the list stays empty: the property needs a validator of the kind &quot;resources&quot;</source>
+        <translation>تبقى القائمة فارغة: تحتاج الخاصية إلى قاعدة تحقق من النوع &quot;resources&quot;</translation>
+    </message>
+    <message>
+        <source>no unit is shown: the property has neither a unit nor a format with units</source>
+        <translation>لا تُعرض وحدة: ليس للخاصية وحدة ولا تنسيق ذو وحدات</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no value of the type %2</source>
+        <translation>&quot;%1&quot; ليست قيمة من النوع %2</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no value that the property may take</source>
+        <translation>&quot;%1&quot; ليست قيمة يجوز أن تأخذها الخاصية</translation>
+    </message>
+</context>
+<context>
+    <name>FormDescription</name>
+    <message>
+        <source>the form has more than %1 widgets, layouts and connections</source>
+        <translation>في النموذج أكثر من %1 من العناصر والتخطيطات والاتصالات</translation>
+    </message>
+    <message>
+        <source>the elements are nested more than %1 deep</source>
+        <translation>العناصر متداخلة بعمق أكبر من %1</translation>
+    </message>
+    <message>
+        <source>document types and entities are not understood</source>
+        <translation>أنواع المستندات والكيانات غير مفهومة</translation>
+    </message>
+    <message>
+        <source>this is no form but &lt;%1&gt;</source>
+        <translation>هذا ليس نموذجًا بل &lt;%1&gt;</translation>
+    </message>
+    <message>
+        <source>the form has no widget</source>
+        <translation>ليس في النموذج عنصر</translation>
+    </message>
+    <message>
+        <source>the form has the version %1, 4.0 is needed</source>
+        <translation>إصدار النموذج %1، والمطلوب 4.0</translation>
+    </message>
+    <message>
+        <source>a form has one top widget, this is the second</source>
+        <translation>للنموذج عنصر أعلى واحد، وهذا هو الثاني</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no %2 of a grid; at most %3 are possible</source>
+        <translation>&quot;%1&quot; ليس %2 في شبكة؛ الحد الأقصى الممكن %3</translation>
+    </message>
+    <message>
+        <source>%1 is larger than anything that can be shown</source>
+        <translation>%1 أكبر من أي شيء يمكن عرضه</translation>
+    </message>
+    <message>
+        <source>the class &quot;%1&quot; refines itself</source>
+        <translation>الفئة &quot;%1&quot; تخصص نفسها</translation>
+    </message>
+    <message>
+        <source>the class &quot;%1&quot; refines too many others</source>
+        <translation>الفئة &quot;%1&quot; تخصص فئات كثيرة جدًا</translation>
+    </message>
+    <message>
+        <source>the form is larger than %1 MB</source>
+        <translation>النموذج أكبر من %1 م.ب</translation>
+    </message>
+</context>
+<context>
+    <name>FormFaultSection</name>
+    <message>
+        <source>Faulty Form</source>
+        <translation>نموذج معيب</translation>
+    </message>
+    <message>
+        <source>The form &quot;%1&quot; is faulty and is not shown. What its author has to mend:</source>
+        <translation>النموذج &quot;%1&quot; معيب ولا يُعرض. ما على مؤلفه إصلاحه:</translation>
+    </message>
+    <message>
+        <source>Line %1: %2</source>
+        <translation>السطر %1: %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>and %n more</source>
+        <translation>
+            <numerusform>ولا شيء آخر</numerusform>
+            <numerusform>وواحد آخر</numerusform>
+            <numerusform>واثنان آخران</numerusform>
+            <numerusform>و%n أخرى</numerusform>
+            <numerusform>و%n أخرى</numerusform>
+            <numerusform>و%n أخرى</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>FormGate</name>
+    <message>
+        <source>there is no form of this name</source>
+        <translation>لا يوجد نموذج بهذا الاسم</translation>
+    </message>
+    <message>
+        <source>what is selected has no subpart &quot;%1&quot; with the property &quot;%2&quot;</source>
+        <translation>ما هو محدد ليس له قطعة فرعية &quot;%1&quot; ذات الخاصية &quot;%2&quot;</translation>
+    </message>
+    <message>
+        <source>the toolkit cannot read the form, or makes no section of it directly in its top widget</source>
+        <translation>لا تستطيع المكتبة قراءة النموذج، أو لا تنشئ منه قسمًا مباشرة في عنصره الأعلى</translation>
+    </message>
+</context>
+<context>
     <name>GetCustomPartLabel</name>
     <message>
         <source>Choose custom part label</source>
@@ -1515,21 +1770,6 @@ Please enter another id</source>
     <message>
         <source>&amp;Cancel</source>
         <translation>إ&amp;لغاء</translation>
-    </message>
-</context>
-<context>
-    <name>HelpWindow</name>
-    <message>
-        <source>Help</source>
-        <translation>مساعدة</translation>
-    </message>
-    <message>
-        <source>&amp;Back</source>
-        <translation>&amp;رجوع</translation>
-    </message>
-    <message>
-        <source>C&amp;ontents</source>
-        <translation>ال&amp;محتويات</translation>
     </message>
 </context>
 <context>
@@ -1659,7 +1899,7 @@ Please enter another id</source>
         <translation>الترخيص</translation>
     </message>
     <message>
-        <source>Licence &amp;code:</source>
+        <source>Licenc&amp;e code:</source>
         <translation>&amp;رمز الترخيص:</translation>
     </message>
     <message>
@@ -1704,10 +1944,6 @@ Please enter another id</source>
             <numerusform>صحيح حتى الآن: %n مجموعة.</numerusform>
             <numerusform>صحيح حتى الآن: %n مجموعة.</numerusform>
         </translation>
-    </message>
-    <message>
-        <source>How licence codes work</source>
-        <translation>كيف تعمل رموز الترخيص</translation>
     </message>
 </context>
 <context>
@@ -1803,6 +2039,21 @@ Please enter another id</source>
     <message>
         <source>Select All</source>
         <translation>تحديد الكل</translation>
+    </message>
+</context>
+<context>
+    <name>LinkPane</name>
+    <message>
+        <source>Pr&amp;operty that follows another</source>
+        <translation>خاصية &amp;تتبع أخرى</translation>
+    </message>
+    <message>
+        <source>Property that follows another</source>
+        <translation>خاصية تتبع أخرى</translation>
+    </message>
+    <message>
+        <source>What it can follow</source>
+        <translation>ما يمكن أن تتبعه</translation>
     </message>
 </context>
 <context>
@@ -2343,6 +2594,21 @@ Please enter another id</source>
     </message>
 </context>
 <context>
+    <name>PackageCheck</name>
+    <message>
+        <source>the file cannot be read: %1</source>
+        <translation>لا يمكن قراءة الملف: %1</translation>
+    </message>
+    <message>
+        <source>the extension stands for no kind of resource: the file is never used</source>
+        <translation>الامتداد لا يدل على أي نوع من الموارد: لا يُستعمل الملف أبدًا</translation>
+    </message>
+    <message>
+        <source>nothing names the file</source>
+        <translation>لا شيء يذكر الملف</translation>
+    </message>
+</context>
+<context>
     <name>PageSetupDialog</name>
     <message>
         <source>Page Setup</source>
@@ -2559,7 +2825,7 @@ Please enter another id</source>
     </message>
     <message>
         <source>I&amp;nspector...</source>
-        <translation>ال&amp;مفتش...</translation>
+        <translation>المفت&amp;ش...</translation>
     </message>
     <message>
         <source>Show the tree of everything in the document</source>
@@ -2617,10 +2883,6 @@ Please enter another id</source>
     <message>
         <source>About %1</source>
         <translation>حول %1</translation>
-    </message>
-    <message>
-        <source>How properties are changed</source>
-        <translation>كيفية تغيير الخصائص</translation>
     </message>
 </context>
 <context>
@@ -2780,8 +3042,8 @@ Please enter another id</source>
         <translation>تبقى التفضيلات حتى ينتهي البرنامج: لا يمكن حفظها.</translation>
     </message>
     <message>
-        <source>What these settings do</source>
-        <translation>ما تفعله هذه الإعدادات</translation>
+        <source>The language of all texts, and how numbers are written.</source>
+        <translation>لغة جميع النصوص وطريقة كتابة الأرقام.</translation>
     </message>
 </context>
 <context>
@@ -2971,6 +3233,14 @@ Please enter another id</source>
         <source>Follows %1: %2</source>
         <translation>تتبع %1: %2</translation>
     </message>
+    <message>
+        <source>Nothing is found that could be followed.</source>
+        <translation>لم يُعثر على شيء يمكن تتبعه.</translation>
+    </message>
+    <message>
+        <source>The selected parts do not follow the same.</source>
+        <translation>القطع المحددة لا تتبع الشيء نفسه.</translation>
+    </message>
 </context>
 <context>
     <name>PropertyTable</name>
@@ -3057,13 +3327,6 @@ Please enter another id</source>
     <message>
         <source>Different colours</source>
         <translation>ألوان مختلفة</translation>
-    </message>
-</context>
-<context>
-    <name>ReaderActions</name>
-    <message>
-        <source>The link &quot;%1&quot; cannot be opened.</source>
-        <translation>لا يمكن فتح الرابط &quot;%1&quot;.</translation>
     </message>
 </context>
 <context>
@@ -3250,12 +3513,12 @@ Please enter another id</source>
         <translation>إزالة</translation>
     </message>
     <message>
-        <source>The selected parts have different lists</source>
-        <translation>للقطع المحددة قوائم مختلفة</translation>
-    </message>
-    <message>
         <source>Preview: %1</source>
         <translation>معاينة: %1</translation>
+    </message>
+    <message>
+        <source>The selected parts have different lists. What is added becomes the list of all.</source>
+        <translation>للقطع المحددة قوائم مختلفة. ما يُضاف يصبح قائمة الجميع.</translation>
     </message>
 </context>
 <context>
@@ -3534,16 +3797,16 @@ Please enter another id</source>
         <translation>جعل الصورة تعرض نماذج تحرير ما هو محدد وحدها، من أعلى إلى أسفل.</translation>
     </message>
     <message>
+        <source>Take the picture in dark colours.</source>
+        <translation>التقاط الصورة بألوان داكنة.</translation>
+    </message>
+    <message>
         <source>The document to open.</source>
         <translation>المستند المطلوب فتحه.</translation>
     </message>
     <message>
         <source>--log takes stdout, stderr, file, console or none, not &quot;%1&quot;.</source>
         <translation>يقبل --log القيم stdout أو stderr أو file أو console أو none، وليس &quot;%1&quot;.</translation>
-    </message>
-    <message>
-        <source>Only one document can be opened, but %1 were given.</source>
-        <translation>لا يمكن فتح إلا مستند واحد، لكن أُعطي %1.</translation>
     </message>
     <message>
         <source>--screenshot needs the name of a file.</source>
@@ -3554,20 +3817,43 @@ Please enter another id</source>
         <translation>لا يعمل --%1 إلا مع --screenshot.</translation>
     </message>
     <message>
-        <source>Dark colours, whatever those of the desktop are.</source>
-        <translation>ألوان داكنة أيًا كانت ألوان سطح المكتب.</translation>
+        <source>The language of this run, such as de or fr_FR.</source>
+        <translation>لغة هذا التشغيل، مثل de أو fr_FR.</translation>
+    </message>
+    <message numerus="yes">
+        <source>Only one document can be opened, but %n were given.</source>
+        <translation>
+            <numerusform>يمكن فتح مستند واحد فقط، لكن لم يُذكر أي مستند.</numerusform>
+            <numerusform>يمكن فتح مستند واحد فقط، وقد ذُكر مستند واحد.</numerusform>
+            <numerusform>يمكن فتح مستند واحد فقط، لكن ذُكر مستندان.</numerusform>
+            <numerusform>يمكن فتح مستند واحد فقط، لكن ذُكرت %n مستندات.</numerusform>
+            <numerusform>يمكن فتح مستند واحد فقط، لكن ذُكر %n مستندًا.</numerusform>
+            <numerusform>يمكن فتح مستند واحد فقط، لكن ذُكر %n مستند.</numerusform>
+        </translation>
     </message>
     <message>
-        <source>Let the picture show the dialog of a menu entry: preferences, page-setup, save-custom-part, licence or about.</source>
-        <translation>تُظهر الصورة مربع حوار أحد بنود القائمة: preferences أو page-setup أو save-custom-part أو licence أو about.</translation>
+        <source>Tell what is wrong with a form, and quit. The exit code is 0 when nothing is, 1 for errors, 2 when the form cannot be read.</source>
+        <translation>ذكر ما هو خاطئ في نموذج ثم الإنهاء. رمز الخروج 0 عندما لا يوجد خطأ، و1 عند وجود أخطاء، و2 عندما لا يمكن قراءة النموذج.</translation>
     </message>
     <message>
-        <source>Run the flowcharts for so many seconds before the picture.</source>
-        <translation>تشغيل المخططات الانسيابية هذا العدد من الثواني قبل الصورة.</translation>
+        <source>Check the form for this class. May be given several times. Without it, the form is checked for the classes that name it.</source>
+        <translation>فحص النموذج لهذه الفئة. يمكن ذكره عدة مرات. من دونه يُفحص النموذج للفئات التي تذكره.</translation>
     </message>
     <message>
-        <source>--run takes seconds up to %1, not &quot;%2&quot;.</source>
-        <translation>يتطلب --run عددًا من الثواني حتى %1، وليس &quot;%2&quot;.</translation>
+        <source>Tell what is wrong with a package folder and its forms, and quit.</source>
+        <translation>ذكر ما هو خاطئ في مجلد حزمة ونماذجه ثم الإنهاء.</translation>
+    </message>
+    <message>
+        <source>--%1 needs the name of a file or folder.</source>
+        <translation>الخيار --%1 يحتاج إلى اسم ملف أو مجلد.</translation>
+    </message>
+    <message>
+        <source>--class only works together with --check-form.</source>
+        <translation>لا يعمل ‎--class‎ إلا مع ‎--check-form‎.</translation>
+    </message>
+    <message>
+        <source>--check-form and --check-package cannot be given together.</source>
+        <translation>لا يمكن ذكر ‎--check-form‎ و‎--check-package‎ معًا.</translation>
     </message>
 </context>
 <context>
@@ -3891,10 +4177,6 @@ Please enter another id</source>
         <translation>إزالة</translation>
     </message>
     <message>
-        <source>The selected parts have different entries</source>
-        <translation>للقطع المحددة مدخلات مختلفة</translation>
-    </message>
-    <message>
         <source>key</source>
         <translation>مفتاح</translation>
     </message>
@@ -3905,6 +4187,14 @@ Please enter another id</source>
     <message>
         <source>This text does not stand for a value of the kind &quot;%1&quot;.</source>
         <translation>هذا النص لا يمثل قيمة من النوع &quot;%1&quot;.</translation>
+    </message>
+    <message>
+        <source>Sort by this column</source>
+        <translation>الفرز حسب هذا العمود</translation>
+    </message>
+    <message>
+        <source>The selected parts have different entries. What is added becomes the entries of all.</source>
+        <translation>للقطع المحددة إدخالات مختلفة. ما يُضاف يصبح إدخالات الجميع.</translation>
     </message>
 </context>
 <context>
@@ -3970,6 +4260,47 @@ Please enter another id</source>
     </message>
 </context>
 <context>
+    <name>checkForms</name>
+    <message numerus="yes">
+        <source>%n error(s)</source>
+        <translation>
+            <numerusform>لا أخطاء</numerusform>
+            <numerusform>خطأ واحد</numerusform>
+            <numerusform>خطآن</numerusform>
+            <numerusform>%n أخطاء</numerusform>
+            <numerusform>%n خطأً</numerusform>
+            <numerusform>%n خطأ</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n warning(s)</source>
+        <translation>
+            <numerusform>لا تحذيرات</numerusform>
+            <numerusform>تحذير واحد</numerusform>
+            <numerusform>تحذيران</numerusform>
+            <numerusform>%n تحذيرات</numerusform>
+            <numerusform>%n تحذيرًا</numerusform>
+            <numerusform>%n تحذير</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 is no file.</source>
+        <translation>%1 ليس ملفًا.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read: %2</source>
+        <translation>لا يمكن قراءة %1: %2</translation>
+    </message>
+    <message>
+        <source>There is no class &quot;%1&quot;.</source>
+        <translation>لا توجد فئة &quot;%1&quot;.</translation>
+    </message>
+    <message>
+        <source>%1 is no package: it has no file package.xml.</source>
+        <translation>%1 ليس حزمة: لا يوجد فيه الملف package.xml.</translation>
+    </message>
+</context>
+<context>
     <name>main</name>
     <message>
         <source>Messages - zkauthor</source>
@@ -3989,10 +4320,6 @@ Please enter another id</source>
     <message>
         <source>The picture %1 cannot be written: %2</source>
         <translation>لا يمكن كتابة الصورة %1: %2</translation>
-    </message>
-    <message>
-        <source>There is no dialog &quot;%1&quot; for what is selected.</source>
-        <translation>لا يوجد مربع حوار &quot;%1&quot; لما هو محدد.</translation>
     </message>
 </context>
 </TS>

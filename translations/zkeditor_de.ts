@@ -19,10 +19,6 @@
         <source>Folder of your own parts</source>
         <translation>Ordner Ihrer eigenen Teile</translation>
     </message>
-    <message>
-        <source>How things are done</source>
-        <translation>So wird es gemacht</translation>
-    </message>
 </context>
 <context>
     <name>Actions</name>
@@ -342,14 +338,6 @@
         <source>Badge</source>
         <translation>Plakette</translation>
     </message>
-    <message>
-        <source>&amp;Contents</source>
-        <translation>&amp;Inhalt</translation>
-    </message>
-    <message>
-        <source>Read how things are done</source>
-        <translation>Nachlesen, wie es gemacht wird</translation>
-    </message>
 </context>
 <context>
     <name>AddCustomPartDialog</name>
@@ -508,7 +496,7 @@ Bitte geben Sie eine andere Kennung ein</translation>
         <translation>&amp;Szene</translation>
     </message>
     <message>
-        <source>Cl&amp;ick</source>
+        <source>Clic&amp;k</source>
         <translation>&amp;Klick</translation>
     </message>
     <message>
@@ -517,10 +505,10 @@ Bitte geben Sie eine andere Kennung ein</translation>
     </message>
     <message>
         <source>&amp;Copies</source>
-        <translation>Ko&amp;pien</translation>
+        <translation>K&amp;opien</translation>
     </message>
     <message>
-        <source>Offset &amp;right</source>
+        <source>Offset ri&amp;ght</source>
         <translation>Versatz nach &amp;rechts</translation>
     </message>
     <message>
@@ -529,7 +517,7 @@ Bitte geben Sie eine andere Kennung ein</translation>
     </message>
     <message>
         <source>D&amp;uplicate</source>
-        <translation>&amp;Duplizieren</translation>
+        <translation>Dupl&amp;izieren</translation>
     </message>
     <message>
         <source>Adds the copies, each beside the one before it</source>
@@ -550,22 +538,6 @@ Bitte geben Sie eine andere Kennung ein</translation>
     <message>
         <source>Show &amp;Pop-up</source>
         <translation>Pop-up &amp;zeigen</translation>
-    </message>
-    <message>
-        <source>Opens when the &amp;mouse rests on it</source>
-        <translation>Öffnet sich, wenn die &amp;Maus darauf ruht</translation>
-    </message>
-    <message>
-        <source>Opens the pop-up without a click.</source>
-        <translation>Öffnet das Pop-up ohne Klick.</translation>
-    </message>
-    <message>
-        <source>Goes away &amp;after reading</source>
-        <translation>Verschwindet &amp;nach dem Lesen</translation>
-    </message>
-    <message>
-        <source>Hides the button once its pop-up has been closed.</source>
-        <translation>Verbirgt den Knopf, sobald sein Pop-up geschlossen wurde.</translation>
     </message>
 </context>
 <context>
@@ -597,6 +569,10 @@ Bitte geben Sie eine andere Kennung ein</translation>
     <message>
         <source>Multiple parts selected</source>
         <translation>Mehrere Teile ausgewählt</translation>
+    </message>
+    <message>
+        <source>New Link</source>
+        <translation>Neue Verknüpfung</translation>
     </message>
 </context>
 <context>
@@ -1344,6 +1320,10 @@ Bitte geben Sie eine andere Kennung ein</translation>
         <source>Flowchart</source>
         <translation>Ablaufplan</translation>
     </message>
+    <message>
+        <source>The link &quot;%1&quot; cannot be opened.</source>
+        <translation>Der Link &quot;%1&quot; kann nicht geöffnet werden.</translation>
+    </message>
 </context>
 <context>
     <name>FlowchartRunner</name>
@@ -1431,7 +1411,7 @@ Bitte geben Sie eine andere Kennung ein</translation>
     </message>
     <message>
         <source>Black</source>
-        <translation>Schwarz</translation>
+        <translation>Extrafett</translation>
     </message>
     <message>
         <source>Italic</source>
@@ -1479,6 +1459,277 @@ Bitte geben Sie eine andere Kennung ein</translation>
     </message>
 </context>
 <context>
+    <name>FormChecker</name>
+    <message>
+        <source>scenes and pop-ups have no subparts to choose from</source>
+        <translation>Szenen und Pop-ups haben keine Unterteile zur Auswahl</translation>
+    </message>
+    <message>
+        <source>the list stays empty: nodes of the class have no such subparts, and none can be added</source>
+        <translation>die Liste bleibt leer: Knoten der Klasse haben keine solchen Unterteile, und es können keine hinzugefügt werden</translation>
+    </message>
+    <message>
+        <source>there is no property &quot;%1&quot; to bind</source>
+        <translation>es gibt keine Eigenschaft &quot;%1&quot; zu binden</translation>
+    </message>
+    <message>
+        <source>there is no property &quot;%1&quot; to bind; did you mean &quot;%2&quot;?</source>
+        <translation>es gibt keine Eigenschaft &quot;%1&quot; zu binden; meinten Sie &quot;%2&quot;?</translation>
+    </message>
+    <message>
+        <source>the key of the property to bind is missing</source>
+        <translation>der Schlüssel der zu bindenden Eigenschaft fehlt</translation>
+    </message>
+    <message>
+        <source>there are no subparts &quot;%1&quot; to bind</source>
+        <translation>es gibt keine Unterteile &quot;%1&quot; zu binden</translation>
+    </message>
+    <message>
+        <source>not all subparts that can be chosen have the property &quot;%1&quot;</source>
+        <translation>nicht alle Unterteile, die gewählt werden können, haben die Eigenschaft &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>new nodes have no subparts &quot;%1&quot;: the form is not shown for them</source>
+        <translation>neue Knoten haben keine Unterteile &quot;%1&quot;: das Formular wird für sie nicht gezeigt</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is of the type %2, but the control takes %3</source>
+        <translation>&quot;%1&quot; ist vom Typ %2, das Bedienelement nimmt aber %3</translation>
+    </message>
+    <message>
+        <source>the values that &quot;%1&quot; may take cannot be listed</source>
+        <translation>die Werte, die &quot;%1&quot; annehmen darf, lassen sich nicht aufzählen</translation>
+    </message>
+    <message>
+        <source>the button stands for nothing in the group &apos;%1&apos;: %2</source>
+        <translation>der Knopf steht für nichts in der Gruppe &apos;%1&apos;: %2</translation>
+    </message>
+    <message>
+        <source>the name is taken by what begins in line %1: connections and buddies find only one of them</source>
+        <translation>den Namen hat schon, was in Zeile %1 beginnt: Verbindungen und Partner finden nur eines von beiden</translation>
+    </message>
+    <message>
+        <source>a widget of this class keeps what is in it to itself: the top widget of a form has to be a QWidget</source>
+        <translation>ein Element dieser Klasse behält seinen Inhalt für sich: das oberste Element eines Formulars muss ein QWidget sein</translation>
+    </message>
+    <message>
+        <source>the form has no section: directly in its top widget there must be a PaletteBoxSection</source>
+        <translation>das Formular hat keinen Abschnitt: direkt in seinem obersten Element muss eine PaletteBoxSection stehen</translation>
+    </message>
+    <message>
+        <source>it stands outside all sections and is never shown</source>
+        <translation>es steht außerhalb aller Abschnitte und wird nie gezeigt</translation>
+    </message>
+    <message>
+        <source>the class is missing</source>
+        <translation>die Klasse fehlt</translation>
+    </message>
+    <message>
+        <source>there is no such class</source>
+        <translation>es gibt keine solche Klasse</translation>
+    </message>
+    <message>
+        <source>there is no such class; did you mean %1?</source>
+        <translation>es gibt keine solche Klasse; meinten Sie %1?</translation>
+    </message>
+    <message>
+        <source>there is no such class; a %1, which it refines, is shown in its place</source>
+        <translation>es gibt keine solche Klasse; an ihrer Stelle wird %1 gezeigt, das sie verfeinert</translation>
+    </message>
+    <message>
+        <source>the class has no such property</source>
+        <translation>die Klasse hat keine solche Eigenschaft</translation>
+    </message>
+    <message>
+        <source>the class has no such property; did you mean &quot;%1&quot;?</source>
+        <translation>die Klasse hat keine solche Eigenschaft; meinten Sie &quot;%1&quot;?</translation>
+    </message>
+    <message>
+        <source>there is no value; &lt;%1&gt; is needed</source>
+        <translation>der Wert fehlt; nötig ist &lt;%1&gt;</translation>
+    </message>
+    <message>
+        <source>&lt;%1&gt; is given where &lt;%2&gt; is needed</source>
+        <translation>&lt;%1&gt; steht, wo &lt;%2&gt; nötig ist</translation>
+    </message>
+    <message>
+        <source>%1 is no number</source>
+        <translation>%1 ist keine Zahl</translation>
+    </message>
+    <message>
+        <source>at most %1 are possible</source>
+        <translation>höchstens %1 sind möglich</translation>
+    </message>
+    <message>
+        <source>%1 is neither &quot;true&quot; nor &quot;false&quot;</source>
+        <translation>%1 ist weder &quot;true&quot; noch &quot;false&quot;</translation>
+    </message>
+    <message>
+        <source>%1 is none of %2</source>
+        <translation>%1 gehört nicht zu %2</translation>
+    </message>
+    <message>
+        <source>the picture %1 is no resource of the program: whether it is found depends on the folder in which the program is started</source>
+        <translation>das Bild %1 ist keine Ressource des Programms: ob es gefunden wird, hängt vom Ordner ab, in dem das Programm gestartet wird</translation>
+    </message>
+    <message>
+        <source>there is no picture %1</source>
+        <translation>es gibt kein Bild %1</translation>
+    </message>
+    <message>
+        <source>there is no widget %1</source>
+        <translation>es gibt kein Element %1</translation>
+    </message>
+    <message>
+        <source>there is no widget %1; did you mean &quot;%2&quot;?</source>
+        <translation>es gibt kein Element %1; meinten Sie &quot;%2&quot;?</translation>
+    </message>
+    <message>
+        <source>the text is missing: a control over two texts needs both, not empty</source>
+        <translation>der Text fehlt: ein Bedienelement für zwei Texte braucht beide, und keinen leeren</translation>
+    </message>
+    <message>
+        <source>the signal %1 does not bring what the slot %2 takes</source>
+        <translation>das Signal %1 bringt nicht, was der Slot %2 nimmt</translation>
+    </message>
+    <message>
+        <source>the connection leads nowhere: there is no widget %1</source>
+        <translation>die Verbindung führt ins Leere: es gibt kein Element %1</translation>
+    </message>
+    <message>
+        <source>the connection leads nowhere: there is no widget %1; did you mean &quot;%2&quot;?</source>
+        <translation>die Verbindung führt ins Leere: es gibt kein Element %1; meinten Sie &quot;%2&quot;?</translation>
+    </message>
+    <message>
+        <source>the connection leads nowhere: the class has no signal %1</source>
+        <translation>die Verbindung führt ins Leere: die Klasse hat kein Signal %1</translation>
+    </message>
+    <message>
+        <source>the connection leads nowhere: the class has no slot %1</source>
+        <translation>die Verbindung führt ins Leere: die Klasse hat keinen Slot %1</translation>
+    </message>
+    <message>
+        <source>the connection closes a circle: %1 would switch itself for ever</source>
+        <translation>die Verbindung schließt einen Kreis: %1 würde sich ewig selbst schalten</translation>
+    </message>
+    <message>
+        <source>the tab order names %1, but there is no such widget</source>
+        <translation>die Tabulatorfolge nennt %1, aber ein solches Element gibt es nicht</translation>
+    </message>
+    <message>
+        <source>the list stays empty: the property needs a validator of the kind &quot;set&quot;</source>
+        <translation>die Liste bleibt leer: die Eigenschaft braucht eine Prüfregel der Art &quot;set&quot;</translation>
+    </message>
+    <message>
+        <source>the list stays empty: the property&apos;s validator allows no value</source>
+        <translation>die Liste bleibt leer: die Prüfregel der Eigenschaft lässt keinen Wert zu</translation>
+    </message>
+    <message>
+        <source>the list stays empty: the property needs a validator of the kind &quot;resources&quot;</source>
+        <translation>die Liste bleibt leer: die Eigenschaft braucht eine Prüfregel der Art &quot;resources&quot;</translation>
+    </message>
+    <message>
+        <source>no unit is shown: the property has neither a unit nor a format with units</source>
+        <translation>es wird keine Einheit gezeigt: die Eigenschaft hat weder eine Einheit noch ein Format mit Einheiten</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no value of the type %2</source>
+        <translation>&quot;%1&quot; ist kein Wert vom Typ %2</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no value that the property may take</source>
+        <translation>&quot;%1&quot; ist kein Wert, den die Eigenschaft annehmen darf</translation>
+    </message>
+</context>
+<context>
+    <name>FormDescription</name>
+    <message>
+        <source>the form has more than %1 widgets, layouts and connections</source>
+        <translation>das Formular hat mehr als %1 Elemente, Anordnungen und Verbindungen</translation>
+    </message>
+    <message>
+        <source>the elements are nested more than %1 deep</source>
+        <translation>die Elemente sind tiefer als %1 verschachtelt</translation>
+    </message>
+    <message>
+        <source>document types and entities are not understood</source>
+        <translation>Dokumenttypen und Entitäten werden nicht verstanden</translation>
+    </message>
+    <message>
+        <source>this is no form but &lt;%1&gt;</source>
+        <translation>das ist kein Formular, sondern &lt;%1&gt;</translation>
+    </message>
+    <message>
+        <source>the form has no widget</source>
+        <translation>das Formular hat kein Element</translation>
+    </message>
+    <message>
+        <source>the form has the version %1, 4.0 is needed</source>
+        <translation>das Formular hat die Version %1, nötig ist 4.0</translation>
+    </message>
+    <message>
+        <source>a form has one top widget, this is the second</source>
+        <translation>ein Formular hat ein oberstes Element, dies ist das zweite</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no %2 of a grid; at most %3 are possible</source>
+        <translation>&quot;%1&quot; ist keine %2 eines Rasters; höchstens %3 sind möglich</translation>
+    </message>
+    <message>
+        <source>%1 is larger than anything that can be shown</source>
+        <translation>%1 ist größer als alles, was gezeigt werden kann</translation>
+    </message>
+    <message>
+        <source>the class &quot;%1&quot; refines itself</source>
+        <translation>die Klasse &quot;%1&quot; verfeinert sich selbst</translation>
+    </message>
+    <message>
+        <source>the class &quot;%1&quot; refines too many others</source>
+        <translation>die Klasse &quot;%1&quot; verfeinert zu viele andere</translation>
+    </message>
+    <message>
+        <source>the form is larger than %1 MB</source>
+        <translation>das Formular ist größer als %1 MB</translation>
+    </message>
+</context>
+<context>
+    <name>FormFaultSection</name>
+    <message>
+        <source>Faulty Form</source>
+        <translation>Fehlerhaftes Formular</translation>
+    </message>
+    <message>
+        <source>The form &quot;%1&quot; is faulty and is not shown. What its author has to mend:</source>
+        <translation>Das Formular &quot;%1&quot; ist fehlerhaft und wird nicht gezeigt. Was sein Verfasser zu beheben hat:</translation>
+    </message>
+    <message>
+        <source>Line %1: %2</source>
+        <translation>Zeile %1: %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>and %n more</source>
+        <translation>
+            <numerusform>und %n weiterer</numerusform>
+            <numerusform>und %n weitere</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>FormGate</name>
+    <message>
+        <source>there is no form of this name</source>
+        <translation>es gibt kein Formular dieses Namens</translation>
+    </message>
+    <message>
+        <source>what is selected has no subpart &quot;%1&quot; with the property &quot;%2&quot;</source>
+        <translation>was ausgewählt ist, hat kein Unterteil &quot;%1&quot; mit der Eigenschaft &quot;%2&quot;</translation>
+    </message>
+    <message>
+        <source>the toolkit cannot read the form, or makes no section of it directly in its top widget</source>
+        <translation>die Bibliothek kann das Formular nicht lesen oder macht daraus keinen Abschnitt direkt im obersten Element</translation>
+    </message>
+</context>
+<context>
     <name>GetCustomPartLabel</name>
     <message>
         <source>Choose custom part label</source>
@@ -1499,21 +1750,6 @@ Bitte geben Sie eine andere Kennung ein</translation>
     <message>
         <source>&amp;Cancel</source>
         <translation>&amp;Abbrechen</translation>
-    </message>
-</context>
-<context>
-    <name>HelpWindow</name>
-    <message>
-        <source>Help</source>
-        <translation>Hilfe</translation>
-    </message>
-    <message>
-        <source>&amp;Back</source>
-        <translation>&amp;Zurück</translation>
-    </message>
-    <message>
-        <source>C&amp;ontents</source>
-        <translation>&amp;Inhalt</translation>
     </message>
 </context>
 <context>
@@ -1643,7 +1879,7 @@ Bitte geben Sie eine andere Kennung ein</translation>
         <translation>Lizenz</translation>
     </message>
     <message>
-        <source>Licence &amp;code:</source>
+        <source>Licenc&amp;e code:</source>
         <translation>Lizenz&amp;code:</translation>
     </message>
     <message>
@@ -1684,10 +1920,6 @@ Bitte geben Sie eine andere Kennung ein</translation>
             <numerusform>Bis hier richtig: %n Gruppe.</numerusform>
             <numerusform>Bis hier richtig: %n Gruppen.</numerusform>
         </translation>
-    </message>
-    <message>
-        <source>How licence codes work</source>
-        <translation>Wie Lizenzcodes funktionieren</translation>
     </message>
 </context>
 <context>
@@ -1771,6 +2003,21 @@ Bitte geben Sie eine andere Kennung ein</translation>
     <message>
         <source>Select All</source>
         <translation>Alles auswählen</translation>
+    </message>
+</context>
+<context>
+    <name>LinkPane</name>
+    <message>
+        <source>Pr&amp;operty that follows another</source>
+        <translation>Ei&amp;genschaft, die einer anderen folgt</translation>
+    </message>
+    <message>
+        <source>Property that follows another</source>
+        <translation>Eigenschaft, die einer anderen folgt</translation>
+    </message>
+    <message>
+        <source>What it can follow</source>
+        <translation>Dem sie folgen kann</translation>
     </message>
 </context>
 <context>
@@ -2303,6 +2550,21 @@ Bitte geben Sie eine andere Kennung ein</translation>
     </message>
 </context>
 <context>
+    <name>PackageCheck</name>
+    <message>
+        <source>the file cannot be read: %1</source>
+        <translation>die Datei kann nicht gelesen werden: %1</translation>
+    </message>
+    <message>
+        <source>the extension stands for no kind of resource: the file is never used</source>
+        <translation>die Endung steht für keine Art von Ressource: die Datei wird nie verwendet</translation>
+    </message>
+    <message>
+        <source>nothing names the file</source>
+        <translation>nichts nennt die Datei</translation>
+    </message>
+</context>
+<context>
     <name>PageSetupDialog</name>
     <message>
         <source>Page Setup</source>
@@ -2574,10 +2836,6 @@ Bitte geben Sie eine andere Kennung ein</translation>
         <source>About %1</source>
         <translation>Über %1</translation>
     </message>
-    <message>
-        <source>How properties are changed</source>
-        <translation>Wie Eigenschaften geändert werden</translation>
-    </message>
 </context>
 <context>
     <name>PartIdLineEdit</name>
@@ -2721,7 +2979,7 @@ Bitte geben Sie eine andere Kennung ein</translation>
     </message>
     <message>
         <source>The &amp;wheel zooms scenes (with Ctrl it scrolls them)</source>
-        <translation>Das &amp;Rad vergrößert Szenen (mit Strg rollt es sie)</translation>
+        <translation>Das Ra&amp;d vergrößert Szenen (mit Strg rollt es sie)</translation>
     </message>
     <message>
         <source>&amp;Messages go to:</source>
@@ -2732,8 +2990,8 @@ Bitte geben Sie eine andere Kennung ein</translation>
         <translation>Die Einstellungen gelten, bis das Programm endet: sie können nicht bewahrt werden.</translation>
     </message>
     <message>
-        <source>What these settings do</source>
-        <translation>Was diese Einstellungen bewirken</translation>
+        <source>The language of all texts, and how numbers are written.</source>
+        <translation>Die Sprache aller Texte und die Schreibweise der Zahlen.</translation>
     </message>
 </context>
 <context>
@@ -2919,6 +3177,14 @@ Bitte geben Sie eine andere Kennung ein</translation>
         <source>Follows %1: %2</source>
         <translation>Folgt %1: %2</translation>
     </message>
+    <message>
+        <source>Nothing is found that could be followed.</source>
+        <translation>Es findet sich nichts, dem gefolgt werden könnte.</translation>
+    </message>
+    <message>
+        <source>The selected parts do not follow the same.</source>
+        <translation>Die ausgewählten Teile folgen nicht demselben.</translation>
+    </message>
 </context>
 <context>
     <name>PropertyTable</name>
@@ -3005,13 +3271,6 @@ Bitte geben Sie eine andere Kennung ein</translation>
     <message>
         <source>Different colours</source>
         <translation>Verschiedene Farben</translation>
-    </message>
-</context>
-<context>
-    <name>ReaderActions</name>
-    <message>
-        <source>The link &quot;%1&quot; cannot be opened.</source>
-        <translation>Der Link &quot;%1&quot; kann nicht geöffnet werden.</translation>
     </message>
 </context>
 <context>
@@ -3198,12 +3457,12 @@ Bitte geben Sie eine andere Kennung ein</translation>
         <translation>Entfernen</translation>
     </message>
     <message>
-        <source>The selected parts have different lists</source>
-        <translation>Die ausgewählten Teile haben verschiedene Listen</translation>
-    </message>
-    <message>
         <source>Preview: %1</source>
         <translation>Vorschau: %1</translation>
+    </message>
+    <message>
+        <source>The selected parts have different lists. What is added becomes the list of all.</source>
+        <translation>Die ausgewählten Teile haben verschiedene Listen. Was hinzukommt, wird zur Liste aller.</translation>
     </message>
 </context>
 <context>
@@ -3470,16 +3729,16 @@ Bitte geben Sie eine andere Kennung ein</translation>
         <translation>Das Bild nur die Formulare der Auswahl zeigen lassen, von oben bis unten.</translation>
     </message>
     <message>
+        <source>Take the picture in dark colours.</source>
+        <translation>Das Bild in dunklen Farben machen.</translation>
+    </message>
+    <message>
         <source>The document to open.</source>
         <translation>Das Dokument, das geöffnet werden soll.</translation>
     </message>
     <message>
         <source>--log takes stdout, stderr, file, console or none, not &quot;%1&quot;.</source>
         <translation>--log nimmt stdout, stderr, file, console oder none, nicht &quot;%1&quot;.</translation>
-    </message>
-    <message>
-        <source>Only one document can be opened, but %1 were given.</source>
-        <translation>Nur ein Dokument kann geöffnet werden, aber es wurden %1 angegeben.</translation>
     </message>
     <message>
         <source>--screenshot needs the name of a file.</source>
@@ -3490,20 +3749,39 @@ Bitte geben Sie eine andere Kennung ein</translation>
         <translation>--%1 wirkt nur zusammen mit --screenshot.</translation>
     </message>
     <message>
-        <source>Dark colours, whatever those of the desktop are.</source>
-        <translation>Dunkle Farben, gleich welche die der Arbeitsumgebung sind.</translation>
+        <source>The language of this run, such as de or fr_FR.</source>
+        <translation>Die Sprache für diesen Start, etwa de oder fr_FR.</translation>
+    </message>
+    <message numerus="yes">
+        <source>Only one document can be opened, but %n were given.</source>
+        <translation>
+            <numerusform>Es kann nur ein Dokument geöffnet werden, angegeben wurde %n.</numerusform>
+            <numerusform>Es kann nur ein Dokument geöffnet werden, angegeben wurden %n.</numerusform>
+        </translation>
     </message>
     <message>
-        <source>Let the picture show the dialog of a menu entry: preferences, page-setup, save-custom-part, licence or about.</source>
-        <translation>Das Bild zeigt den Dialog eines Menüeintrags: preferences, page-setup, save-custom-part, licence oder about.</translation>
+        <source>Tell what is wrong with a form, and quit. The exit code is 0 when nothing is, 1 for errors, 2 when the form cannot be read.</source>
+        <translation>Sagen, was an einem Formular falsch ist, und beenden. Der Rückgabewert ist 0, wenn nichts falsch ist, 1 bei Fehlern, 2, wenn das Formular nicht gelesen werden kann.</translation>
     </message>
     <message>
-        <source>Run the flowcharts for so many seconds before the picture.</source>
-        <translation>Die Ablaufpläne vor dem Bild so viele Sekunden laufen lassen.</translation>
+        <source>Check the form for this class. May be given several times. Without it, the form is checked for the classes that name it.</source>
+        <translation>Das Formular für diese Klasse prüfen. Kann mehrmals angegeben werden. Ohne die Angabe wird das Formular für die Klassen geprüft, die es nennen.</translation>
     </message>
     <message>
-        <source>--run takes seconds up to %1, not &quot;%2&quot;.</source>
-        <translation>--run erwartet Sekunden bis %1, nicht „%2“.</translation>
+        <source>Tell what is wrong with a package folder and its forms, and quit.</source>
+        <translation>Sagen, was an einem Paketordner und seinen Formularen falsch ist, und beenden.</translation>
+    </message>
+    <message>
+        <source>--%1 needs the name of a file or folder.</source>
+        <translation>--%1 braucht den Namen einer Datei oder eines Ordners.</translation>
+    </message>
+    <message>
+        <source>--class only works together with --check-form.</source>
+        <translation>--class wirkt nur zusammen mit --check-form.</translation>
+    </message>
+    <message>
+        <source>--check-form and --check-package cannot be given together.</source>
+        <translation>--check-form und --check-package können nicht zusammen angegeben werden.</translation>
     </message>
 </context>
 <context>
@@ -3827,10 +4105,6 @@ Bitte geben Sie eine andere Kennung ein</translation>
         <translation>Entfernen</translation>
     </message>
     <message>
-        <source>The selected parts have different entries</source>
-        <translation>Die ausgewählten Teile haben verschiedene Einträge</translation>
-    </message>
-    <message>
         <source>key</source>
         <translation>Schlüssel</translation>
     </message>
@@ -3841,6 +4115,14 @@ Bitte geben Sie eine andere Kennung ein</translation>
     <message>
         <source>This text does not stand for a value of the kind &quot;%1&quot;.</source>
         <translation>Dieser Text steht nicht für einen Wert der Art &quot;%1&quot;.</translation>
+    </message>
+    <message>
+        <source>Sort by this column</source>
+        <translation>Nach dieser Spalte sortieren</translation>
+    </message>
+    <message>
+        <source>The selected parts have different entries. What is added becomes the entries of all.</source>
+        <translation>Die ausgewählten Teile haben verschiedene Einträge. Was hinzukommt, gilt dann für alle.</translation>
     </message>
 </context>
 <context>
@@ -3906,6 +4188,39 @@ Bitte geben Sie eine andere Kennung ein</translation>
     </message>
 </context>
 <context>
+    <name>checkForms</name>
+    <message numerus="yes">
+        <source>%n error(s)</source>
+        <translation>
+            <numerusform>%n Fehler</numerusform>
+            <numerusform>%n Fehler</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n warning(s)</source>
+        <translation>
+            <numerusform>%n Warnung</numerusform>
+            <numerusform>%n Warnungen</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 is no file.</source>
+        <translation>%1 ist keine Datei.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read: %2</source>
+        <translation>%1 kann nicht gelesen werden: %2</translation>
+    </message>
+    <message>
+        <source>There is no class &quot;%1&quot;.</source>
+        <translation>Es gibt keine Klasse &quot;%1&quot;.</translation>
+    </message>
+    <message>
+        <source>%1 is no package: it has no file package.xml.</source>
+        <translation>%1 ist kein Paket: es fehlt die Datei package.xml.</translation>
+    </message>
+</context>
+<context>
     <name>main</name>
     <message>
         <source>Messages - zkauthor</source>
@@ -3925,10 +4240,6 @@ Bitte geben Sie eine andere Kennung ein</translation>
     <message>
         <source>The picture %1 cannot be written: %2</source>
         <translation>Das Bild %1 kann nicht geschrieben werden: %2</translation>
-    </message>
-    <message>
-        <source>There is no dialog &quot;%1&quot; for what is selected.</source>
-        <translation>Für die Auswahl gibt es keinen Dialog „%1“.</translation>
     </message>
 </context>
 </TS>

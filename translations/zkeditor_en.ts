@@ -39,6 +39,16 @@
     </message>
 </context>
 <context>
+    <name>FormFaultSection</name>
+    <message numerus="yes">
+        <source>and %n more</source>
+        <translation>
+            <numerusform>and %n more</numerusform>
+            <numerusform>and %n more</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>LicenceDialog</name>
     <message numerus="yes">
         <source>Right so far: %n groups.</source>
@@ -146,6 +156,33 @@
         <translation>
             <numerusform>Change of %1 (%n object)</numerusform>
             <numerusform>Change of %1 (%n objects)</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>StartOptions</name>
+    <message numerus="yes">
+        <source>Only one document can be opened, but %n were given.</source>
+        <translation>
+            <numerusform>Only one document can be opened, but %n was given.</numerusform>
+            <numerusform>Only one document can be opened, but %n were given.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>checkForms</name>
+    <message numerus="yes">
+        <source>%n error(s)</source>
+        <translation>
+            <numerusform>%n error</numerusform>
+            <numerusform>%n errors</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n warning(s)</source>
+        <translation>
+            <numerusform>%n warning</numerusform>
+            <numerusform>%n warnings</numerusform>
         </translation>
     </message>
 </context>

@@ -19,10 +19,6 @@
         <source>Folder of your own parts</source>
         <translation>Dossier de vos propres pièces</translation>
     </message>
-    <message>
-        <source>How things are done</source>
-        <translation>Comment faire</translation>
-    </message>
 </context>
 <context>
     <name>Actions</name>
@@ -228,7 +224,7 @@
     </message>
     <message>
         <source>Delete S&amp;cene</source>
-        <translation>&amp;Supprimer la scène</translation>
+        <translation>Su&amp;pprimer la scène</translation>
     </message>
     <message>
         <source>Delete the scene on view</source>
@@ -284,7 +280,7 @@
     </message>
     <message>
         <source>Pr&amp;eferences...</source>
-        <translation>Préféren&amp;ces...</translation>
+        <translation>Pré&amp;férences...</translation>
     </message>
     <message>
         <source>How the program works for you</source>
@@ -342,14 +338,6 @@
         <source>Badge</source>
         <translation>Badge</translation>
     </message>
-    <message>
-        <source>&amp;Contents</source>
-        <translation>&amp;Sommaire</translation>
-    </message>
-    <message>
-        <source>Read how things are done</source>
-        <translation>Lire comment faire</translation>
-    </message>
 </context>
 <context>
     <name>AddCustomPartDialog</name>
@@ -395,7 +383,7 @@
     </message>
     <message>
         <source>&amp;Cancel</source>
-        <translation>A&amp;nnuler</translation>
+        <translation>Annule&amp;r</translation>
     </message>
     <message>
         <source>The part id %1 is already in use.
@@ -508,8 +496,8 @@ Veuillez en saisir un autre</translation>
         <translation>&amp;Scène</translation>
     </message>
     <message>
-        <source>Cl&amp;ick</source>
-        <translation>Cl&amp;ic</translation>
+        <source>Clic&amp;k</source>
+        <translation>Cli&amp;c</translation>
     </message>
     <message>
         <source> mm</source>
@@ -517,15 +505,15 @@ Veuillez en saisir un autre</translation>
     </message>
     <message>
         <source>&amp;Copies</source>
-        <translation>&amp;Copies</translation>
+        <translation>Copi&amp;es</translation>
     </message>
     <message>
-        <source>Offset &amp;right</source>
-        <translation>Décalage à &amp;droite</translation>
+        <source>Offset ri&amp;ght</source>
+        <translation>Décalage à droi&amp;te</translation>
     </message>
     <message>
         <source>Offset &amp;down</source>
-        <translation>Décalage vers le &amp;bas</translation>
+        <translation>Décalage &amp;vers le bas</translation>
     </message>
     <message>
         <source>D&amp;uplicate</source>
@@ -550,22 +538,6 @@ Veuillez en saisir un autre</translation>
     <message>
         <source>Show &amp;Pop-up</source>
         <translation>&amp;Montrer la bulle</translation>
-    </message>
-    <message>
-        <source>Opens when the &amp;mouse rests on it</source>
-        <translation>S&apos;ouvre quand la &amp;souris s&apos;y pose</translation>
-    </message>
-    <message>
-        <source>Opens the pop-up without a click.</source>
-        <translation>Ouvre la bulle sans clic.</translation>
-    </message>
-    <message>
-        <source>Goes away &amp;after reading</source>
-        <translation>Disparaît &amp;après lecture</translation>
-    </message>
-    <message>
-        <source>Hides the button once its pop-up has been closed.</source>
-        <translation>Cache le bouton une fois sa bulle fermée.</translation>
     </message>
 </context>
 <context>
@@ -597,6 +569,10 @@ Veuillez en saisir un autre</translation>
     <message>
         <source>Multiple parts selected</source>
         <translation>Plusieurs pièces sélectionnées</translation>
+    </message>
+    <message>
+        <source>New Link</source>
+        <translation>Nouveau lien</translation>
     </message>
 </context>
 <context>
@@ -1344,6 +1320,10 @@ Veuillez en saisir un autre</translation>
         <source>Flowchart</source>
         <translation>Organigramme</translation>
     </message>
+    <message>
+        <source>The link &quot;%1&quot; cannot be opened.</source>
+        <translation>Le lien « %1 » ne peut pas être ouvert.</translation>
+    </message>
 </context>
 <context>
     <name>FlowchartRunner</name>
@@ -1431,7 +1411,7 @@ Veuillez en saisir un autre</translation>
     </message>
     <message>
         <source>Black</source>
-        <translation>Noir</translation>
+        <translation>Extra-gras</translation>
     </message>
     <message>
         <source>Italic</source>
@@ -1479,6 +1459,277 @@ Veuillez en saisir un autre</translation>
     </message>
 </context>
 <context>
+    <name>FormChecker</name>
+    <message>
+        <source>scenes and pop-ups have no subparts to choose from</source>
+        <translation>les scènes et les bulles n&apos;ont pas de sous-pièces à choisir</translation>
+    </message>
+    <message>
+        <source>the list stays empty: nodes of the class have no such subparts, and none can be added</source>
+        <translation>la liste reste vide : les nœuds de la classe n&apos;ont pas de telles sous-pièces, et on ne peut pas en ajouter</translation>
+    </message>
+    <message>
+        <source>there is no property &quot;%1&quot; to bind</source>
+        <translation>il n&apos;y a pas de propriété « %1 » à lier</translation>
+    </message>
+    <message>
+        <source>there is no property &quot;%1&quot; to bind; did you mean &quot;%2&quot;?</source>
+        <translation>il n&apos;y a pas de propriété « %1 » à lier ; vouliez-vous dire « %2 » ?</translation>
+    </message>
+    <message>
+        <source>the key of the property to bind is missing</source>
+        <translation>la clé de la propriété à lier manque</translation>
+    </message>
+    <message>
+        <source>there are no subparts &quot;%1&quot; to bind</source>
+        <translation>il n&apos;y a pas de sous-pièces « %1 » à lier</translation>
+    </message>
+    <message>
+        <source>not all subparts that can be chosen have the property &quot;%1&quot;</source>
+        <translation>toutes les sous-pièces que l&apos;on peut choisir n&apos;ont pas la propriété « %1 »</translation>
+    </message>
+    <message>
+        <source>new nodes have no subparts &quot;%1&quot;: the form is not shown for them</source>
+        <translation>les nouveaux nœuds n&apos;ont pas de sous-pièces « %1 » : le formulaire n&apos;est pas montré pour eux</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is of the type %2, but the control takes %3</source>
+        <translation>« %1 » est du type %2, mais la commande prend %3</translation>
+    </message>
+    <message>
+        <source>the values that &quot;%1&quot; may take cannot be listed</source>
+        <translation>les valeurs que « %1 » peut prendre ne peuvent pas être énumérées</translation>
+    </message>
+    <message>
+        <source>the button stands for nothing in the group &apos;%1&apos;: %2</source>
+        <translation>le bouton ne représente rien dans le groupe &apos;%1&apos; : %2</translation>
+    </message>
+    <message>
+        <source>the name is taken by what begins in line %1: connections and buddies find only one of them</source>
+        <translation>le nom est pris par ce qui commence à la ligne %1 : connexions et partenaires n&apos;en trouvent qu&apos;un</translation>
+    </message>
+    <message>
+        <source>a widget of this class keeps what is in it to itself: the top widget of a form has to be a QWidget</source>
+        <translation>un élément de cette classe garde son contenu pour lui : l&apos;élément principal d&apos;un formulaire doit être un QWidget</translation>
+    </message>
+    <message>
+        <source>the form has no section: directly in its top widget there must be a PaletteBoxSection</source>
+        <translation>le formulaire n&apos;a pas de section : il doit y avoir une PaletteBoxSection directement dans son élément principal</translation>
+    </message>
+    <message>
+        <source>it stands outside all sections and is never shown</source>
+        <translation>il se trouve hors de toutes les sections et n&apos;est jamais montré</translation>
+    </message>
+    <message>
+        <source>the class is missing</source>
+        <translation>la classe manque</translation>
+    </message>
+    <message>
+        <source>there is no such class</source>
+        <translation>cette classe n&apos;existe pas</translation>
+    </message>
+    <message>
+        <source>there is no such class; did you mean %1?</source>
+        <translation>cette classe n&apos;existe pas ; vouliez-vous dire %1 ?</translation>
+    </message>
+    <message>
+        <source>there is no such class; a %1, which it refines, is shown in its place</source>
+        <translation>cette classe n&apos;existe pas ; %1, qu&apos;elle spécialise, est montré à sa place</translation>
+    </message>
+    <message>
+        <source>the class has no such property</source>
+        <translation>la classe n&apos;a pas cette propriété</translation>
+    </message>
+    <message>
+        <source>the class has no such property; did you mean &quot;%1&quot;?</source>
+        <translation>la classe n&apos;a pas cette propriété ; vouliez-vous dire « %1 » ?</translation>
+    </message>
+    <message>
+        <source>there is no value; &lt;%1&gt; is needed</source>
+        <translation>il n&apos;y a pas de valeur ; il faut &lt;%1&gt;</translation>
+    </message>
+    <message>
+        <source>&lt;%1&gt; is given where &lt;%2&gt; is needed</source>
+        <translation>&lt;%1&gt; est donné là où il faut &lt;%2&gt;</translation>
+    </message>
+    <message>
+        <source>%1 is no number</source>
+        <translation>%1 n&apos;est pas un nombre</translation>
+    </message>
+    <message>
+        <source>at most %1 are possible</source>
+        <translation>%1 au plus sont possibles</translation>
+    </message>
+    <message>
+        <source>%1 is neither &quot;true&quot; nor &quot;false&quot;</source>
+        <translation>%1 n&apos;est ni « true » ni « false »</translation>
+    </message>
+    <message>
+        <source>%1 is none of %2</source>
+        <translation>%1 ne fait pas partie de %2</translation>
+    </message>
+    <message>
+        <source>the picture %1 is no resource of the program: whether it is found depends on the folder in which the program is started</source>
+        <translation>l&apos;image %1 n&apos;est pas une ressource du programme : qu&apos;elle soit trouvée dépend du dossier où le programme est lancé</translation>
+    </message>
+    <message>
+        <source>there is no picture %1</source>
+        <translation>il n&apos;y a pas d&apos;image %1</translation>
+    </message>
+    <message>
+        <source>there is no widget %1</source>
+        <translation>il n&apos;y a pas d&apos;élément %1</translation>
+    </message>
+    <message>
+        <source>there is no widget %1; did you mean &quot;%2&quot;?</source>
+        <translation>il n&apos;y a pas d&apos;élément %1 ; vouliez-vous dire « %2 » ?</translation>
+    </message>
+    <message>
+        <source>the text is missing: a control over two texts needs both, not empty</source>
+        <translation>le texte manque : une commande pour deux textes a besoin des deux, non vides</translation>
+    </message>
+    <message>
+        <source>the signal %1 does not bring what the slot %2 takes</source>
+        <translation>le signal %1 n&apos;apporte pas ce que prend le slot %2</translation>
+    </message>
+    <message>
+        <source>the connection leads nowhere: there is no widget %1</source>
+        <translation>la connexion ne mène nulle part : il n&apos;y a pas d&apos;élément %1</translation>
+    </message>
+    <message>
+        <source>the connection leads nowhere: there is no widget %1; did you mean &quot;%2&quot;?</source>
+        <translation>la connexion ne mène nulle part : il n&apos;y a pas d&apos;élément %1 ; vouliez-vous dire « %2 » ?</translation>
+    </message>
+    <message>
+        <source>the connection leads nowhere: the class has no signal %1</source>
+        <translation>la connexion ne mène nulle part : la classe n&apos;a pas de signal %1</translation>
+    </message>
+    <message>
+        <source>the connection leads nowhere: the class has no slot %1</source>
+        <translation>la connexion ne mène nulle part : la classe n&apos;a pas de slot %1</translation>
+    </message>
+    <message>
+        <source>the connection closes a circle: %1 would switch itself for ever</source>
+        <translation>la connexion ferme un cercle : %1 se commuterait sans fin</translation>
+    </message>
+    <message>
+        <source>the tab order names %1, but there is no such widget</source>
+        <translation>l&apos;ordre de tabulation nomme %1, mais cet élément n&apos;existe pas</translation>
+    </message>
+    <message>
+        <source>the list stays empty: the property needs a validator of the kind &quot;set&quot;</source>
+        <translation>la liste reste vide : la propriété a besoin d&apos;une règle de validation de la sorte « set »</translation>
+    </message>
+    <message>
+        <source>the list stays empty: the property&apos;s validator allows no value</source>
+        <translation>la liste reste vide : la règle de validation de la propriété n&apos;admet aucune valeur</translation>
+    </message>
+    <message>
+        <source>the list stays empty: the property needs a validator of the kind &quot;resources&quot;</source>
+        <translation>la liste reste vide : la propriété a besoin d&apos;une règle de validation de la sorte « resources »</translation>
+    </message>
+    <message>
+        <source>no unit is shown: the property has neither a unit nor a format with units</source>
+        <translation>aucune unité n&apos;est montrée : la propriété n&apos;a ni unité ni format avec unités</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no value of the type %2</source>
+        <translation>« %1 » n&apos;est pas une valeur du type %2</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no value that the property may take</source>
+        <translation>« %1 » n&apos;est pas une valeur que la propriété puisse prendre</translation>
+    </message>
+</context>
+<context>
+    <name>FormDescription</name>
+    <message>
+        <source>the form has more than %1 widgets, layouts and connections</source>
+        <translation>le formulaire a plus de %1 éléments, dispositions et connexions</translation>
+    </message>
+    <message>
+        <source>the elements are nested more than %1 deep</source>
+        <translation>les éléments sont imbriqués sur plus de %1 niveaux</translation>
+    </message>
+    <message>
+        <source>document types and entities are not understood</source>
+        <translation>les types de document et les entités ne sont pas compris</translation>
+    </message>
+    <message>
+        <source>this is no form but &lt;%1&gt;</source>
+        <translation>ce n&apos;est pas un formulaire mais &lt;%1&gt;</translation>
+    </message>
+    <message>
+        <source>the form has no widget</source>
+        <translation>le formulaire n&apos;a pas d&apos;élément</translation>
+    </message>
+    <message>
+        <source>the form has the version %1, 4.0 is needed</source>
+        <translation>le formulaire a la version %1, il faut 4.0</translation>
+    </message>
+    <message>
+        <source>a form has one top widget, this is the second</source>
+        <translation>un formulaire a un seul élément principal, celui-ci est le deuxième</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no %2 of a grid; at most %3 are possible</source>
+        <translation>« %1 » n&apos;est pas une %2 de grille ; %3 au plus sont possibles</translation>
+    </message>
+    <message>
+        <source>%1 is larger than anything that can be shown</source>
+        <translation>%1 est plus grand que tout ce qui peut être montré</translation>
+    </message>
+    <message>
+        <source>the class &quot;%1&quot; refines itself</source>
+        <translation>la classe « %1 » se spécialise elle-même</translation>
+    </message>
+    <message>
+        <source>the class &quot;%1&quot; refines too many others</source>
+        <translation>la classe « %1 » en spécialise trop d&apos;autres</translation>
+    </message>
+    <message>
+        <source>the form is larger than %1 MB</source>
+        <translation>le formulaire dépasse %1 Mo</translation>
+    </message>
+</context>
+<context>
+    <name>FormFaultSection</name>
+    <message>
+        <source>Faulty Form</source>
+        <translation>Formulaire défectueux</translation>
+    </message>
+    <message>
+        <source>The form &quot;%1&quot; is faulty and is not shown. What its author has to mend:</source>
+        <translation>Le formulaire « %1 » est défectueux et n&apos;est pas montré. Ce que son auteur doit corriger :</translation>
+    </message>
+    <message>
+        <source>Line %1: %2</source>
+        <translation>Ligne %1 : %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>and %n more</source>
+        <translation>
+            <numerusform>et %n autre</numerusform>
+            <numerusform>et %n autres</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>FormGate</name>
+    <message>
+        <source>there is no form of this name</source>
+        <translation>il n&apos;y a pas de formulaire de ce nom</translation>
+    </message>
+    <message>
+        <source>what is selected has no subpart &quot;%1&quot; with the property &quot;%2&quot;</source>
+        <translation>ce qui est sélectionné n&apos;a pas de sous-pièce « %1 » avec la propriété « %2 »</translation>
+    </message>
+    <message>
+        <source>the toolkit cannot read the form, or makes no section of it directly in its top widget</source>
+        <translation>la bibliothèque ne peut pas lire le formulaire, ou n&apos;en fait aucune section directement dans son élément principal</translation>
+    </message>
+</context>
+<context>
     <name>GetCustomPartLabel</name>
     <message>
         <source>Choose custom part label</source>
@@ -1499,21 +1750,6 @@ Veuillez en saisir un autre</translation>
     <message>
         <source>&amp;Cancel</source>
         <translation>A&amp;nnuler</translation>
-    </message>
-</context>
-<context>
-    <name>HelpWindow</name>
-    <message>
-        <source>Help</source>
-        <translation>Aide</translation>
-    </message>
-    <message>
-        <source>&amp;Back</source>
-        <translation>&amp;Retour</translation>
-    </message>
-    <message>
-        <source>C&amp;ontents</source>
-        <translation>S&amp;ommaire</translation>
     </message>
 </context>
 <context>
@@ -1643,7 +1879,7 @@ Veuillez en saisir un autre</translation>
         <translation>Licence</translation>
     </message>
     <message>
-        <source>Licence &amp;code:</source>
+        <source>Licenc&amp;e code:</source>
         <translation>&amp;Code de licence :</translation>
     </message>
     <message>
@@ -1684,10 +1920,6 @@ Veuillez en saisir un autre</translation>
             <numerusform>Juste jusqu&apos;ici : %n groupe.</numerusform>
             <numerusform>Juste jusqu&apos;ici : %n groupes.</numerusform>
         </translation>
-    </message>
-    <message>
-        <source>How licence codes work</source>
-        <translation>Comment fonctionnent les codes de licence</translation>
     </message>
 </context>
 <context>
@@ -1771,6 +2003,21 @@ Veuillez en saisir un autre</translation>
     <message>
         <source>Select All</source>
         <translation>Tout sélectionner</translation>
+    </message>
+</context>
+<context>
+    <name>LinkPane</name>
+    <message>
+        <source>Pr&amp;operty that follows another</source>
+        <translation>Pr&amp;opriété qui en suit une autre</translation>
+    </message>
+    <message>
+        <source>Property that follows another</source>
+        <translation>Propriété qui en suit une autre</translation>
+    </message>
+    <message>
+        <source>What it can follow</source>
+        <translation>Ce qu&apos;elle peut suivre</translation>
     </message>
 </context>
 <context>
@@ -2303,6 +2550,21 @@ Veuillez en saisir un autre</translation>
     </message>
 </context>
 <context>
+    <name>PackageCheck</name>
+    <message>
+        <source>the file cannot be read: %1</source>
+        <translation>le fichier ne peut pas être lu : %1</translation>
+    </message>
+    <message>
+        <source>the extension stands for no kind of resource: the file is never used</source>
+        <translation>l&apos;extension ne correspond à aucune sorte de ressource : le fichier n&apos;est jamais utilisé</translation>
+    </message>
+    <message>
+        <source>nothing names the file</source>
+        <translation>rien ne nomme le fichier</translation>
+    </message>
+</context>
+<context>
     <name>PageSetupDialog</name>
     <message>
         <source>Page Setup</source>
@@ -2334,7 +2596,7 @@ Veuillez en saisir un autre</translation>
     </message>
     <message>
         <source>O&amp;rientation:</source>
-        <translation>&amp;Orientation :</translation>
+        <translation>O&amp;rientation :</translation>
     </message>
     <message>
         <source>Scale to Page &amp;Width:</source>
@@ -2574,10 +2836,6 @@ Veuillez en saisir un autre</translation>
         <source>About %1</source>
         <translation>À propos de %1</translation>
     </message>
-    <message>
-        <source>How properties are changed</source>
-        <translation>Comment modifier les propriétés</translation>
-    </message>
 </context>
 <context>
     <name>PartIdLineEdit</name>
@@ -2732,8 +2990,8 @@ Veuillez en saisir un autre</translation>
         <translation>Les préférences valent jusqu&apos;à la fin du programme : elles ne peuvent pas être gardées.</translation>
     </message>
     <message>
-        <source>What these settings do</source>
-        <translation>Ce que font ces réglages</translation>
+        <source>The language of all texts, and how numbers are written.</source>
+        <translation>La langue de tous les textes et l’écriture des nombres.</translation>
     </message>
 </context>
 <context>
@@ -2919,6 +3177,14 @@ Veuillez en saisir un autre</translation>
         <source>Follows %1: %2</source>
         <translation>Suit %1 : %2</translation>
     </message>
+    <message>
+        <source>Nothing is found that could be followed.</source>
+        <translation>Rien n&apos;est trouvé qui puisse être suivi.</translation>
+    </message>
+    <message>
+        <source>The selected parts do not follow the same.</source>
+        <translation>Les pièces sélectionnées ne suivent pas la même chose.</translation>
+    </message>
 </context>
 <context>
     <name>PropertyTable</name>
@@ -3005,13 +3271,6 @@ Veuillez en saisir un autre</translation>
     <message>
         <source>Different colours</source>
         <translation>Couleurs différentes</translation>
-    </message>
-</context>
-<context>
-    <name>ReaderActions</name>
-    <message>
-        <source>The link &quot;%1&quot; cannot be opened.</source>
-        <translation>Le lien « %1 » ne peut pas être ouvert.</translation>
     </message>
 </context>
 <context>
@@ -3198,12 +3457,12 @@ Veuillez en saisir un autre</translation>
         <translation>Retirer</translation>
     </message>
     <message>
-        <source>The selected parts have different lists</source>
-        <translation>Les pièces sélectionnées ont des listes différentes</translation>
-    </message>
-    <message>
         <source>Preview: %1</source>
         <translation>Aperçu : %1</translation>
+    </message>
+    <message>
+        <source>The selected parts have different lists. What is added becomes the list of all.</source>
+        <translation>Les pièces sélectionnées ont des listes différentes. Ce qui est ajouté devient la liste de toutes.</translation>
     </message>
 </context>
 <context>
@@ -3470,16 +3729,16 @@ Veuillez en saisir un autre</translation>
         <translation>L&apos;image ne montre que les formulaires de la sélection, de haut en bas.</translation>
     </message>
     <message>
+        <source>Take the picture in dark colours.</source>
+        <translation>Faire l&apos;image en couleurs sombres.</translation>
+    </message>
+    <message>
         <source>The document to open.</source>
         <translation>Le document à ouvrir.</translation>
     </message>
     <message>
         <source>--log takes stdout, stderr, file, console or none, not &quot;%1&quot;.</source>
         <translation>--log accepte stdout, stderr, file, console ou none, pas « %1 ».</translation>
-    </message>
-    <message>
-        <source>Only one document can be opened, but %1 were given.</source>
-        <translation>Un seul document peut être ouvert, mais %1 ont été donnés.</translation>
     </message>
     <message>
         <source>--screenshot needs the name of a file.</source>
@@ -3490,20 +3749,39 @@ Veuillez en saisir un autre</translation>
         <translation>--%1 ne fonctionne qu&apos;avec --screenshot.</translation>
     </message>
     <message>
-        <source>Dark colours, whatever those of the desktop are.</source>
-        <translation>Couleurs sombres, quelles que soient celles du bureau.</translation>
+        <source>The language of this run, such as de or fr_FR.</source>
+        <translation>La langue de cette exécution, par exemple de ou fr_FR.</translation>
+    </message>
+    <message numerus="yes">
+        <source>Only one document can be opened, but %n were given.</source>
+        <translation>
+            <numerusform>Un seul document peut être ouvert, mais %n a été indiqué.</numerusform>
+            <numerusform>Un seul document peut être ouvert, mais %n ont été indiqués.</numerusform>
+        </translation>
     </message>
     <message>
-        <source>Let the picture show the dialog of a menu entry: preferences, page-setup, save-custom-part, licence or about.</source>
-        <translation>L’image montre le dialogue d’une entrée de menu : preferences, page-setup, save-custom-part, licence ou about.</translation>
+        <source>Tell what is wrong with a form, and quit. The exit code is 0 when nothing is, 1 for errors, 2 when the form cannot be read.</source>
+        <translation>Dire ce qui ne va pas dans un formulaire, et quitter. Le code de sortie est 0 si tout va bien, 1 en cas d&apos;erreurs, 2 si le formulaire ne peut pas être lu.</translation>
     </message>
     <message>
-        <source>Run the flowcharts for so many seconds before the picture.</source>
-        <translation>Exécuter les organigrammes pendant ce nombre de secondes avant l’image.</translation>
+        <source>Check the form for this class. May be given several times. Without it, the form is checked for the classes that name it.</source>
+        <translation>Vérifier le formulaire pour cette classe. Peut être donné plusieurs fois. Sans cela, le formulaire est vérifié pour les classes qui le nomment.</translation>
     </message>
     <message>
-        <source>--run takes seconds up to %1, not &quot;%2&quot;.</source>
-        <translation>--run attend des secondes jusqu’à %1, pas « %2 ».</translation>
+        <source>Tell what is wrong with a package folder and its forms, and quit.</source>
+        <translation>Dire ce qui ne va pas dans un dossier de paquet et ses formulaires, et quitter.</translation>
+    </message>
+    <message>
+        <source>--%1 needs the name of a file or folder.</source>
+        <translation>--%1 a besoin du nom d&apos;un fichier ou d&apos;un dossier.</translation>
+    </message>
+    <message>
+        <source>--class only works together with --check-form.</source>
+        <translation>--class ne fonctionne qu&apos;avec --check-form.</translation>
+    </message>
+    <message>
+        <source>--check-form and --check-package cannot be given together.</source>
+        <translation>--check-form et --check-package ne peuvent pas être donnés ensemble.</translation>
     </message>
 </context>
 <context>
@@ -3827,10 +4105,6 @@ Veuillez en saisir un autre</translation>
         <translation>Retirer</translation>
     </message>
     <message>
-        <source>The selected parts have different entries</source>
-        <translation>Les pièces sélectionnées ont des entrées différentes</translation>
-    </message>
-    <message>
         <source>key</source>
         <translation>clé</translation>
     </message>
@@ -3841,6 +4115,14 @@ Veuillez en saisir un autre</translation>
     <message>
         <source>This text does not stand for a value of the kind &quot;%1&quot;.</source>
         <translation>Ce texte ne représente pas une valeur de la sorte « %1 ».</translation>
+    </message>
+    <message>
+        <source>Sort by this column</source>
+        <translation>Trier selon cette colonne</translation>
+    </message>
+    <message>
+        <source>The selected parts have different entries. What is added becomes the entries of all.</source>
+        <translation>Les pièces sélectionnées ont des entrées différentes. Ce qui est ajouté devient les entrées de toutes.</translation>
     </message>
 </context>
 <context>
@@ -3906,6 +4188,39 @@ Veuillez en saisir un autre</translation>
     </message>
 </context>
 <context>
+    <name>checkForms</name>
+    <message numerus="yes">
+        <source>%n error(s)</source>
+        <translation>
+            <numerusform>%n erreur</numerusform>
+            <numerusform>%n erreurs</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n warning(s)</source>
+        <translation>
+            <numerusform>%n avertissement</numerusform>
+            <numerusform>%n avertissements</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 is no file.</source>
+        <translation>%1 n&apos;est pas un fichier.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read: %2</source>
+        <translation>%1 ne peut pas être lu : %2</translation>
+    </message>
+    <message>
+        <source>There is no class &quot;%1&quot;.</source>
+        <translation>Il n&apos;y a pas de classe « %1 ».</translation>
+    </message>
+    <message>
+        <source>%1 is no package: it has no file package.xml.</source>
+        <translation>%1 n&apos;est pas un paquet : il n&apos;a pas de fichier package.xml.</translation>
+    </message>
+</context>
+<context>
     <name>main</name>
     <message>
         <source>Messages - zkauthor</source>
@@ -3925,10 +4240,6 @@ Veuillez en saisir un autre</translation>
     <message>
         <source>The picture %1 cannot be written: %2</source>
         <translation>L&apos;image %1 ne peut pas être écrite : %2</translation>
-    </message>
-    <message>
-        <source>There is no dialog &quot;%1&quot; for what is selected.</source>
-        <translation>Il n’y a pas de dialogue « %1 » pour la sélection.</translation>
     </message>
 </context>
 </TS>

@@ -55,7 +55,6 @@ public:
     QAction* exportSvg;
     QAction* saveCustomPart;
     QAction* preferences;
-    QAction* help;
     QAction* licence;
     QAction* about;
 

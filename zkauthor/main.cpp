@@ -1,39 +1,39 @@
 // Start-up of the host: command line, message handler, crash handler, main window.
 #include "zkauthor/checkForms.h"
-#include "zkauthor/darkPalette.h"
 #include "zkauthor/mainWindow.h"
 #include "zkauthor/preferences.h"
 #include "zkauthor/screenshot.h"
+#include "zkauthor/session.h"
 #include "zkauthor/startOptions.h"
 #include "zkcore/media/imageCache.h"
 #include "zkcore/media/resource.h"
 #include "zkcore/services/crashHandler.h"
+#include "zkcore/services/languages.h"
 #include "zkeditor/debugConsole.h"
 #include "zkeditor/msgHandlers.h"
 #include "zkeditor/settingsService.h"
 
 #include <QApplication>
 #include <QIcon>
-#include <QLocale>
 #include <QMessageBox>
-#include <QPalette>
 #include <QSettings>
 #include <cstdio>
 
 namespace {
 
-/// Numbers, units and the direction of reading follow the language of the preferences. Widgets take them over when they
-/// are made, so the store is asked before the window is there that the settings service wants to know.
-void chooseLanguage()
+/// The language of the preferences. Widgets take it over when they are made, so the store is asked before the window is
+/// there that the settings service wants to know.
+QString preferredLanguage()
 {
     const QSettings settings(QSettings::IniFormat, QSettings::UserScope, SettingsService::domainKey,
                              QStringLiteral("zkauthor"));
-    const QString name = settings.value(QStringLiteral("Preferences/Language")).toString();
-    if (name.isEmpty())
-        return;
-    const QLocale locale(name);
-    QLocale::setDefault(locale);
-    QApplication::setLayoutDirection(locale.textDirection());
+    return settings.value(QStringLiteral("Preferences/Language")).toString();
+}
+
+// The console outlives the windows, and speaks the language of each.
+void nameConsole()
+{
+    DebugConsole::getDebugConsole().setWindowTitle(QApplication::translate("main", "Messages - zkauthor"));
 }
 
 void printError(const QString& text)
@@ -57,7 +57,7 @@ void installHandler(StartOptions::Log log)
         qInstallMessageHandler(LogFileMsgHandler);
         break;
     case StartOptions::Log::Console:
-        DebugConsole::getDebugConsole().setWindowTitle(QApplication::translate("main", "Messages - zkauthor"));
+        nameConsole();
         DebugConsole::getDebugConsole().resize(640, 240);
         DebugConsole::getDebugConsole().show();
         // The console alone must not keep the program running.
@@ -94,12 +94,15 @@ int main(int argc, char** argv)
 
     QApplication::setWindowIcon(QIcon(ImageCache::getPixmap(Resource("editor/app"), QSize(128, 128), 1.0)));
 
+    Languages::use(preferredLanguage());
     StartOptions options;
     QString error;
     if (!StartOptions::parse(application, options, error)) {
         printError(error);
         return 1;
     }
+    if (!options.language.isEmpty())
+        Languages::use(options.language);
     CrashHandler::install(QApplication::applicationName(), QApplication::applicationVersion());
     installHandler(options.log);
     if (!options.checkForm.isEmpty() || !options.checkPackage.isEmpty())
@@ -117,12 +120,11 @@ int main(int argc, char** argv)
         return 1;
     }
 
-    chooseLanguage();
-    if (options.dark)
-        QApplication::setPalette(darkPalette());
-    MainWindow window;
+    Session session;
+    MainWindow& window = *session.window();
     SettingsService* settings =
         SettingsService::createService(&window, QStringLiteral("zkauthor"), QSettings::UserScope);
+    QObject::connect(&session, &Session::windowReplaced, nameConsole);
     const Preferences preferences = Preferences::read();
     if (!options.logGiven)
         installHandler(preferences.logTarget());

@@ -4,7 +4,6 @@
 #include "zkauthor/actions.h"
 #include "zkauthor/documentFiles.h"
 #include "zkauthor/flowchartBar.h"
-#include "zkauthor/helpWindow.h"
 #include "zkauthor/insertMenu.h"
 #include "zkauthor/palettes.h"
 #include "zkauthor/partEditor.h"
@@ -127,8 +126,7 @@ void MainWindow::connectActions()
     onPaper(m_actions->exportPdf, [](Printing& printing) { printing.exportPdf(); });
     onPaper(m_actions->exportSvg, [](Printing& printing) { printing.exportSvg(); });
     on(m_actions->saveCustomPart, &MainWindow::saveCustomPart);
-    on(m_actions->licence, &MainWindow::showLicence);
-    on(m_actions->help, [this] { showHelp(this, QStringLiteral("help")); });
+    on(m_actions->licence, [this] { LicenceDialog(m_licence, this).exec(); });
     on(m_actions->preferences, &MainWindow::editPreferences);
 
     onView(m_actions->selectAll, [](SceneView* view) { view->selectAllParts(); });
@@ -160,9 +158,6 @@ void MainWindow::connectActions()
     connect(m_flowcharts, &FlowchartBar::runningChanged, m_tabs, &SpaceTabs::setReaderMode);
     connect(m_tabs, &SpaceTabs::partPressed, m_flowcharts, &FlowchartBar::pressPart);
     connect(m_tabs, &SpaceTabs::readerKey, m_flowcharts, &FlowchartBar::pressKey);
-    connect(m_tabs, &SpaceTabs::partRestedOn, m_flowcharts, [this](PartImpl* part) { m_flowcharts->restOn(*part); });
-    connect(m_tabs, &SpaceTabs::popupClosed, m_flowcharts,
-            [this](PopupImpl* popup) { m_flowcharts->leavePopup(*popup); });
     connect(m_palettes, &Palettes::partChosen, this, &MainWindow::addPart);
     connect(m_palettes, &Palettes::documentChosen, files, &DocumentFiles::openRecent);
     connect(m_palettes, &Palettes::shortcutClicked, this, &MainWindow::onShortcut);
@@ -208,7 +203,11 @@ void MainWindow::setDocument(DocumentImpl* document)
     m_palettes->setDocument(document);
     m_printing->setDocument(document);
     m_flowcharts->setDocument(document);
-    m_tabs->setDocument(document);
+    {
+        // The first tab comes up first, which is no reason to let go of what is selected in another one.
+        const QScopedValueRollback<bool> showing(m_showingSelection, true);
+        m_tabs->setDocument(document);
+    }
     updateTitle();
     updateUndoActions();
     updateActions();
@@ -422,6 +421,12 @@ void MainWindow::showSelection()
     m_tabs->showSpace(space);
 }
 
+void MainWindow::showTabsLike(const MainWindow& other)
+{
+    const QScopedValueRollback<bool> showing(m_showingSelection, true);
+    m_tabs->showLike(*other.m_tabs);
+}
+
 bool MainWindow::openFile(const QString& fileName, QString& error)
 {
     return m_files->openFile(fileName, error);
@@ -475,18 +480,16 @@ void MainWindow::about()
     showAboutBox(this, *m_licence);
 }
 
-void MainWindow::showLicence()
-{
-    LicenceDialog dialog(m_licence, this);
-    connect(&dialog, &LicenceDialog::helpRequested, this, [&dialog] { showHelp(&dialog, QStringLiteral("licences")); });
-    dialog.exec();
-}
-
 void MainWindow::editPreferences()
 {
     m_palettes->commitPendingEdit();
-    if (Preferences::edit(this))
-        applyPreferences();
+    const QString language = Preferences::read().language;
+    const std::optional<Preferences> chosen = Preferences::edit(this);
+    if (!chosen)
+        return;
+    applyPreferences();
+    if (chosen->language != language)
+        Q_EMIT languageChosen(chosen->language);
 }
 
 void MainWindow::applyPreferences()

@@ -48,10 +48,17 @@ public:
     /// Selects parts by their "id" texts or instance ids and shows the space in which the first of them stands. False,
     /// with the message, when one of them is unknown; nothing is selected then.
     bool selectParts(const QStringList& ids, QString& error);
+    /// Shows the same tabs as another window of the same document; what is selected stays so.
+    void showTabsLike(const MainWindow& other);
     /// To be called when the settings service was made after the window: takes over what is kept there.
     void followSettings();
     /// The file of the document; empty when it was never saved.
     QString fileName() const;
+
+Q_SIGNALS:
+    /// The user wants another language: the name of a locale, null for the system's. The window itself does not follow;
+    /// another one has to take its place.
+    void languageChosen(const QString& localeName);
 
 protected:
     void closeEvent(QCloseEvent* event) override;
@@ -62,7 +69,6 @@ private:
     void fillInsertMenu();
     void showError(const QString& text, const QString& reason);
     void about();
-    void showLicence();
     void editPreferences();
     void applyPreferences();
     void saveCustomPart();

@@ -52,8 +52,9 @@ void MoveGesture::moveTo(zk::Point offset)
         return;
     if (!m_stepOpen) {
         const int count = static_cast<int>(m_parts.size());
-        const QString text = count == 1 ? MoveTexts::tr("Move part") : MoveTexts::tr("Move %n parts", nullptr, count);
-        m_document->executeCommand(new PushUndoCommand(text));
+        m_document->executeCommand(new PushUndoCommand([count] {
+            return count == 1 ? MoveTexts::tr("Move part") : MoveTexts::tr("Move %n parts", nullptr, count);
+        }));
         m_stepOpen = true;
     }
     m_offset = offset;

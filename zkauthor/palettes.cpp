@@ -58,7 +58,7 @@ void Palettes::addEntriesTo(QMenu* menu)
     inspector->setObjectName(QStringLiteral("inspector"));
     inspector->setShortcut(QKeySequence(QStringLiteral("Shift+F12")));
     inspector->setStatusTip(tr("Show the tree of everything in the document"));
-    connect(inspector, &QAction::triggered, this, &Palettes::showInspector);
+    connect(inspector, &QAction::triggered, this, [this] { showInspector(); });
 }
 
 void Palettes::setDocument(DocumentImpl* document)
@@ -103,13 +103,20 @@ QPoint Palettes::placeBelow(ShortcutButton::Type type) const
     return QCursor::pos();
 }
 
-void Palettes::showInspector()
+QRect Palettes::inspectorGeometry() const
+{
+    return m_inspector && m_inspector->isVisible() ? m_inspector->geometry() : QRect();
+}
+
+void Palettes::showInspector(const QRect& geometry)
 {
     if (!m_inspector) {
         m_inspector = new Inspector(m_window);
         if (m_document)
             m_inspector->setRootElement(Node(m_document->getModel()));
     }
+    if (geometry.isValid())
+        m_inspector->setGeometry(geometry);
     m_inspector->show();
     m_inspector->raise();
     m_inspector->activateWindow();

@@ -5,6 +5,7 @@
 
 #include <QObject>
 #include <QPointer>
+#include <QRect>
 #include <vector>
 
 class AdvancedPalette;
@@ -45,6 +46,12 @@ public:
 
     SidePane* sidePane() const { return m_sidePane; }
     PropPalette* properties() const;
+    DebugPalette* debugPalette() const { return m_debug; }
+
+    /// Where the inspector is; not valid while it is not on view.
+    QRect inspectorGeometry() const;
+    /// Shows the inspector, where it was or where it is told to.
+    void showInspector(const QRect& geometry = {});
 
 Q_SIGNALS:
     /// The user asked for a part of this class.
@@ -58,8 +65,6 @@ Q_SIGNALS:
     void failed(const QString& reason);
 
 private:
-    void showInspector();
-
     QMainWindow* m_window;
     QPointer<DocumentImpl> m_document;
     SidePane* m_sidePane;

@@ -1,10 +1,8 @@
 #include "zkauthor/partHelp.h"
 
-#include "zkauthor/helpWindow.h"
 #include "zkcore/model/documentImpl.h"
 #include "zkcore/model/elementImpl.h"
 #include "zkcore/services/translate.h"
-#include "zkeditor/widgets/linkLabel.h"
 
 #include <QCoreApplication>
 #include <QDialog>
@@ -26,7 +24,8 @@ QString describeClass(const ElementImpl* element, const QString& label)
     if (!prototype.group.isEmpty())
         html += QStringLiteral("<p>%1</p>")
                     .arg(helpText(QT_TRANSLATE_NOOP("PartHelp", "Group: %1"))
-                             .arg(translateStringFromContext(element, prototype.group).toHtmlEscaped()));
+                             .arg(QCoreApplication::translate("PartsTree", prototype.group.toUtf8().constData())
+                                      .toHtmlEscaped()));
     html += QStringLiteral("<dl>");
     for (const PropertyDefinition& property : prototype.properties()) {
         if (property.flags & (PropertyDefinition::Invisible | PropertyDefinition::UIHidden) || property.help.isEmpty())
@@ -57,8 +56,6 @@ void showPartHelp(QWidget* parent, const DocumentImpl& document)
     text->setAccessibleName(dialog->windowTitle());
     text->setHtml(describeClass(element, label));
     layout->addWidget(text);
-    layout->addWidget(makeHelpLink(helpText(QT_TRANSLATE_NOOP("PartHelp", "How properties are changed")),
-                                   QStringLiteral("palettes#the-property-pane")));
     auto* buttons = new QDialogButtonBox(QDialogButtonBox::Close);
     QObject::connect(buttons, &QDialogButtonBox::rejected, dialog, &QDialog::reject);
     layout->addWidget(buttons);

@@ -1,11 +1,9 @@
 #include "zkauthor/preferences.h"
 
-#include "zkauthor/helpWindow.h"
 #include "zkauthor/sceneView.h"
 #include "zkcore/values/preferredUnits.h"
 #include "zkcore/values/value.h"
 #include "zkeditor/settingsService.h"
-#include "zkeditor/widgets/linkLabel.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -18,7 +16,6 @@
 #include <QMessageBox>
 #include <QSpinBox>
 #include <algorithm>
-#include <optional>
 
 namespace {
 
@@ -75,19 +72,10 @@ QString text(const SettingsService& settings, const QString& key)
     return settings.hasSetting(key) ? settings.readSetting(key, Value(QString())).toQString() : QString();
 }
 
-/// What was chosen where nothing can be written; it holds until the program ends.
-std::optional<Preferences>& unkeptPreferences()
-{
-    static std::optional<Preferences> preferences;
-    return preferences;
-}
-
 } // namespace
 
 Preferences Preferences::read()
 {
-    if (unkeptPreferences())
-        return *unkeptPreferences();
     Preferences preferences;
     if (!SettingsService::exists())
         return preferences;
@@ -112,12 +100,7 @@ bool Preferences::write() const
     written = settings.writeSetting(lengthUnitKey, Value(lengthUnit)) && written;
     written = settings.writeSetting(undoLimitKey, Value(undoLimit)) && written;
     written = settings.writeSetting(wheelKey, Value(wheelZooms)) && written;
-    written = settings.writeSetting(logKey, Value(log)) && written;
-    if (written)
-        unkeptPreferences().reset();
-    else
-        unkeptPreferences() = *this;
-    return written;
+    return settings.writeSetting(logKey, Value(log)) && written;
 }
 
 void Preferences::apply() const
@@ -136,7 +119,7 @@ StartOptions::Log Preferences::logTarget() const
     return target;
 }
 
-bool Preferences::edit(QWidget* parent)
+std::optional<Preferences> Preferences::edit(QWidget* parent)
 {
     Preferences preferences = read();
     QDialog dialog(parent);
@@ -146,7 +129,7 @@ bool Preferences::edit(QWidget* parent)
 
     QComboBox* language = languageBox(preferences.language);
     language->setToolTip(
-        preferencesText(QT_TRANSLATE_NOOP("Preferences", "Takes effect when the program starts again.")));
+        preferencesText(QT_TRANSLATE_NOOP("Preferences", "The language of all texts, and how numbers are written.")));
     form->addRow(preferencesText(QT_TRANSLATE_NOOP("Preferences", "&Language:")), language);
     QComboBox* lengths = choiceBox(lengthUnits, preferences.lengthUnit);
     lengths->setToolTip(
@@ -164,14 +147,12 @@ bool Preferences::edit(QWidget* parent)
     QComboBox* log = choiceBox(logTargets, preferences.log);
     log->setToolTip(preferencesText(QT_TRANSLATE_NOOP("Preferences", "Takes effect when the program starts again.")));
     form->addRow(preferencesText(QT_TRANSLATE_NOOP("Preferences", "&Messages go to:")), log);
-    form->addRow(makeHelpLink(preferencesText(QT_TRANSLATE_NOOP("Preferences", "What these settings do")),
-                              QStringLiteral("dialogs#preferences")));
     auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
     QObject::connect(buttons, &QDialogButtonBox::accepted, &dialog, &QDialog::accept);
     QObject::connect(buttons, &QDialogButtonBox::rejected, &dialog, &QDialog::reject);
     form->addRow(buttons);
     if (dialog.exec() != QDialog::Accepted)
-        return false;
+        return std::nullopt;
 
     preferences.language = language->currentData().toString();
     preferences.lengthUnit = lengths->currentData().toString();
@@ -183,5 +164,5 @@ bool Preferences::edit(QWidget* parent)
         QMessageBox::warning(parent, dialog.windowTitle(),
                              preferencesText(QT_TRANSLATE_NOOP(
                                  "Preferences", "The preferences hold until the program ends: they cannot be kept.")));
-    return true;
+    return preferences;
 }

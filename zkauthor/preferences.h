@@ -3,6 +3,7 @@
 #include "zkauthor/startOptions.h"
 
 #include <QString>
+#include <optional>
 
 class QWidget;
 
@@ -13,7 +14,7 @@ struct Preferences
     static constexpr int defaultUndoLimit = 1000;
     static constexpr int greatestUndoLimit = 100000;
 
-    /// A locale's name ("de_DE"); empty for the system's. Takes effect when the program starts.
+    /// A locale's name ("de_DE"); empty for the system's.
     QString language;
     /// The unit in which lengths are shown at first: "mm", "cm" or "in"; empty for what each property says.
     QString lengthUnit;
@@ -25,13 +26,13 @@ struct Preferences
     QString log;
 
     static Preferences read();
-    /// False when they cannot be kept; read() gives them all the same until the program ends.
+    /// False when they cannot be kept.
     bool write() const;
     /// Makes numbers, units and the wheel follow; what the document and the start of the program take from here is up
     /// to them.
     void apply() const;
     StartOptions::Log logTarget() const;
 
-    /// Shows the dialog; true when the user accepted. The preferences are written and applied then.
-    static bool edit(QWidget* parent);
+    /// Shows the dialog. What the user accepted, which is written and applied by then; nothing when not.
+    static std::optional<Preferences> edit(QWidget* parent);
 };

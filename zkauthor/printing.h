@@ -22,6 +22,10 @@ public:
 
     void setDocument(DocumentImpl* document) { m_document = document; }
 
+    /// Paper, margins and scale.
+    const Printer& printer() const { return m_printer; }
+    void setPrinter(const Printer& printer) { m_printer = printer; }
+
     void pageSetup();
     void preview();
     void print();

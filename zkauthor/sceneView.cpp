@@ -10,7 +10,6 @@
 #include <QApplication>
 #include <QContextMenuEvent>
 #include <QDragEnterEvent>
-#include <QHelpEvent>
 #include <QKeyEvent>
 #include <QMimeData>
 #include <QMouseEvent>
@@ -125,6 +124,13 @@ zk::Point SceneView::visibleCentre() const
     return toMetres(mapToScene(viewport()->rect().center()));
 }
 
+void SceneView::showLike(const SceneView& other)
+{
+    setZoom(other.zoom());
+    centerOn(other.mapToScene(other.viewport()->rect().center()));
+    m_followFit = other.m_followFit;
+}
+
 void SceneView::resizeEvent(QResizeEvent* event)
 {
     QGraphicsView::resizeEvent(event);
@@ -165,17 +171,6 @@ bool SceneView::event(QEvent* event)
         return true;
     }
     return QGraphicsView::event(event);
-}
-
-bool SceneView::viewportEvent(QEvent* event)
-{
-    if (event->type() != QEvent::ToolTip || !m_readerMode || !m_scene->space())
-        return QGraphicsView::viewportEvent(event);
-    const QPoint place = static_cast<const QHelpEvent*>(event)->pos();
-    auto* part = qobject_cast<PartImpl*>(m_scene->partAt(mapToScene(place), clickTolerance / transform().m11()));
-    if (part && m_readerPart.instanceId() == 0)
-        Q_EMIT partRestedOn(part);
-    return true;
 }
 
 void SceneView::press(ElementImpl* part, Qt::KeyboardModifiers modifiers)
@@ -300,7 +295,6 @@ void SceneView::setReaderMode(bool reader)
     endGesture(true);
     m_readerMode = reader;
     m_readerPart = {};
-    m_scene->setReaderMode(reader);
 }
 
 bool SceneView::isReaderKey(const QKeyEvent* event) const
@@ -414,24 +408,13 @@ void SceneView::keyPressEvent(QKeyEvent* event)
     if (!m_document)
         return;
     if (event->key() == Qt::Key_Escape) {
-        if (m_document->getSelection().empty())
-            Q_EMIT leaveRequested();
-        else
-            m_document->setSelection({});
+        m_document->setSelection({});
         return;
     }
     if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
         const std::vector<ElementImpl*> selected = selectedParts(*m_document, m_scene->space());
-        if (selected.size() != 1)
-            return;
-        const Part chosen(qobject_cast<PartImpl*>(selected.front()));
-        if (!m_readerMode) {
+        if (selected.size() == 1)
             Q_EMIT partActivated(selected.front());
-        } else if (chosen.valid() && !event->isAutoRepeat()) {
-            Q_EMIT partPressed(chosen.impl(), true);
-            if (PartImpl* part = chosen.impl())
-                Q_EMIT partPressed(part, false);
-        }
         return;
     }
     QGraphicsView::keyPressEvent(event);

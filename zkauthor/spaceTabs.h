@@ -32,6 +32,8 @@ public:
     void setReaderMode(bool reader);
     /// Shows the space's tab, which a pop-up gets if it has none yet. Only a look at the document, no change of it.
     void showSpace(SpaceImpl* space);
+    /// Shows the same tabs as others of the same document, each at the same place and as large.
+    void showLike(const SpaceTabs& other);
 
 Q_SIGNALS:
     /// Another space is shown, or none.
@@ -43,9 +45,6 @@ Q_SIGNALS:
     void menuRequested(const QPoint& globalPlace);
     void partPressed(PartImpl* part, bool down);
     void readerKey(QChar key, bool down);
-    void partRestedOn(PartImpl* part);
-    /// The user has closed a pop-up.
-    void popupClosed(PopupImpl* popup);
 
 private:
     void rebuild();

@@ -70,17 +70,7 @@ bool StartOptions::parse(const QCoreApplication& application, StartOptions& opti
     const QCommandLineOption formsOption(
         QStringLiteral("forms"),
         StartTexts::tr("Let the picture show the forms of what is selected from top to bottom, alone."));
-    const QCommandLineOption darkOption(QStringLiteral("dark"),
-                                        StartTexts::tr("Dark colours, whatever those of the desktop are."));
-    const QCommandLineOption dialogOption(
-        QStringLiteral("dialog"),
-        StartTexts::tr("Let the picture show the dialog of a menu entry: preferences, "
-                       "page-setup, save-custom-part, licence or about."),
-        QStringLiteral("entry"));
-    const QCommandLineOption runOption(QStringLiteral("run"),
-                                       StartTexts::tr("Run the flowcharts for so many seconds before the picture."),
-                                       QStringLiteral("seconds"));
-    parser.addOptions({dialogOption, runOption});
+    const QCommandLineOption darkOption(QStringLiteral("dark"), StartTexts::tr("Take the picture in dark colours."));
     parser.addOption(formsOption);
     parser.addOption(darkOption);
     const QCommandLineOption checkFormOption(
@@ -99,6 +89,10 @@ bool StartOptions::parse(const QCoreApplication& application, StartOptions& opti
     parser.addOption(checkFormOption);
     parser.addOption(classOption);
     parser.addOption(checkPackageOption);
+    const QCommandLineOption languageOption(QStringLiteral("language"),
+                                            StartTexts::tr("The language of this run, such as de or fr_FR."),
+                                            QStringLiteral("locale"));
+    parser.addOption(languageOption);
     parser.addPositionalArgument(QStringLiteral("document"), StartTexts::tr("The document to open."),
                                  QStringLiteral("[document]"));
     parser.process(application);
@@ -112,8 +106,8 @@ bool StartOptions::parse(const QCoreApplication& application, StartOptions& opti
         }
     }
     if (parser.positionalArguments().size() > 1) {
-        error = StartTexts::tr("Only one document can be opened, but %1 were given.")
-                    .arg(parser.positionalArguments().size());
+        error = StartTexts::tr("Only one document can be opened, but %n were given.", nullptr,
+                               static_cast<int>(parser.positionalArguments().size()));
         return false;
     }
     if (!parser.positionalArguments().isEmpty())
@@ -140,21 +134,11 @@ bool StartOptions::parse(const QCoreApplication& application, StartOptions& opti
         return false;
     }
     options.screenshot = parser.value(screenshotOption);
+    options.language = parser.value(languageOption);
     options.select = parser.values(selectOption);
     options.forms = parser.isSet(formsOption);
     options.dark = parser.isSet(darkOption);
-    options.dialog = parser.value(dialogOption);
-    if (parser.isSet(runOption)) {
-        bool number = false;
-        options.runTime = parser.value(runOption).toDouble(&number);
-        if (!number || options.runTime <= 0.0 || options.runTime > StartOptions::longestRun) {
-            error = StartTexts::tr("--run takes seconds up to %1, not \"%2\".")
-                        .arg(StartOptions::longestRun)
-                        .arg(parser.value(runOption));
-            return false;
-        }
-    }
-    for (const QCommandLineOption& option : {selectOption, formsOption, dialogOption, runOption}) {
+    for (const QCommandLineOption& option : {selectOption, formsOption, darkOption}) {
         if (parser.isSet(option) && options.screenshot.isEmpty()) {
             error = StartTexts::tr("--%1 only works together with --screenshot.").arg(option.names().constFirst());
             return false;

@@ -12,7 +12,6 @@ class NodeImpl;
 class ObserverLineEdit;
 class PaletteBox;
 class QLabel;
-class QVBoxLayout;
 class SpaceImpl;
 class ValueChooser;
 
@@ -47,8 +46,6 @@ private:
     QWidget* makeClickSection();
     QWidget* makeDuplicationSection();
     QWidget* makePopupSection(const std::set<SpaceImpl*>& popups);
-    /// When and how often explanations open; nothing for pop-ups of other parts.
-    void addExplanationBoxes(QVBoxLayout* layout, const std::set<SpaceImpl*>& popups);
     void refresh();
     void showClickFields();
     void showScenes();

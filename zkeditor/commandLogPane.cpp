@@ -108,6 +108,18 @@ void CommandLogPane::setRecording(bool recording)
     updateButtons();
 }
 
+void CommandLogPane::passRecordingTo(CommandLogPane& other)
+{
+    if (!m_log && m_recorded.isEmpty())
+        return;
+    other.m_log = std::move(m_log);
+    other.m_recorded = std::exchange(m_recorded, {});
+    for (CommandLogPane* pane : {this, &other}) {
+        pane->m_record->setChecked(pane->m_log != nullptr);
+        pane->updateButtons();
+    }
+}
+
 QByteArray CommandLogPane::recording() const
 {
     return m_log ? m_log->toXML() : m_recorded;

@@ -31,6 +31,8 @@ public:
 
     /// Begins or ends a recording of the document's session; a new one replaces the last.
     void setRecording(bool recording);
+    /// Another pane for the same document goes on with the recording, or keeps the one that has ended.
+    void passRecordingTo(CommandLogPane& other);
     /// What was recorded; empty when nothing was.
     QByteArray recording() const;
 

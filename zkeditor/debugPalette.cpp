@@ -30,6 +30,11 @@ void DebugPalette::init()
     setupTopLevelWidgets();
 }
 
+void DebugPalette::passRecordingTo(DebugPalette& other)
+{
+    m_commands->passRecordingTo(*other.m_commands);
+}
+
 void DebugPalette::resetCaption()
 {
     setWindowTitle(tr("Debugging"));

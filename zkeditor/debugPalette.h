@@ -25,6 +25,9 @@ public:
     void setDocument(DocumentImpl* document) override;
     void resetCaption() override;
 
+    /// Another palette for the same document goes on with the session that is being recorded here.
+    void passRecordingTo(DebugPalette& other);
+
 public Q_SLOTS:
     /// Shows the first of the selected elements; nothing is done while the palette is hidden.
     void selectionChanged();

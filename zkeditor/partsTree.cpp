@@ -34,19 +34,16 @@ PartsTree::PartsTree(DocumentImpl* document, QWidget* parent)
     : QWidget(parent), m_document(document), m_model(new PartsModel(document, this)),
       m_filtered(new PartsFilter(m_model, this)), m_field(new QLineEdit), m_view(new HintTreeView)
 {
-    m_field->setPlaceholderText(tr("Search parts"));
-    m_field->setAccessibleName(m_field->placeholderText());
     m_field->setClearButtonEnabled(true);
     m_field->installEventFilter(this);
     connect(m_field, &QLineEdit::textChanged, this, &PartsTree::onFilterChanged);
 
     m_view->setModel(m_filtered);
-    m_view->setAccessibleName(tr("Parts"));
     m_view->setIconSize(QSize(partIconSize, partIconSize));
     m_view->setItemDelegate(new PartsRowDelegate(m_view));
     m_view->setDragEnabled(true);
     m_view->setDragDropMode(QAbstractItemView::DragOnly);
-    m_view->setHint(tr("There are no parts."));
+    sayTexts();
     m_view->expandAll();
     connect(m_view, &HintTreeView::rowChosen, this, &PartsTree::onRowChosen);
     connect(m_view, &HintTreeView::leftUpwards, m_field, [this] { m_field->setFocus(Qt::BacktabFocusReason); });
@@ -67,6 +64,14 @@ PartsTree::PartsTree(DocumentImpl* document, QWidget* parent)
 }
 
 PartsTree::~PartsTree() = default;
+
+void PartsTree::sayTexts()
+{
+    m_field->setPlaceholderText(tr("Search parts"));
+    m_field->setAccessibleName(m_field->placeholderText());
+    m_view->setAccessibleName(tr("Parts"));
+    m_view->setHint(tr("There are no parts."));
+}
 
 void PartsTree::setFilter(const QString& text)
 {
@@ -163,6 +168,7 @@ bool PartsTree::eventFilter(QObject* watched, QEvent* event)
 void PartsTree::changeEvent(QEvent* event)
 {
     if (event->type() == QEvent::LanguageChange) {
+        sayTexts();
         m_model->reload();
         onFilterChanged(m_field->text());
     }

@@ -38,6 +38,8 @@ protected:
     void changeEvent(QEvent* event) override;
 
 private:
+    /// What does not come from the packages.
+    void sayTexts();
     void onFilterChanged(const QString& text);
     void onRowChosen(const QModelIndex& index);
     void startDrag();

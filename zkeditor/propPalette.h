@@ -41,6 +41,9 @@ public:
     /// Shows the pane for these elements of the document, which are or are about to be selected.
     void showPartProperties(const std::set<ElementImpl*>& elements);
 
+    /// Whether the scene on view is shown, as showSpaceProperties() does.
+    bool showsSpaceProperties() const { return m_showsScene; }
+
     /// What is selected meanwhile is not followed.
     void reparent(QWidget* parent, Qt::WindowFlags windowFlags, const QPoint& position, bool showIt) override;
 

@@ -66,9 +66,9 @@ PropertyTable::PropertyTable(QWidget* parent)
     header->setStretchLastSection(true);
     const int letter = m_view->fontMetrics().averageCharWidth();
     const int letters[] = {22, 18, 9, 22, 7, 20, 20};
-    for (int column = 0; column < PropertyTableModel::ColumnCount; ++column)
-        m_view->setColumnWidth(column, letters[column] * letter);
     m_view->setSortingEnabled(true);
+    for (int column = 0; column < PropertyTableModel::ColumnCount; ++column)
+        m_view->setColumnWidth(column, std::max(letters[column] * letter, header->sectionSizeHint(column)));
     m_view->sortByColumn(-1, Qt::AscendingOrder); // as the class has them, until a heading is clicked
 
     auto* copyAction = new QAction(tr("&Copy"), this);

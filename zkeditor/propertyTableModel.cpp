@@ -178,7 +178,7 @@ QVariant PropertyTableModel::data(const QModelIndex& index, int role) const
     case Qt::ToolTipRole: {
         QString tip = text(*property, index.column());
         if (index.column() == KeyColumn || index.column() == LabelColumn)
-            tip = property->definition().help.isEmpty() ? tip : property->definition().help;
+            tip = property->definition().help.isEmpty() ? tip : property->translated(property->definition().help);
         return shortened(tip, longestToolTip).toHtmlEscaped();
     }
     case Qt::DecorationRole:

@@ -128,6 +128,12 @@ SettingsService* SettingsService::createService(QMainWindow* window, const QStri
     return static_service;
 }
 
+void SettingsService::setWindow(QMainWindow* window)
+{
+    ZK_ASSERT(window);
+    m_window = window;
+}
+
 SettingsService* SettingsService::instance()
 {
     ZK_ASSERT(static_service);

@@ -27,6 +27,8 @@ public:
     /// group of its settings), and must live as long as restore() and write() are called. A second service and a null
     /// window are fatal.
     static SettingsService* createService(QMainWindow* window, const QString& productKey, QSettings::Scope scope);
+    /// Another main window takes the first one's place; it must be as that had to be.
+    void setWindow(QMainWindow* window);
     /// Fatal before createService().
     static SettingsService* instance();
     /// For widgets that also live without a service (in a form designer, say).

@@ -9,6 +9,7 @@
 #include <QPushButton>
 #include <QTreeWidget>
 #include <QVBoxLayout>
+#include <algorithm>
 
 namespace {
 
@@ -29,7 +30,7 @@ StatisticsPane::StatisticsPane(QWidget* parent) : QWidget(parent), m_table(new Q
     const int letter = fontMetrics().averageCharWidth();
     m_table->setColumnWidth(NameColumn, 27 * letter);
     for (int column = LastColumn; column < SamplesColumn; ++column)
-        m_table->setColumnWidth(column, 9 * letter);
+        m_table->setColumnWidth(column, std::max(9 * letter, m_table->header()->sectionSizeHint(column)));
     m_table->setMinimumHeight(fontMetrics().height() * 7);
     connect(m_table, &QTreeWidget::currentItemChanged, this, &StatisticsPane::onCurrentChanged);
     m_graph->setAccessibleName(tr("Curve of the selected statistic"));

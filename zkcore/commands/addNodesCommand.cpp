@@ -106,9 +106,9 @@ AddNodesCommand::AddNodesCommand(const Node& parent, std::vector<NodeSnapshot> n
 
 AddNodesCommand::~AddNodesCommand() = default;
 
-QString AddNodesCommand::getUndoDescription() const
+LiveText AddNodesCommand::liveUndoDescription() const
 {
-    return AddNodesTexts::tr("Adding of %n object(s)", nullptr, static_cast<int>(m_nodes.size()));
+    return [n = static_cast<int>(m_nodes.size())] { return AddNodesTexts::tr("Adding of %n object(s)", nullptr, n); };
 }
 
 QString AddNodesCommand::getXMLClass() const
@@ -194,9 +194,9 @@ AddPartCommand::AddPartCommand(const Space& space, ClassId cid, const zk::Point&
     m_nodes.back().values.push_back({INVALID_CID, coreKeys::position(), Value(position), {}});
 }
 
-QString AddPartCommand::getUndoDescription() const
+LiveText AddPartCommand::liveUndoDescription() const
 {
-    return AddNodesTexts::tr("Adding of a part");
+    return [] { return AddNodesTexts::tr("Adding of a part"); };
 }
 
 QString AddPartCommand::getXMLClass() const
@@ -218,9 +218,9 @@ AddSubpartCommand::AddSubpartCommand(const Node& element, ClassId cid, bool push
         m_nodes.push_back(NodeSnapshot::ofPrototype(*impl->document()->getNodeDb(), cid));
 }
 
-QString AddSubpartCommand::getUndoDescription() const
+LiveText AddSubpartCommand::liveUndoDescription() const
 {
-    return AddNodesTexts::tr("Adding of a subpart");
+    return [] { return AddNodesTexts::tr("Adding of a subpart"); };
 }
 
 QString AddSubpartCommand::getXMLClass() const
@@ -257,9 +257,9 @@ AddSceneCommand::AddSceneCommand(const Model& model) : AddNodesCommand(true)
         m_nodes.push_back(NodeSnapshot::ofPrototype(*impl->document()->getNodeDb(), getCidForString("core/scene")));
 }
 
-QString AddSceneCommand::getUndoDescription() const
+LiveText AddSceneCommand::liveUndoDescription() const
 {
-    return AddNodesTexts::tr("Adding of a scene");
+    return [] { return AddNodesTexts::tr("Adding of a scene"); };
 }
 
 QString AddSceneCommand::getXMLClass() const

@@ -18,7 +18,7 @@ public:
                     bool pushUndo = true);
     ~AddNodesCommand() override;
 
-    QString getUndoDescription() const override;
+    LiveText liveUndoDescription() const override;
     QString getXMLClass() const override;
 
 protected:
@@ -42,7 +42,7 @@ public:
     explicit AddPartCommand(bool pushUndo = true) : AddNodesCommand(pushUndo) {}
     AddPartCommand(const Space& space, ClassId cid, const zk::Point& position);
 
-    QString getUndoDescription() const override;
+    LiveText liveUndoDescription() const override;
     QString getXMLClass() const override;
 
 protected:
@@ -56,7 +56,7 @@ public:
     explicit AddSubpartCommand(bool pushUndo = true) : AddNodesCommand(pushUndo) {}
     AddSubpartCommand(const Node& element, ClassId cid, bool pushUndo = true);
 
-    QString getUndoDescription() const override;
+    LiveText liveUndoDescription() const override;
     QString getXMLClass() const override;
 
 protected:
@@ -70,7 +70,7 @@ public:
     explicit AddSceneCommand(bool pushUndo = true) : AddNodesCommand(pushUndo) {}
     explicit AddSceneCommand(const Model& model);
 
-    QString getUndoDescription() const override;
+    LiveText liveUndoDescription() const override;
     QString getXMLClass() const override;
 
 protected:

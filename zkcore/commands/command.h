@@ -1,6 +1,7 @@
 #pragma once
 
 #include "zkcore/base/export.h"
+#include "zkcore/services/translate.h"
 #include "zkcore/values/value.h"
 
 #include <QString>
@@ -40,7 +41,9 @@ public:
     bool hasRun() const { return m_ran; }
 
     /// What the undo menu item says after "Undo ": translated.
-    virtual QString getUndoDescription() const = 0;
+    QString getUndoDescription() const { return liveUndoDescription()(); }
+    /// The same for the undo history, which outlives the command and a change of the language.
+    virtual LiveText liveUndoDescription() const = 0;
     /// One line for logs: what the command did or why it failed.
     virtual QString logStatus() const;
 

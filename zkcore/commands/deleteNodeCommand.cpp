@@ -51,15 +51,16 @@ DeleteNodeCommand::DeleteNodeCommand(const std::vector<Node>& nodes, int flags) 
         m_nodes.push_back(node.instanceId());
     if (nodes.size() == 1) {
         if (const NodeImpl* impl = nodes.front().impl())
-            m_label = impl->displayName();
+            m_label = impl->liveDisplayName();
     }
 }
 
-QString DeleteNodeCommand::getUndoDescription() const
+LiveText DeleteNodeCommand::liveUndoDescription() const
 {
-    if (!m_label.isEmpty())
-        return DeleteNodeTexts::tr("Deletion of %1").arg(m_label);
-    return DeleteNodeTexts::tr("Deletion of %n object(s)", nullptr, static_cast<int>(m_nodes.size()));
+    if (m_label)
+        return [label = m_label] { return DeleteNodeTexts::tr("Deletion of %1").arg(label()); };
+    return
+        [n = static_cast<int>(m_nodes.size())] { return DeleteNodeTexts::tr("Deletion of %n object(s)", nullptr, n); };
 }
 
 QString DeleteNodeCommand::getXMLClass() const

@@ -14,7 +14,7 @@ public:
     DeleteNodeCommand(const Node& node, int flags);
     DeleteNodeCommand(const std::vector<Node>& nodes, int flags);
 
-    QString getUndoDescription() const override;
+    LiveText liveUndoDescription() const override;
     QString getXMLClass() const override;
 
 protected:
@@ -24,5 +24,5 @@ protected:
 
 private:
     std::vector<InstanceId> m_nodes;
-    QString m_label;
+    LiveText m_label;
 };

@@ -19,10 +19,15 @@ PropertyAddress addressOf(const Property& property)
     return impl ? impl->address() : PropertyAddress();
 }
 
-QString labelOf(const Property& property)
+LiveText labelOf(const Property& property)
 {
     const PropertyImpl* impl = property.impl();
-    return impl ? impl->getUserVisibleLabel() : QString();
+    return impl ? impl->liveUserVisibleLabel() : LiveText();
+}
+
+LiveText orKey(const LiveText& label, PropertyKey key)
+{
+    return label ? label : [key] { return key.toString(); };
 }
 
 } // namespace
@@ -35,9 +40,9 @@ SetProxyCommand::SetProxyCommand(const Property& property, const Property& targe
 {
 }
 
-QString SetProxyCommand::getUndoDescription() const
+LiveText SetProxyCommand::liveUndoDescription() const
 {
-    return ProxyTexts::tr("Link of %1").arg(m_label.isEmpty() ? m_property.key.toString() : m_label);
+    return [label = orKey(m_label, m_property.key)] { return ProxyTexts::tr("Link of %1").arg(label()); };
 }
 
 QString SetProxyCommand::getXMLClass() const
@@ -78,9 +83,9 @@ DetachProxyCommand::DetachProxyCommand(const Property& property, bool pushUndo)
 {
 }
 
-QString DetachProxyCommand::getUndoDescription() const
+LiveText DetachProxyCommand::liveUndoDescription() const
 {
-    return ProxyTexts::tr("Detaching of %1").arg(m_label.isEmpty() ? m_property.key.toString() : m_label);
+    return [label = orKey(m_label, m_property.key)] { return ProxyTexts::tr("Detaching of %1").arg(label()); };
 }
 
 QString DetachProxyCommand::getXMLClass() const

@@ -12,7 +12,7 @@ public:
     SetProxyCommand();
     SetProxyCommand(const Property& property, const Property& target, bool pushUndo = true);
 
-    QString getUndoDescription() const override;
+    LiveText liveUndoDescription() const override;
     QString getXMLClass() const override;
 
 protected:
@@ -23,7 +23,7 @@ protected:
 private:
     PropertyAddress m_property;
     PropertyAddress m_target;
-    QString m_label;
+    LiveText m_label;
 };
 
 /// Ends the following; the property keeps the value last seen.
@@ -32,7 +32,7 @@ class ZKCORE_EXPORT DetachProxyCommand : public Command
 public:
     explicit DetachProxyCommand(const Property& property = {}, bool pushUndo = true);
 
-    QString getUndoDescription() const override;
+    LiveText liveUndoDescription() const override;
     QString getXMLClass() const override;
 
 protected:
@@ -42,5 +42,5 @@ protected:
 
 private:
     PropertyAddress m_property;
-    QString m_label;
+    LiveText m_label;
 };

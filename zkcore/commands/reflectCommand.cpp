@@ -70,9 +70,11 @@ ReflectCommand::ReflectCommand(ReflectionKind kind, const Part& original, const 
 {
 }
 
-QString ReflectCommand::getUndoDescription() const
+LiveText ReflectCommand::liveUndoDescription() const
 {
-    return m_reflect ? ReflectTexts::tr("Reflection") : ReflectTexts::tr("Removal of a reflection");
+    return [reflect = m_reflect] {
+        return reflect ? ReflectTexts::tr("Reflection") : ReflectTexts::tr("Removal of a reflection");
+    };
 }
 
 Value ReflectCommand::run(ModelMutator& mutator)

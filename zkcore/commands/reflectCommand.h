@@ -13,7 +13,7 @@ public:
     ReflectCommand(ReflectionKind kind, const Part& original, const Node& container, bool reflect,
                    int flags = PushUndo);
 
-    QString getUndoDescription() const override;
+    LiveText liveUndoDescription() const override;
 
 protected:
     Value run(ModelMutator& mutator) override;

@@ -16,9 +16,11 @@ AddResourceCommand::AddResourceCommand(const Resource& resource, bool pushUndo)
 {
 }
 
-QString AddResourceCommand::getUndoDescription() const
+LiveText AddResourceCommand::liveUndoDescription() const
 {
-    return QCoreApplication::translate("AddResourceCommand", "Import of %1").arg(m_resource.toString());
+    return [name = m_resource.toString()] {
+        return QCoreApplication::translate("AddResourceCommand", "Import of %1").arg(name);
+    };
 }
 
 QString AddResourceCommand::getXMLClass() const
@@ -70,9 +72,9 @@ RemoveResourceCommand::RemoveResourceCommand(const Resource& resource, bool push
 {
 }
 
-QString RemoveResourceCommand::getUndoDescription() const
+LiveText RemoveResourceCommand::liveUndoDescription() const
 {
-    return QCoreApplication::translate("RemoveResourceCommand", "Removal of %1").arg(m_name);
+    return [name = m_name] { return QCoreApplication::translate("RemoveResourceCommand", "Removal of %1").arg(name); };
 }
 
 QString RemoveResourceCommand::getXMLClass() const

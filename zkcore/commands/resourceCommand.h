@@ -9,7 +9,7 @@ class ZKCORE_EXPORT AddResourceCommand : public Command
 public:
     explicit AddResourceCommand(const Resource& resource = {}, bool pushUndo = true);
 
-    QString getUndoDescription() const override;
+    LiveText liveUndoDescription() const override;
     QString getXMLClass() const override;
 
 protected:
@@ -27,7 +27,7 @@ class ZKCORE_EXPORT RemoveResourceCommand : public Command
 public:
     explicit RemoveResourceCommand(const Resource& resource = {}, bool pushUndo = true);
 
-    QString getUndoDescription() const override;
+    LiveText liveUndoDescription() const override;
     QString getXMLClass() const override;
 
 protected:

@@ -10,9 +10,9 @@ SetNodeIndexCommand::SetNodeIndexCommand(const Node& node, unsigned int index, i
 {
 }
 
-QString SetNodeIndexCommand::getUndoDescription() const
+LiveText SetNodeIndexCommand::liveUndoDescription() const
 {
-    return QCoreApplication::translate("SetNodeIndexCommand", "Change of order");
+    return [] { return QCoreApplication::translate("SetNodeIndexCommand", "Change of order"); };
 }
 
 QString SetNodeIndexCommand::getXMLClass() const

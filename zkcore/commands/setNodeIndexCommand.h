@@ -8,7 +8,7 @@ class ZKCORE_EXPORT SetNodeIndexCommand : public Command
 public:
     explicit SetNodeIndexCommand(const Node& node = {}, unsigned int index = 0, int flags = PushUndo);
 
-    QString getUndoDescription() const override;
+    LiveText liveUndoDescription() const override;
     QString getXMLClass() const override;
 
 protected:

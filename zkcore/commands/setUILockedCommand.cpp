@@ -15,11 +15,12 @@ SetUILockedCommand::SetUILockedCommand(const std::vector<Node>& nodes, LockGroup
         m_nodes.push_back(node.instanceId());
 }
 
-QString SetUILockedCommand::getUndoDescription() const
+LiveText SetUILockedCommand::liveUndoDescription() const
 {
-    const int n = static_cast<int>(m_nodes.size());
-    return m_locked ? QCoreApplication::translate("SetUILockedCommand", "Locking of %n object(s)", nullptr, n)
-                    : QCoreApplication::translate("SetUILockedCommand", "Unlocking of %n object(s)", nullptr, n);
+    return [n = static_cast<int>(m_nodes.size()), locked = m_locked] {
+        return locked ? QCoreApplication::translate("SetUILockedCommand", "Locking of %n object(s)", nullptr, n)
+                      : QCoreApplication::translate("SetUILockedCommand", "Unlocking of %n object(s)", nullptr, n);
+    };
 }
 
 QString SetUILockedCommand::getXMLClass() const

@@ -12,7 +12,7 @@ public:
     SetUILockedCommand();
     SetUILockedCommand(const std::vector<Node>& nodes, LockGroup group, bool locked);
 
-    QString getUndoDescription() const override;
+    LiveText liveUndoDescription() const override;
     QString getXMLClass() const override;
 
 protected:

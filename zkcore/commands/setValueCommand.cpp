@@ -31,8 +31,8 @@ void SetValueCommand::addProperty(const Property& property, const Value& value)
 {
     const PropertyImpl* impl = property.impl();
     m_entries.push_back({impl ? impl->address() : PropertyAddress(), value});
-    if (impl && m_label.isEmpty())
-        m_label = impl->getUserVisibleLabel();
+    if (impl && !m_label)
+        m_label = impl->liveUserVisibleLabel();
 }
 
 void SetValueCommand::addAddress(const PropertyAddress& address, const Value& value)
@@ -40,12 +40,15 @@ void SetValueCommand::addAddress(const PropertyAddress& address, const Value& va
     m_entries.push_back({address, value});
 }
 
-QString SetValueCommand::getUndoDescription() const
+LiveText SetValueCommand::liveUndoDescription() const
 {
-    const QString label = m_label.isEmpty() && !m_entries.empty() ? m_entries.front().address.key.toString() : m_label;
-    if (m_entries.size() == 1)
-        return SetValueTexts::tr("Change of %1").arg(label);
-    return SetValueTexts::tr("Change of %1 (%n objects)", nullptr, static_cast<int>(m_entries.size())).arg(label);
+    LiveText label = m_label;
+    if (!label)
+        label = [key = m_entries.empty() ? QString() : m_entries.front().address.key.toString()] { return key; };
+    return [label, n = static_cast<int>(m_entries.size())] {
+        return n == 1 ? SetValueTexts::tr("Change of %1").arg(label())
+                      : SetValueTexts::tr("Change of %1 (%n objects)", nullptr, n).arg(label());
+    };
 }
 
 QString SetValueCommand::getXMLClass() const

@@ -19,7 +19,7 @@ public:
     /// The same for a property that has no object yet.
     void addAddress(const PropertyAddress& address, const Value& value);
 
-    QString getUndoDescription() const override;
+    LiveText liveUndoDescription() const override;
     QString getXMLClass() const override;
 
 protected:
@@ -34,5 +34,5 @@ private:
         Value value;
     };
     std::vector<Entry> m_entries;
-    QString m_label;
+    LiveText m_label;
 };

@@ -12,10 +12,12 @@ ShowPopupCommmand::ShowPopupCommmand(const Part& part, bool show)
 {
 }
 
-QString ShowPopupCommmand::getUndoDescription() const
+LiveText ShowPopupCommmand::liveUndoDescription() const
 {
-    return m_show ? QCoreApplication::translate("ShowPopupCommand", "Showing of a pop-up")
-                  : QCoreApplication::translate("ShowPopupCommand", "Hiding of a pop-up");
+    return [show = m_show] {
+        return show ? QCoreApplication::translate("ShowPopupCommand", "Showing of a pop-up")
+                    : QCoreApplication::translate("ShowPopupCommand", "Hiding of a pop-up");
+    };
 }
 
 QString ShowPopupCommmand::getXMLClass() const
@@ -48,9 +50,9 @@ bool ShowPopupCommmand::readContent(QXmlStreamReader& reader)
 
 SelectAllCommand::SelectAllCommand(const Space& space) : Command(JoinUndo), m_space(space.instanceId()) {}
 
-QString SelectAllCommand::getUndoDescription() const
+LiveText SelectAllCommand::liveUndoDescription() const
 {
-    return QCoreApplication::translate("SelectAllCommand", "Selection of everything");
+    return [] { return QCoreApplication::translate("SelectAllCommand", "Selection of everything"); };
 }
 
 QString SelectAllCommand::getXMLClass() const
@@ -83,11 +85,11 @@ bool SelectAllCommand::readContent(QXmlStreamReader& reader)
     return ok;
 }
 
-PushUndoCommand::PushUndoCommand(const QString& description) : Command(JoinUndo), m_description(description) {}
+PushUndoCommand::PushUndoCommand(LiveText description) : Command(JoinUndo), m_description(std::move(description)) {}
 
-QString PushUndoCommand::getUndoDescription() const
+LiveText PushUndoCommand::liveUndoDescription() const
 {
-    return m_description;
+    return m_description ? m_description : [] { return QString(); };
 }
 
 QString PushUndoCommand::getXMLClass() const
@@ -103,12 +105,12 @@ Value PushUndoCommand::run(ModelMutator& mutator)
 
 void PushUndoCommand::writeContent(QXmlStreamWriter& writer) const
 {
-    writer.writeAttribute(QStringLiteral("description"), m_description);
+    writer.writeAttribute(QStringLiteral("description"), getUndoDescription());
 }
 
 bool PushUndoCommand::readContent(QXmlStreamReader& reader)
 {
-    m_description = reader.attributes().value(QLatin1String("description")).toString();
+    m_description = [text = reader.attributes().value(QLatin1String("description")).toString()] { return text; };
     reader.skipCurrentElement();
     return true;
 }

@@ -10,7 +10,7 @@ class ZKCORE_EXPORT ShowPopupCommmand : public Command
 public:
     explicit ShowPopupCommmand(const Part& part = {}, bool show = true);
 
-    QString getUndoDescription() const override;
+    LiveText liveUndoDescription() const override;
     QString getXMLClass() const override;
 
 protected:
@@ -29,7 +29,7 @@ class ZKCORE_EXPORT SelectAllCommand : public Command
 public:
     explicit SelectAllCommand(const Space& space = {});
 
-    QString getUndoDescription() const override;
+    LiveText liveUndoDescription() const override;
     QString getXMLClass() const override;
 
 protected:
@@ -46,10 +46,10 @@ private:
 class ZKCORE_EXPORT PushUndoCommand : public Command
 {
 public:
-    /// The description is what the step's undo text says; translated.
-    explicit PushUndoCommand(const QString& description = {});
+    /// The description is what the step's undo text says; without one, what the first change says.
+    explicit PushUndoCommand(LiveText description = {});
 
-    QString getUndoDescription() const override;
+    LiveText liveUndoDescription() const override;
     QString getXMLClass() const override;
 
 protected:
@@ -58,5 +58,5 @@ protected:
     bool readContent(QXmlStreamReader& reader) override;
 
 private:
-    QString m_description;
+    LiveText m_description;
 };

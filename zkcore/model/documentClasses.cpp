@@ -1,6 +1,7 @@
 // The side of a document that deals with node classes: labels, icons, the parts tree, custom parts.
 #include "zkcore/model/documentImpl.h"
 #include "zkcore/model/nodeSnapshot.h"
+#include "zkcore/services/translate.h"
 #include "zkcore/storage/package.h"
 
 #include <QCoreApplication>
@@ -36,10 +37,7 @@ QString DocumentImpl::getMetaLabelForCID(const ClassId& cid) const
 {
     const NodePrototype* prototype = m_nodeDb->lookupPrototype(cid);
     const PropertyDefinition* definition = prototype ? prototype->find(metaLabelKey()) : nullptr;
-    const QString label = definition ? definition->defaultValue.toQString() : QString();
-    if (label.isEmpty())
-        return label;
-    return QCoreApplication::translate(findStringForCid(cid).toUtf8().constData(), label.toUtf8().constData());
+    return definition ? translateStringForClass(*prototype, definition->defaultValue.toQString()) : QString();
 }
 
 Resource DocumentImpl::getMetaIconForCID(const ClassId& cid) const

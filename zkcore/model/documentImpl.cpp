@@ -271,8 +271,8 @@ void DocumentImpl::recordChanges(std::unique_ptr<ChangeSet> changes, const Comma
         const bool joins = !command.pushesUndo() && !opensStep;
         const bool nothingToJoin = joins && m_undoStack->index() == 0;
         m_openStepPending = false;
-        QString text = command.getUndoDescription();
-        if (opensStep && !m_openStepDescription.isEmpty())
+        LiveText text = command.liveUndoDescription();
+        if (opensStep && m_openStepDescription && !m_openStepDescription().isEmpty())
             text = m_openStepDescription;
         auto step = std::make_unique<UndoStep>(*this, text, std::move(*changes), std::move(selectionBefore),
                                                selectionIds(), joins);
@@ -342,14 +342,20 @@ bool DocumentImpl::canRedo() const
     return m_undoStack->canRedo();
 }
 
+QString DocumentImpl::textOfStep(int index) const
+{
+    const auto* step = static_cast<const UndoStep*>(m_undoStack->command(index));
+    return step ? step->description() : QString();
+}
+
 QString DocumentImpl::undoText() const
 {
-    return m_undoStack->undoText();
+    return textOfStep(m_undoStack->index() - 1);
 }
 
 QString DocumentImpl::redoText() const
 {
-    return m_undoStack->redoText();
+    return textOfStep(m_undoStack->index());
 }
 
 void DocumentImpl::setUndoLimit(int steps)

@@ -170,6 +170,8 @@ private:
 
     void recordChanges(std::unique_ptr<ChangeSet> changes, const Command& command,
                        std::shared_ptr<const std::vector<InstanceId>> selectionBefore);
+    /// Empty when there is no such step.
+    QString textOfStep(int index) const;
     void runUndoRedo(bool undo);
     void updateModified();
     bool readContent(QIODevice& device, const QString& name);
@@ -193,7 +195,7 @@ private:
     std::shared_ptr<const std::vector<InstanceId>> m_selectionToRestore;
     CommandListener m_commandListener;
     QString m_lastError;
-    QString m_openStepDescription;
+    LiveText m_openStepDescription;
     QStringList m_loadWarnings;
     QUrl m_url;
     InstanceId m_nextId = 1;

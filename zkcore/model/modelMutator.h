@@ -47,7 +47,7 @@ public:
     void addResource(std::shared_ptr<const ResourceEntry> entry);
     void removeResource(const QString& name);
     /// Changes that follow with the undo flag off make a step of their own under this description.
-    void openStep(const QString& description);
+    void openStep(const LiveText& description);
 
     /// The first of `count` instance ids that are not used.
     InstanceId takeIds(size_t count);
@@ -91,8 +91,6 @@ private:
     void link(PropertyImpl& property, PropertyImpl& target);
     void unlink(PropertyImpl& property);
     void noteValue(const PropertyAddress& address, Value before, Value after);
-    /// An orientation that may be, or may no more be, edited.
-    void tellOrientationEditability(const NodeImpl& owner);
     void dropFromSelection(NodeImpl* node);
 
     DocumentImpl& m_document;

@@ -122,6 +122,16 @@ QString NodeImpl::displayName() const
     return label.isEmpty() ? findStringForCid(classId()) : label;
 }
 
+LiveText NodeImpl::liveDisplayName() const
+{
+    for (const PropertyKey key : {coreKeys::title(), coreKeys::id()}) {
+        if (const QString text = valueOfProperty(key).toQString(); !text.isEmpty())
+            return [text] { return text; };
+    }
+    const QString& label = prototype().label;
+    return liveStringFromContext(*this, label.isEmpty() ? findStringForCid(classId()) : label);
+}
+
 QString NodeImpl::unknownContent() const
 {
     return m_unknown ? *m_unknown : QString();

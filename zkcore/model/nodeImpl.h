@@ -5,6 +5,7 @@
 #include "zkcore/model/node.h"
 #include "zkcore/model/nodePrototype.h"
 #include "zkcore/model/property.h"
+#include "zkcore/services/translate.h"
 
 #include <QObject>
 #include <memory>
@@ -65,6 +66,8 @@ public:
 
     /// The value of "title", else of "id", else the class's label: what people call this node.
     QString displayName() const;
+    /// The same whenever it is asked, also when the node is gone; a name as it is now.
+    LiveText liveDisplayName() const;
 
     /// What stands in the file for this node and no class here understands: XML, written back untouched.
     QString unknownContent() const;

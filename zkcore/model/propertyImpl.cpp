@@ -1,6 +1,5 @@
 #include "zkcore/model/propertyImpl.h"
 
-#include "zkcore/model/coreKeys.h"
 #include "zkcore/model/documentImpl.h"
 #include "zkcore/model/elementImpl.h"
 #include "zkcore/model/nodeImpl.h"
@@ -23,14 +22,6 @@ unsigned long long nextPropertySerial = 0;
 bool isElementKind(NodeKind kind)
 {
     return kind == NodeKind::Part || kind == NodeKind::Subpart;
-}
-
-/// What the element's kind settles for good: typing is refused as pulling and turning are.
-bool isSettledByKind(const ElementImpl& element, PropertyKey key)
-{
-    if (key == coreKeys::size())
-        return !element.isResizeable();
-    return key == coreKeys::orientation() && element.getOrientationConstraint() == QLatin1String("fixed");
 }
 
 } // namespace
@@ -130,10 +121,20 @@ Formatter* PropertyImpl::getFormatter() const
 
 QString PropertyImpl::getUserVisibleLabel() const
 {
+    return liveUserVisibleLabel()();
+}
+
+LiveText PropertyImpl::liveUserVisibleLabel() const
+{
     if (!m_label.isNull())
-        return m_label;
-    const QString label = m_definition->label.isEmpty() ? key().toString() : m_definition->label;
-    return translateStringFromContext(m_owner, label);
+        return [label = m_label] { return label; };
+    return liveStringFromContext(*m_owner, m_definition->label.isEmpty() ? key().toString() : m_definition->label,
+                                 m_domain);
+}
+
+QString PropertyImpl::translated(const QString& text) const
+{
+    return liveStringFromContext(*m_owner, text, m_domain)();
 }
 
 void PropertyImpl::setUserVisibleLabel(const QString& label)
@@ -156,11 +157,9 @@ bool PropertyImpl::userCanEdit() const
 {
     if (m_readOnly || isComputed())
         return false;
-    if (isElementKind(m_owner->kind())) {
-        const auto& element = static_cast<const ElementImpl&>(*m_owner);
-        if (element.isEffectivelyLocked(m_definition->lockGroup) || isSettledByKind(element, key()))
-            return false;
-    }
+    if (isElementKind(m_owner->kind()) &&
+        static_cast<const ElementImpl*>(m_owner)->isEffectivelyLocked(m_definition->lockGroup))
+        return false;
     if (!m_proxy)
         return true;
     return isMutableProxy() && m_proxy->userCanEdit();

@@ -6,6 +6,7 @@
 #include "zkcore/model/propertyAddress.h"
 #include "zkcore/model/propertyDefinition.h"
 #include "zkcore/model/propertyFilter.h"
+#include "zkcore/services/translate.h"
 
 #include <QObject>
 #include <QSet>
@@ -47,14 +48,15 @@ public:
     Formatter* getFormatter() const;
     /// The translated label.
     QString getUserVisibleLabel() const;
+    LiveText liveUserVisibleLabel() const;
+    /// The translation of another text that the package gave to the property: its help, a value to choose.
+    QString translated(const QString& text) const;
     /// Gives this property another label than its class's; emits userVisibleLabelChanged(). A null text restores it.
     void setUserVisibleLabel(const QString& label);
     /// "electronics/led[12].colour": for messages.
     QString debugName() const;
 
-    /// Whether the user may edit it now: not read-only, computed, locked, or a proxy that cannot be written through;
-    /// nor the size of an element that is not resizeable, or the orientation of one whose "orientation-constraint" is
-    /// "fixed".
+    /// Whether the user may edit it now: not read-only, computed, locked, or a proxy that cannot be written through.
     bool userCanEdit() const;
     bool isUIHidden() const;
     /// Hides widgets bound to this property; emits userVisibilityChanged().

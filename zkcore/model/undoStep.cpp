@@ -2,9 +2,10 @@
 
 #include "zkcore/model/modelMutator.h"
 
-UndoStep::UndoStep(DocumentImpl& document, const QString& text, ChangeSet&& changes, Selection before, Selection after,
+UndoStep::UndoStep(DocumentImpl& document, LiveText text, ChangeSet&& changes, Selection before, Selection after,
                    bool joins)
-    : QUndoCommand(text), m_document(document), m_before(std::move(before)), m_after(std::move(after)), m_joins(joins)
+    : m_document(document), m_text(std::move(text)), m_before(std::move(before)), m_after(std::move(after)),
+      m_joins(joins)
 {
     m_changes.append(std::move(changes));
 }

@@ -2,6 +2,7 @@
 
 #include "zkcore/base/instanceId.h"
 #include "zkcore/model/changeSet.h"
+#include "zkcore/services/translate.h"
 
 #include <QUndoCommand>
 #include <memory>
@@ -15,9 +16,10 @@ class UndoStep : public QUndoCommand
 public:
     using Selection = std::shared_ptr<const std::vector<InstanceId>>;
 
-    UndoStep(DocumentImpl& document, const QString& text, ChangeSet&& changes, Selection before, Selection after,
-             bool joins);
+    UndoStep(DocumentImpl& document, LiveText text, ChangeSet&& changes, Selection before, Selection after, bool joins);
 
+    /// What the step did, in the language of now.
+    QString description() const { return m_text(); }
     void undo() override;
     /// Does nothing when the step enters the history: its changes are done already.
     void redo() override;
@@ -29,6 +31,7 @@ public:
 
 private:
     DocumentImpl& m_document;
+    LiveText m_text;
     ChangeSet m_changes;
     Selection m_before;
     Selection m_after;

@@ -2,6 +2,8 @@
 
 #include "zkcore/values/value.h"
 
+#include <QLocale>
+#include <QStringList>
 #include <algorithm>
 #include <array>
 #include <charconv>
@@ -35,6 +37,28 @@ template <typename T> std::optional<T> fromCharacters(QStringView text)
     if (error != std::errc() || rest != end)
         return std::nullopt;
     return number;
+}
+
+/// Without the locale's group separators, if they stand between groups of three digits and can be nothing else: a '.'
+/// alone is a decimal point in every locale.
+QString withoutGroups(QStringView typed, QChar point)
+{
+    const QString separator = QLocale().groupSeparator();
+    QString text = typed.trimmed().toString();
+    if (separator.size() != 1 || separator.front() == point || !text.contains(separator))
+        return text;
+    const qsizetype end = text.contains(point) ? text.indexOf(point) : text.size();
+    const QStringList groups = text.first(end).split(separator);
+    const auto isDigits = [](const QString& group) {
+        return std::all_of(group.begin(), group.end(), [](QChar c) { return c >= u'0' && c <= u'9'; });
+    };
+    const QString& first = groups.first();
+    const QString leading = first.startsWith(u'-') || first.startsWith(u'+') ? first.sliced(1) : first;
+    const bool isGrouped = !leading.isEmpty() && leading.size() <= 3 && isDigits(leading) &&
+                           std::all_of(groups.begin() + 1, groups.end(),
+                                       [&](const QString& group) { return group.size() == 3 && isDigits(group); });
+    const bool isClear = separator.front() != u'.' || groups.size() > 2 || end < text.size();
+    return isGrouped && isClear ? groups.join(QString()) + text.sliced(end) : text;
 }
 
 } // namespace
@@ -98,11 +122,12 @@ QString fixed(double value, int decimals)
 std::optional<double> parseTyped(QStringView text)
 {
     const QChar point = decimalPointCharacter();
-    if (point == u'.' || !text.contains(point))
-        return parseDouble(text);
-    if (text.contains(u'.'))
+    QString number = withoutGroups(text, point);
+    if (point == u'.' || !number.contains(point))
+        return parseDouble(number);
+    if (number.contains(u'.'))
         return std::nullopt;
-    return parseDouble(text.toString().replace(point, u'.'));
+    return parseDouble(number.replace(point, u'.'));
 }
 
 } // namespace numberText

@@ -24,7 +24,8 @@ int roundToInt(double value);
 /// locale, no group separators; never a negative zero.
 QString fixed(double value, int decimals);
 
-/// Reads a number that a user typed: the decimal point may be the locale's or '.', there are no group separators.
+/// Reads a number that a user typed: the decimal point may be the locale's or '.'. The locale's group separators may
+/// stand where they cannot be taken for a decimal point: "1.234,5" in German, but "1.234" is a little more than one.
 std::optional<double> parseTyped(QStringView text);
 
 } // namespace numberText

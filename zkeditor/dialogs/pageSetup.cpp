@@ -160,7 +160,9 @@ void PageSetupDialog::fillChoices()
 
 const PageSetupDialog::PageSizeMap& PageSetupDialog::getPageSizeMap() const
 {
-    static const PageSizeMap sizes = {
+    if (!m_pageSizes.isEmpty())
+        return m_pageSizes;
+    m_pageSizes = {
         {tr("A0 (841 x 1189 mm)"), QPageSize::A0},
         {tr("A1 (594 x 841 mm)"), QPageSize::A1},
         {tr("A2 (420 x 594 mm)"), QPageSize::A2},
@@ -192,7 +194,7 @@ const PageSetupDialog::PageSizeMap& PageSetupDialog::getPageSizeMap() const
         {tr("Tabloid (279 x 432 mm)"), QPageSize::Tabloid},
         {tr("Envelope #10 (105 x 241 mm)"), QPageSize::Comm10E},
     };
-    return sizes;
+    return m_pageSizes;
 }
 
 bool PageSetupDialog::eventFilter(QObject* object, QEvent* event)

@@ -60,6 +60,7 @@ private:
     QCheckBox* m_scaleToWidth;
     QSpinBox* m_scaleFactor;
     QLabel* m_preview;
+    mutable PageSizeMap m_pageSizes; // in the language in which it was first asked for
     bool m_busy = false;
 
     // Painting the page of a large document takes longer than a step of a spin box. While a margin is being spun, the

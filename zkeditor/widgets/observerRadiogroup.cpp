@@ -3,7 +3,6 @@
 #include "zkcore/base/assert.h"
 #include "zkcore/model/nodeImpl.h"
 #include "zkcore/model/propertyImpl.h"
-#include "zkcore/services/translate.h"
 #include "zkcore/values/formatter.h"
 #include "zkcore/values/validator.h"
 #include "zkeditor/widgets/groupRadioButton.h"
@@ -128,9 +127,7 @@ Value ObserverRadioGroup::valueNamed(const QString& name) const
         if (const Value value = find([](const Value& v) { return v.toQString(); }); value.isValid())
             return value;
         if (m_valueType == Value::STRING) {
-            const auto translated = [&](const Value& v) {
-                return translateStringFromContext(property->owner(), v.toQString());
-            };
+            const auto translated = [&](const Value& v) { return property->translated(v.toQString()); };
             if (const Value value = find(translated); value.isValid())
                 return value;
         }

@@ -30,7 +30,6 @@ Q_SIGNALS:
 
 private:
     QToolButton* addButton(const char* picture);
-    void onMinusClicked();
 
     QToolButton* m_plus;
     QToolButton* m_minus;

@@ -1,10 +1,10 @@
 #include "zkeditor/widgets/propertyChoiceModel.h"
 
 #include "zkcore/model/propertyImpl.h"
+#include "zkcore/services/translate.h"
 #include "zkeditor/widgets/valueMapModel.h"
 
 #include <QApplication>
-#include <QCoreApplication>
 #include <QPalette>
 
 namespace {
@@ -70,10 +70,8 @@ private:
 
     static QString labelOf(const NodePrototype& prototype, const PropertyDefinition& definition)
     {
-        if (definition.label.isEmpty())
-            return definition.key.toString();
-        const QByteArray context = findStringForCid(prototype.cid).toUtf8();
-        return QCoreApplication::translate(context.constData(), definition.label.toUtf8().constData());
+        return definition.label.isEmpty() ? definition.key.toString()
+                                          : translateStringForClass(prototype, definition.label);
     }
 
     const PropertyImpl* m_follower;

@@ -2,7 +2,6 @@
 
 #include "zkcore/model/nodeImpl.h"
 #include "zkcore/model/propertyImpl.h"
-#include "zkcore/services/translate.h"
 #include "zkeditor/widgets/labelMirror.h"
 #include "zkeditor/widgets/poReceiver.h"
 
@@ -42,8 +41,7 @@ void PropertyLabel::showLabel()
 
     if (toolTip() != m_help)
         return;
-    const QString& help = property->definition().help;
-    m_help = help.isEmpty() ? QString() : translateStringFromContext(property->owner(), help);
+    m_help = property->translated(property->definition().help);
     setToolTip(m_help);
 }
 

@@ -21,6 +21,7 @@
 #include <QTimer>
 #include <QTreeView>
 #include <QVBoxLayout>
+#include <algorithm>
 #include <utility>
 
 PropertyListBox::PropertyListBox(QWidget* parent, const QString& name)
@@ -59,7 +60,8 @@ PropertyListBox::PropertyListBox(QWidget* parent, const QString& name)
                                            {PropertyChoiceModel::LabelColumn, 10},
                                            {PropertyChoiceModel::ValueColumn, 6},
                                            {PropertyChoiceModel::LinkColumn, 11}})
-        view()->header()->resizeSection(section, letters * letter);
+        view()->header()->resizeSection(section,
+                                        std::max(letters * letter, view()->header()->sectionSizeHint(section)));
     setTabOrder(m_search, m_parts);
     setTabOrder(m_parts, view());
     setFocusProxy(m_search);

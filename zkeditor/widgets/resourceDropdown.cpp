@@ -7,7 +7,6 @@
 #include "zkeditor/widgets/resourceModel.h"
 #include "zkeditor/widgets/validatorSet.h"
 
-#include <QCoreApplication>
 #include <QKeyEvent>
 #include <QListView>
 
@@ -77,10 +76,9 @@ void ResourceDropdown::buildContent()
         m_model->setResources({});
         return;
     }
-    const QByteArray context = findStringForCid(m_props.front()->owner()->classId()).toUtf8();
     std::vector<QString> labels = validator->labels();
     for (QString& label : labels)
-        label = label.isEmpty() ? label : QCoreApplication::translate(context.constData(), label.toUtf8().constData());
+        label = m_props.front()->translated(label);
     m_model->setResources(validator->resources(), labels);
 }
 

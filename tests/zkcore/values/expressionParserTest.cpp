@@ -99,6 +99,17 @@ TEST(ExpressionParserTest, TextsThatAreNoExpressions)
         EXPECT_FALSE(reasonFor(QString::fromUtf8(text), "mm").isNull()) << text;
 }
 
+TEST_F(ExpressionInGerman, GroupsOfThreeDigitsAreUnderstoodWhereTheyAreClear)
+{
+    EXPECT_EQ(valueOf("1.234,5"), 1234.5);
+    EXPECT_EQ(valueOf("-12.345.678"), -12345678.0);
+    EXPECT_EQ(valueOf("1.234"), 1.234);
+    EXPECT_FALSE(reasonFor(QStringLiteral("12.34,5")).isNull());
+    QLocale::setDefault(QLocale(QStringLiteral("en_GB")));
+    EXPECT_EQ(valueOf("1,234.5"), 1234.5);
+    EXPECT_EQ(valueOf("max(1,234)"), 234.0);
+}
+
 TEST_F(ExpressionInGerman, BothDecimalPointsAreUnderstood)
 {
     EXPECT_EQ(valueOf("1,5"), 1.5);
@@ -108,7 +119,7 @@ TEST_F(ExpressionInGerman, BothDecimalPointsAreUnderstood)
     EXPECT_EQ(valueOf("max(1, 2)"), 2.0);
     EXPECT_DOUBLE_EQ(valueOf("2,5 cm", "mm"), 25.0);
     EXPECT_FALSE(reasonFor(QStringLiteral("1,2,3")).isNull());
-    EXPECT_FALSE(reasonFor(QStringLiteral("1.000,5")).isNull());
+    EXPECT_FALSE(reasonFor(QStringLiteral("1.00,5")).isNull());
 }
 
 /// A random expression as text together with its value.
