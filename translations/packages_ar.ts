@@ -2593,6 +2593,14 @@
         <source>Whether the button goes away when the explanation has been read.</source>
         <translation>هل يختفي الزر بعد قراءة الشرح.</translation>
     </message>
+    <message>
+        <source>Been read</source>
+        <translation>مقروء</translation>
+    </message>
+    <message>
+        <source>Whether the reader has closed the explanation, while the model runs.</source>
+        <translation>ما إذا كان القارئ قد أغلق الشرح أثناء تشغيل النموذج.</translation>
+    </message>
 </context>
 <context>
     <name>core/model</name>

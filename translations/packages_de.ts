@@ -2593,6 +2593,14 @@
         <source>Whether the button goes away when the explanation has been read.</source>
         <translation>Ob der Knopf verschwindet, wenn die Erklärung gelesen wurde.</translation>
     </message>
+    <message>
+        <source>Been read</source>
+        <translation>Gelesen</translation>
+    </message>
+    <message>
+        <source>Whether the reader has closed the explanation, while the model runs.</source>
+        <translation>Ob der Leser die Erklärung geschlossen hat, während das Modell läuft.</translation>
+    </message>
 </context>
 <context>
     <name>core/model</name>

@@ -2593,6 +2593,14 @@
         <source>Whether the button goes away when the explanation has been read.</source>
         <translation>Si le bouton disparaît quand l&apos;explication a été lue.</translation>
     </message>
+    <message>
+        <source>Been read</source>
+        <translation>Lu</translation>
+    </message>
+    <message>
+        <source>Whether the reader has closed the explanation, while the model runs.</source>
+        <translation>Si le lecteur a fermé l’explication pendant que le modèle fonctionne.</translation>
+    </message>
 </context>
 <context>
     <name>core/model</name>

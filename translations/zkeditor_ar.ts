@@ -19,6 +19,10 @@
         <source>Folder of your own parts</source>
         <translation>مجلد قطعك الخاصة</translation>
     </message>
+    <message>
+        <source>How things are done</source>
+        <translation>كيفية القيام بالأمور</translation>
+    </message>
 </context>
 <context>
     <name>Actions</name>
@@ -338,6 +342,14 @@
         <source>Badge</source>
         <translation>الشارة</translation>
     </message>
+    <message>
+        <source>&amp;Contents</source>
+        <translation>&amp;المحتويات</translation>
+    </message>
+    <message>
+        <source>Read how things are done</source>
+        <translation>قراءة كيفية القيام بالأمور</translation>
+    </message>
 </context>
 <context>
     <name>AddCustomPartDialog</name>
@@ -542,6 +554,22 @@ Please enter another id</source>
     <message>
         <source>Show &amp;Pop-up</source>
         <translation>&amp;عرض النافذة المنبثقة</translation>
+    </message>
+    <message>
+        <source>Opens when the &amp;mouse rests on it</source>
+        <translation>يُفتح حين يستقر ال&amp;مؤشر عليه</translation>
+    </message>
+    <message>
+        <source>Opens the pop-up without a click.</source>
+        <translation>يفتح النافذة المنبثقة بلا نقر.</translation>
+    </message>
+    <message>
+        <source>Goes away &amp;after reading</source>
+        <translation>يختفي &amp;بعد القراءة</translation>
+    </message>
+    <message>
+        <source>Hides the button once its pop-up has been closed.</source>
+        <translation>يخفي الزر بعد إغلاق نافذته المنبثقة.</translation>
     </message>
 </context>
 <context>
@@ -1336,10 +1364,6 @@ Please enter another id</source>
         <source>Flowchart</source>
         <translation>مخطط انسيابي</translation>
     </message>
-    <message>
-        <source>The link &quot;%1&quot; cannot be opened.</source>
-        <translation>لا يمكن فتح الرابط &quot;%1&quot;.</translation>
-    </message>
 </context>
 <context>
     <name>FlowchartRunner</name>
@@ -1773,6 +1797,21 @@ Please enter another id</source>
     </message>
 </context>
 <context>
+    <name>HelpWindow</name>
+    <message>
+        <source>Help</source>
+        <translation>مساعدة</translation>
+    </message>
+    <message>
+        <source>&amp;Back</source>
+        <translation>&amp;رجوع</translation>
+    </message>
+    <message>
+        <source>C&amp;ontents</source>
+        <translation>ال&amp;محتويات</translation>
+    </message>
+</context>
+<context>
     <name>IdProvider</name>
     <message>
         <source>The id must not be empty.</source>
@@ -1944,6 +1983,10 @@ Please enter another id</source>
             <numerusform>صحيح حتى الآن: %n مجموعة.</numerusform>
             <numerusform>صحيح حتى الآن: %n مجموعة.</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>How licence codes work</source>
+        <translation>كيف تعمل رموز الترخيص</translation>
     </message>
 </context>
 <context>
@@ -2884,6 +2927,10 @@ Please enter another id</source>
         <source>About %1</source>
         <translation>حول %1</translation>
     </message>
+    <message>
+        <source>How properties are changed</source>
+        <translation>كيفية تغيير الخصائص</translation>
+    </message>
 </context>
 <context>
     <name>PartIdLineEdit</name>
@@ -3044,6 +3091,10 @@ Please enter another id</source>
     <message>
         <source>The language of all texts, and how numbers are written.</source>
         <translation>لغة جميع النصوص وطريقة كتابة الأرقام.</translation>
+    </message>
+    <message>
+        <source>What these settings do</source>
+        <translation>ما تفعله هذه الإعدادات</translation>
     </message>
 </context>
 <context>
@@ -3327,6 +3378,13 @@ Please enter another id</source>
     <message>
         <source>Different colours</source>
         <translation>ألوان مختلفة</translation>
+    </message>
+</context>
+<context>
+    <name>ReaderActions</name>
+    <message>
+        <source>The link &quot;%1&quot; cannot be opened.</source>
+        <translation>لا يمكن فتح الرابط &quot;%1&quot;.</translation>
     </message>
 </context>
 <context>
@@ -3797,10 +3855,6 @@ Please enter another id</source>
         <translation>جعل الصورة تعرض نماذج تحرير ما هو محدد وحدها، من أعلى إلى أسفل.</translation>
     </message>
     <message>
-        <source>Take the picture in dark colours.</source>
-        <translation>التقاط الصورة بألوان داكنة.</translation>
-    </message>
-    <message>
         <source>The document to open.</source>
         <translation>المستند المطلوب فتحه.</translation>
     </message>
@@ -3854,6 +3908,22 @@ Please enter another id</source>
     <message>
         <source>--check-form and --check-package cannot be given together.</source>
         <translation>لا يمكن ذكر ‎--check-form‎ و‎--check-package‎ معًا.</translation>
+    </message>
+    <message>
+        <source>Dark colours, whatever those of the desktop are.</source>
+        <translation>ألوان داكنة أيًا كانت ألوان سطح المكتب.</translation>
+    </message>
+    <message>
+        <source>Let the picture show the dialog of a menu entry: preferences, page-setup, save-custom-part, licence or about.</source>
+        <translation>تُظهر الصورة مربع حوار أحد بنود القائمة: preferences أو page-setup أو save-custom-part أو licence أو about.</translation>
+    </message>
+    <message>
+        <source>Run the flowcharts for so many seconds before the picture.</source>
+        <translation>تشغيل المخططات الانسيابية هذا العدد من الثواني قبل الصورة.</translation>
+    </message>
+    <message>
+        <source>--run takes seconds up to %1, not &quot;%2&quot;.</source>
+        <translation>يتطلب --run عددًا من الثواني حتى %1، وليس &quot;%2&quot;.</translation>
     </message>
 </context>
 <context>
@@ -4320,6 +4390,10 @@ Please enter another id</source>
     <message>
         <source>The picture %1 cannot be written: %2</source>
         <translation>لا يمكن كتابة الصورة %1: %2</translation>
+    </message>
+    <message>
+        <source>There is no dialog &quot;%1&quot; for what is selected.</source>
+        <translation>لا يوجد مربع حوار &quot;%1&quot; لما هو محدد.</translation>
     </message>
 </context>
 </TS>

@@ -19,6 +19,10 @@
         <source>Folder of your own parts</source>
         <translation>Ordner Ihrer eigenen Teile</translation>
     </message>
+    <message>
+        <source>How things are done</source>
+        <translation>So wird es gemacht</translation>
+    </message>
 </context>
 <context>
     <name>Actions</name>
@@ -338,6 +342,14 @@
         <source>Badge</source>
         <translation>Plakette</translation>
     </message>
+    <message>
+        <source>&amp;Contents</source>
+        <translation>&amp;Inhalt</translation>
+    </message>
+    <message>
+        <source>Read how things are done</source>
+        <translation>Nachlesen, wie es gemacht wird</translation>
+    </message>
 </context>
 <context>
     <name>AddCustomPartDialog</name>
@@ -538,6 +550,22 @@ Bitte geben Sie eine andere Kennung ein</translation>
     <message>
         <source>Show &amp;Pop-up</source>
         <translation>Pop-up &amp;zeigen</translation>
+    </message>
+    <message>
+        <source>Opens when the &amp;mouse rests on it</source>
+        <translation>Öffnet sich, wenn die &amp;Maus darauf ruht</translation>
+    </message>
+    <message>
+        <source>Opens the pop-up without a click.</source>
+        <translation>Öffnet das Pop-up ohne Klick.</translation>
+    </message>
+    <message>
+        <source>Goes away &amp;after reading</source>
+        <translation>Verschwindet &amp;nach dem Lesen</translation>
+    </message>
+    <message>
+        <source>Hides the button once its pop-up has been closed.</source>
+        <translation>Verbirgt den Knopf, sobald sein Pop-up geschlossen wurde.</translation>
     </message>
 </context>
 <context>
@@ -1320,10 +1348,6 @@ Bitte geben Sie eine andere Kennung ein</translation>
         <source>Flowchart</source>
         <translation>Ablaufplan</translation>
     </message>
-    <message>
-        <source>The link &quot;%1&quot; cannot be opened.</source>
-        <translation>Der Link &quot;%1&quot; kann nicht geöffnet werden.</translation>
-    </message>
 </context>
 <context>
     <name>FlowchartRunner</name>
@@ -1753,6 +1777,21 @@ Bitte geben Sie eine andere Kennung ein</translation>
     </message>
 </context>
 <context>
+    <name>HelpWindow</name>
+    <message>
+        <source>Help</source>
+        <translation>Hilfe</translation>
+    </message>
+    <message>
+        <source>&amp;Back</source>
+        <translation>&amp;Zurück</translation>
+    </message>
+    <message>
+        <source>C&amp;ontents</source>
+        <translation>&amp;Inhalt</translation>
+    </message>
+</context>
+<context>
     <name>IdProvider</name>
     <message>
         <source>The id must not be empty.</source>
@@ -1920,6 +1959,10 @@ Bitte geben Sie eine andere Kennung ein</translation>
             <numerusform>Bis hier richtig: %n Gruppe.</numerusform>
             <numerusform>Bis hier richtig: %n Gruppen.</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>How licence codes work</source>
+        <translation>Wie Lizenzcodes funktionieren</translation>
     </message>
 </context>
 <context>
@@ -2836,6 +2879,10 @@ Bitte geben Sie eine andere Kennung ein</translation>
         <source>About %1</source>
         <translation>Über %1</translation>
     </message>
+    <message>
+        <source>How properties are changed</source>
+        <translation>Wie Eigenschaften geändert werden</translation>
+    </message>
 </context>
 <context>
     <name>PartIdLineEdit</name>
@@ -2992,6 +3039,10 @@ Bitte geben Sie eine andere Kennung ein</translation>
     <message>
         <source>The language of all texts, and how numbers are written.</source>
         <translation>Die Sprache aller Texte und die Schreibweise der Zahlen.</translation>
+    </message>
+    <message>
+        <source>What these settings do</source>
+        <translation>Was diese Einstellungen bewirken</translation>
     </message>
 </context>
 <context>
@@ -3271,6 +3322,13 @@ Bitte geben Sie eine andere Kennung ein</translation>
     <message>
         <source>Different colours</source>
         <translation>Verschiedene Farben</translation>
+    </message>
+</context>
+<context>
+    <name>ReaderActions</name>
+    <message>
+        <source>The link &quot;%1&quot; cannot be opened.</source>
+        <translation>Der Link &quot;%1&quot; kann nicht geöffnet werden.</translation>
     </message>
 </context>
 <context>
@@ -3729,10 +3787,6 @@ Bitte geben Sie eine andere Kennung ein</translation>
         <translation>Das Bild nur die Formulare der Auswahl zeigen lassen, von oben bis unten.</translation>
     </message>
     <message>
-        <source>Take the picture in dark colours.</source>
-        <translation>Das Bild in dunklen Farben machen.</translation>
-    </message>
-    <message>
         <source>The document to open.</source>
         <translation>Das Dokument, das geöffnet werden soll.</translation>
     </message>
@@ -3782,6 +3836,22 @@ Bitte geben Sie eine andere Kennung ein</translation>
     <message>
         <source>--check-form and --check-package cannot be given together.</source>
         <translation>--check-form und --check-package können nicht zusammen angegeben werden.</translation>
+    </message>
+    <message>
+        <source>Dark colours, whatever those of the desktop are.</source>
+        <translation>Dunkle Farben, gleich welche die der Arbeitsumgebung sind.</translation>
+    </message>
+    <message>
+        <source>Let the picture show the dialog of a menu entry: preferences, page-setup, save-custom-part, licence or about.</source>
+        <translation>Das Bild zeigt den Dialog eines Menüeintrags: preferences, page-setup, save-custom-part, licence oder about.</translation>
+    </message>
+    <message>
+        <source>Run the flowcharts for so many seconds before the picture.</source>
+        <translation>Die Ablaufpläne vor dem Bild so viele Sekunden laufen lassen.</translation>
+    </message>
+    <message>
+        <source>--run takes seconds up to %1, not &quot;%2&quot;.</source>
+        <translation>--run erwartet Sekunden bis %1, nicht „%2“.</translation>
     </message>
 </context>
 <context>
@@ -4240,6 +4310,10 @@ Bitte geben Sie eine andere Kennung ein</translation>
     <message>
         <source>The picture %1 cannot be written: %2</source>
         <translation>Das Bild %1 kann nicht geschrieben werden: %2</translation>
+    </message>
+    <message>
+        <source>There is no dialog &quot;%1&quot; for what is selected.</source>
+        <translation>Für die Auswahl gibt es keinen Dialog „%1“.</translation>
     </message>
 </context>
 </TS>

@@ -19,6 +19,10 @@
         <source>Folder of your own parts</source>
         <translation>Dossier de vos propres pièces</translation>
     </message>
+    <message>
+        <source>How things are done</source>
+        <translation>Comment faire</translation>
+    </message>
 </context>
 <context>
     <name>Actions</name>
@@ -338,6 +342,14 @@
         <source>Badge</source>
         <translation>Badge</translation>
     </message>
+    <message>
+        <source>&amp;Contents</source>
+        <translation>&amp;Sommaire</translation>
+    </message>
+    <message>
+        <source>Read how things are done</source>
+        <translation>Lire comment faire</translation>
+    </message>
 </context>
 <context>
     <name>AddCustomPartDialog</name>
@@ -538,6 +550,22 @@ Veuillez en saisir un autre</translation>
     <message>
         <source>Show &amp;Pop-up</source>
         <translation>&amp;Montrer la bulle</translation>
+    </message>
+    <message>
+        <source>Opens when the &amp;mouse rests on it</source>
+        <translation>S&apos;ouvre quand la &amp;souris s&apos;y pose</translation>
+    </message>
+    <message>
+        <source>Opens the pop-up without a click.</source>
+        <translation>Ouvre la bulle sans clic.</translation>
+    </message>
+    <message>
+        <source>Goes away &amp;after reading</source>
+        <translation>Disparaît &amp;après lecture</translation>
+    </message>
+    <message>
+        <source>Hides the button once its pop-up has been closed.</source>
+        <translation>Cache le bouton une fois sa bulle fermée.</translation>
     </message>
 </context>
 <context>
@@ -1320,10 +1348,6 @@ Veuillez en saisir un autre</translation>
         <source>Flowchart</source>
         <translation>Organigramme</translation>
     </message>
-    <message>
-        <source>The link &quot;%1&quot; cannot be opened.</source>
-        <translation>Le lien « %1 » ne peut pas être ouvert.</translation>
-    </message>
 </context>
 <context>
     <name>FlowchartRunner</name>
@@ -1753,6 +1777,21 @@ Veuillez en saisir un autre</translation>
     </message>
 </context>
 <context>
+    <name>HelpWindow</name>
+    <message>
+        <source>Help</source>
+        <translation>Aide</translation>
+    </message>
+    <message>
+        <source>&amp;Back</source>
+        <translation>&amp;Retour</translation>
+    </message>
+    <message>
+        <source>C&amp;ontents</source>
+        <translation>S&amp;ommaire</translation>
+    </message>
+</context>
+<context>
     <name>IdProvider</name>
     <message>
         <source>The id must not be empty.</source>
@@ -1920,6 +1959,10 @@ Veuillez en saisir un autre</translation>
             <numerusform>Juste jusqu&apos;ici : %n groupe.</numerusform>
             <numerusform>Juste jusqu&apos;ici : %n groupes.</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>How licence codes work</source>
+        <translation>Comment fonctionnent les codes de licence</translation>
     </message>
 </context>
 <context>
@@ -2836,6 +2879,10 @@ Veuillez en saisir un autre</translation>
         <source>About %1</source>
         <translation>À propos de %1</translation>
     </message>
+    <message>
+        <source>How properties are changed</source>
+        <translation>Comment modifier les propriétés</translation>
+    </message>
 </context>
 <context>
     <name>PartIdLineEdit</name>
@@ -2992,6 +3039,10 @@ Veuillez en saisir un autre</translation>
     <message>
         <source>The language of all texts, and how numbers are written.</source>
         <translation>La langue de tous les textes et l’écriture des nombres.</translation>
+    </message>
+    <message>
+        <source>What these settings do</source>
+        <translation>Ce que font ces réglages</translation>
     </message>
 </context>
 <context>
@@ -3271,6 +3322,13 @@ Veuillez en saisir un autre</translation>
     <message>
         <source>Different colours</source>
         <translation>Couleurs différentes</translation>
+    </message>
+</context>
+<context>
+    <name>ReaderActions</name>
+    <message>
+        <source>The link &quot;%1&quot; cannot be opened.</source>
+        <translation>Le lien « %1 » ne peut pas être ouvert.</translation>
     </message>
 </context>
 <context>
@@ -3729,10 +3787,6 @@ Veuillez en saisir un autre</translation>
         <translation>L&apos;image ne montre que les formulaires de la sélection, de haut en bas.</translation>
     </message>
     <message>
-        <source>Take the picture in dark colours.</source>
-        <translation>Faire l&apos;image en couleurs sombres.</translation>
-    </message>
-    <message>
         <source>The document to open.</source>
         <translation>Le document à ouvrir.</translation>
     </message>
@@ -3782,6 +3836,22 @@ Veuillez en saisir un autre</translation>
     <message>
         <source>--check-form and --check-package cannot be given together.</source>
         <translation>--check-form et --check-package ne peuvent pas être donnés ensemble.</translation>
+    </message>
+    <message>
+        <source>Dark colours, whatever those of the desktop are.</source>
+        <translation>Couleurs sombres, quelles que soient celles du bureau.</translation>
+    </message>
+    <message>
+        <source>Let the picture show the dialog of a menu entry: preferences, page-setup, save-custom-part, licence or about.</source>
+        <translation>L’image montre le dialogue d’une entrée de menu : preferences, page-setup, save-custom-part, licence ou about.</translation>
+    </message>
+    <message>
+        <source>Run the flowcharts for so many seconds before the picture.</source>
+        <translation>Exécuter les organigrammes pendant ce nombre de secondes avant l’image.</translation>
+    </message>
+    <message>
+        <source>--run takes seconds up to %1, not &quot;%2&quot;.</source>
+        <translation>--run attend des secondes jusqu’à %1, pas « %2 ».</translation>
     </message>
 </context>
 <context>
@@ -4240,6 +4310,10 @@ Veuillez en saisir un autre</translation>
     <message>
         <source>The picture %1 cannot be written: %2</source>
         <translation>L&apos;image %1 ne peut pas être écrite : %2</translation>
+    </message>
+    <message>
+        <source>There is no dialog &quot;%1&quot; for what is selected.</source>
+        <translation>Il n’y a pas de dialogue « %1 » pour la sélection.</translation>
     </message>
 </context>
 </TS>

@@ -1,14 +1,17 @@
 #include "zkauthor/aboutBox.h"
 
+#include "zkauthor/helpWindow.h"
 #include "zkcore/media/imageCache.h"
 #include "zkcore/media/resource.h"
 #include "zkcore/storage/package.h"
 #include "zkeditor/license/licenceManager.h"
 #include "zkeditor/widgets/hyperLink.h"
+#include "zkeditor/widgets/linkLabel.h"
 
 #include <QCoreApplication>
 #include <QDialog>
 #include <QDialogButtonBox>
+#include <QDir>
 #include <QLabel>
 #include <QPushButton>
 #include <QVBoxLayout>
@@ -46,6 +49,9 @@ void showAboutBox(QWidget* parent, const LicenceManager& licence)
     auto* folder = new HyperLink(Package::userFolder(), nullptr);
     folder->setDisplayText(AboutTexts::tr("Folder of your own parts"));
     layout->addWidget(folder);
+    if (!QDir(Package::userFolder()).exists())
+        folder->hide(); // it comes with the first part
+    layout->addWidget(makeHelpLink(AboutTexts::tr("How things are done"), QStringLiteral("help")));
     auto* buttons = new QDialogButtonBox(QDialogButtonBox::Close);
     QObject::connect(buttons, &QDialogButtonBox::rejected, &dialog, &QDialog::reject);
     layout->addWidget(buttons);

@@ -11,6 +11,7 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QPixmap>
+#include <QSet>
 #include <QToolBar>
 
 namespace {
@@ -33,6 +34,27 @@ QAction* makeAction(QMainWindow* window, const char* name, const QString& text, 
         toolTip += QStringLiteral(" (%1)").arg(shortcuts.first().toString(QKeySequence::NativeText));
     action->setToolTip(toolTip);
     return action;
+}
+
+/// Desktops bind several keys to standard actions, Ctrl+D to Delete for instance. Keys that two actions share would do
+/// neither, so further keys of an action give way.
+void dropSharedKeys(const QList<QAction*>& actions)
+{
+    QSet<QKeySequence> taken;
+    for (const QAction* action : actions) {
+        if (!action->shortcut().isEmpty())
+            taken.insert(action->shortcut());
+    }
+    for (QAction* action : actions) {
+        QList<QKeySequence> own = action->shortcuts();
+        for (qsizetype i = own.size() - 1; i > 0; --i) {
+            if (taken.contains(own.at(i)))
+                own.removeAt(i);
+            else
+                taken.insert(own.at(i));
+        }
+        action->setShortcuts(own);
+    }
 }
 
 } // namespace
@@ -106,10 +128,13 @@ Actions::Actions(QMainWindow* window)
                              keys(QKeySequence::Preferences, "Ctrl+,"));
     preferences->setMenuRole(QAction::PreferencesRole);
     licence = makeAction(window, "licence", tr("&Licence..."), tr("Show or enter the licence"));
+    help = makeAction(window, "help", tr("&Contents"), tr("Read how things are done"),
+                      keys(QKeySequence::HelpContents, "F1"));
     about = makeAction(window, "about", tr("&About zkauthor"), tr("What this program is"));
     about->setMenuRole(QAction::AboutRole);
     quit->setMenuRole(QAction::QuitRole);
 
+    dropSharedKeys(window->findChildren<QAction*>(QString(), Qt::FindDirectChildrenOnly));
     makeMenus(window);
     makeToolBar(window);
 }
@@ -148,8 +173,10 @@ void Actions::makeMenus(QMainWindow* window)
     insertMenu->setObjectName(QStringLiteral("insertMenu"));
 
     runMenu = window->menuBar()->addMenu(tr("&Run"));
-    QMenu* help = window->menuBar()->addMenu(tr("&Help"));
-    help->addActions({licence, about});
+    QMenu* helpMenu = window->menuBar()->addMenu(tr("&Help"));
+    helpMenu->addAction(help);
+    helpMenu->addSeparator();
+    helpMenu->addActions({licence, about});
 
     partMenu = new QMenu(window);
     partMenu->addActions({cut, copy, paste, duplicate, remove});

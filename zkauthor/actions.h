@@ -55,6 +55,7 @@ public:
     QAction* exportSvg;
     QAction* saveCustomPart;
     QAction* preferences;
+    QAction* help;
     QAction* licence;
     QAction* about;
 

@@ -1,5 +1,6 @@
 #include "zkauthor/elementItem.h"
 
+#include "zkauthor/partRules.h"
 #include "zkcore/model/elementImpl.h"
 #include "zkcore/printing/elementGeometry.h"
 #include "zkcore/printing/scenePainter.h"
@@ -55,6 +56,7 @@ void ElementItem::updateGeometry()
     m_bounds = bounds;
     m_area = area;
     m_place = placeOf(*element);
+    followVisibility();
     update();
 }
 
@@ -76,6 +78,19 @@ void ElementItem::followPosition()
 QPainterPath ElementItem::shape() const
 {
     return m_area;
+}
+
+void ElementItem::setReaderMode(bool reader)
+{
+    m_readerMode = reader;
+    followVisibility();
+    update();
+}
+
+void ElementItem::followVisibility()
+{
+    if (const ElementImpl* element = this->element())
+        setVisible(!m_readerMode || isSeenByReaders(*element));
 }
 
 void ElementItem::setMarked(bool marked)
@@ -102,7 +117,7 @@ void ElementItem::paint(QPainter* painter, const QStyleOptionGraphicsItem*, QWid
     painter->scale(mmPerMetre, mmPerMetre);
     painter->setLayoutDirection(Qt::LayoutDirectionAuto); // the document's texts, not the program's language, decide
     ScenePainter scenePainter(*painter);
-    scenePainter.setHiddenOpacity(hiddenOpacity);
+    scenePainter.setHiddenOpacity(m_readerMode ? 0.0 : hiddenOpacity);
     scenePainter.paintElement(*element);
     painter->restore();
     if (!m_marked)

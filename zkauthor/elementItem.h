@@ -31,14 +31,19 @@ public:
     void updateGeometry();
     /// The same when nothing but the element's position changed, which is much quicker: the labels keep their room.
     void followPosition();
+    /// For readers, what is not visible while the model runs is not there at all; otherwise it is drawn faintly.
+    void setReaderMode(bool reader);
     /// Draws it as selected, or not.
     void setMarked(bool marked);
 
 private:
+    void followVisibility();
+
     Element m_element;
     QPointF m_place; // of the centre, where the geometry was last read
     QRectF m_bounds;
     QPainterPath m_area;
     bool m_connection;
     bool m_marked = false;
+    bool m_readerMode = false;
 };

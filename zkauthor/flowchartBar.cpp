@@ -1,5 +1,6 @@
 #include "zkauthor/flowchartBar.h"
 
+#include "zkauthor/readerActions.h"
 #include "zkcore/media/imageCache.h"
 #include "zkcore/media/resource.h"
 #include "zkcore/model/coreKeys.h"
@@ -8,7 +9,6 @@
 #include "zkcore/model/modelImpl.h"
 #include "zkcore/model/spaceImpl.h"
 #include "zkcore/services/flowchartRunner.h"
-#include "zkcore/services/openUrl.h"
 #include "zkeditor/flowchartSpeedWidget.h"
 #include "zkeditor/widgets/animatedButton.h"
 #include "zkeditor/widgets/observerButton.h"
@@ -17,7 +17,6 @@
 #include <QBuffer>
 #include <QMessageBox>
 #include <QMovie>
-#include <QUrl>
 
 namespace {
 
@@ -33,8 +32,8 @@ void setMovieFrom(AnimatedButton* button, const char* resource, AnimatedButton::
 
 FlowchartBar::FlowchartBar(QWidget* parent)
     : QToolBar(tr("Flowcharts"), parent), m_runner(new FlowchartRunner(nullptr, this)),
-      m_run(new QAction(tr("&Run Flowcharts"), this)), m_button(new AnimatedButton(this)),
-      m_pause(new ObserverButton(tr("Pause"), this, QStringLiteral("pause"))),
+      m_reader(new ReaderActions(this)), m_run(new QAction(tr("&Run Flowcharts"), this)),
+      m_button(new AnimatedButton(this)), m_pause(new ObserverButton(tr("Pause"), this, QStringLiteral("pause"))),
       m_speed(new FlowchartSpeedWidget(true, this))
 {
     setObjectName(QStringLiteral("flowchartBar"));
@@ -63,7 +62,13 @@ FlowchartBar::FlowchartBar(QWidget* parent)
         m_run->setChecked(running);
         m_button->setStateNoSignals(running);
         Q_EMIT runningChanged(running);
+        if (running)
+            m_reader->start();
+        else
+            m_reader->stop();
     });
+    connect(m_reader, &ReaderActions::spaceRequested, this, &FlowchartBar::spaceRequested);
+    connect(m_reader, &ReaderActions::noticed, this, &FlowchartBar::noticed);
     connect(m_runner, &FlowchartRunner::messageShown, this, &FlowchartBar::showMessage);
     connect(m_runner, &FlowchartRunner::problemFound, this, &FlowchartBar::noticed);
     connect(m_runner, &FlowchartRunner::finished, this,
@@ -73,6 +78,7 @@ FlowchartBar::FlowchartBar(QWidget* parent)
 FlowchartBar::~FlowchartBar()
 {
     m_runner->setDocument(nullptr);
+    m_reader->setDocument(nullptr);
 }
 
 void FlowchartBar::setDocument(DocumentImpl* document)
@@ -84,6 +90,7 @@ void FlowchartBar::setDocument(DocumentImpl* document)
         disconnect(m_document, nullptr, this, nullptr);
     m_document = document;
     m_runner->setDocument(document);
+    m_reader->setDocument(document);
     if (!document)
         return;
     connect(document, &DocumentImpl::Loaded, this, &FlowchartBar::bindPause);
@@ -143,7 +150,7 @@ void FlowchartBar::pressPart(PartImpl* part, bool down)
     const Node handle(part);
     m_runner->press(Part(part), down);
     if (!down && handle.valid())
-        carryOutClick(*part);
+        m_reader->click(*part);
 }
 
 bool FlowchartBar::pressKey(QChar key, bool down)
@@ -151,25 +158,12 @@ bool FlowchartBar::pressKey(QChar key, bool down)
     return isRunning() && m_runner->pressKey(key.toUpper(), down);
 }
 
-void FlowchartBar::carryOutClick(const PartImpl& part)
+void FlowchartBar::restOn(const PartImpl& part)
 {
-    static const PropertyKey actionKey = PropertyKey::fromString("click-action");
-    static const PropertyKey linkKey = PropertyKey::fromString("click-link");
-    static const PropertyKey sceneKey = PropertyKey::fromString("click-scene");
-    static const PropertyKey opensOnKey = PropertyKey::fromString("opens-on");
-    const QString action = part.valueOfProperty(actionKey).toQString();
-    if (action == QLatin1String("nothing") && part.popup() && part.hasProperty(opensOnKey)) {
-        Q_EMIT spaceRequested(Node(part.popup())); // an explanation is there to be opened
-    } else if (action == QLatin1String("show pop-up")) {
-        if (part.popup())
-            Q_EMIT spaceRequested(Node(part.popup()));
-    } else if (action == QLatin1String("show scene")) {
-        const Node scene = part.valueOfProperty(sceneKey).toNode();
-        if (scene.valid())
-            Q_EMIT spaceRequested(scene);
-    } else if (action == QLatin1String("open link")) {
-        const QUrl url = QUrl::fromUserInput(part.valueOfProperty(linkKey).toQString());
-        if (!openUrl(url))
-            Q_EMIT noticed(tr("The link \"%1\" cannot be opened.").arg(url.toDisplayString()));
-    }
+    m_reader->restOn(part);
+}
+
+void FlowchartBar::leavePopup(const PopupImpl& popup)
+{
+    m_reader->leave(popup);
 }

@@ -11,6 +11,8 @@ class FlowchartRunner;
 class FlowchartSpeedWidget;
 class ObserverButton;
 class PartImpl;
+class PopupImpl;
+class ReaderActions;
 class SpaceImpl;
 
 /// The tool bar that runs the document's flowcharts: start and stop, pause, and the speed of the space on view. While
@@ -37,6 +39,10 @@ public:
     void pressPart(PartImpl* part, bool down);
     /// A key was pressed or released over the scene. False when no switch takes it.
     bool pressKey(QChar key, bool down);
+    /// The mouse has come to rest on a part.
+    void restOn(const PartImpl& part);
+    /// A pop-up was closed by the user.
+    void leavePopup(const PopupImpl& popup);
 
 Q_SIGNALS:
     void runningChanged(bool running);
@@ -49,10 +55,10 @@ private:
     void setRunning(bool run);
     void bindPause();
     void showMessage(const QString& text);
-    void carryOutClick(const PartImpl& part);
 
     QPointer<DocumentImpl> m_document;
     FlowchartRunner* m_runner;
+    ReaderActions* m_reader;
     QAction* m_run;
     AnimatedButton* m_button;
     ObserverButton* m_pause;

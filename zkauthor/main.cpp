@@ -1,5 +1,6 @@
 // Start-up of the host: command line, message handler, crash handler, main window.
 #include "zkauthor/checkForms.h"
+#include "zkauthor/darkPalette.h"
 #include "zkauthor/mainWindow.h"
 #include "zkauthor/preferences.h"
 #include "zkauthor/screenshot.h"
@@ -16,6 +17,7 @@
 #include <QApplication>
 #include <QIcon>
 #include <QMessageBox>
+#include <QPalette>
 #include <QSettings>
 #include <cstdio>
 
@@ -120,6 +122,8 @@ int main(int argc, char** argv)
         return 1;
     }
 
+    if (options.dark)
+        QApplication::setPalette(darkPalette());
     Session session;
     MainWindow& window = *session.window();
     SettingsService* settings =

@@ -4,6 +4,7 @@
 #include "zkauthor/actions.h"
 #include "zkauthor/documentFiles.h"
 #include "zkauthor/flowchartBar.h"
+#include "zkauthor/helpWindow.h"
 #include "zkauthor/insertMenu.h"
 #include "zkauthor/palettes.h"
 #include "zkauthor/partEditor.h"
@@ -126,7 +127,8 @@ void MainWindow::connectActions()
     onPaper(m_actions->exportPdf, [](Printing& printing) { printing.exportPdf(); });
     onPaper(m_actions->exportSvg, [](Printing& printing) { printing.exportSvg(); });
     on(m_actions->saveCustomPart, &MainWindow::saveCustomPart);
-    on(m_actions->licence, [this] { LicenceDialog(m_licence, this).exec(); });
+    on(m_actions->licence, &MainWindow::showLicence);
+    on(m_actions->help, [this] { showHelp(this, QStringLiteral("help")); });
     on(m_actions->preferences, &MainWindow::editPreferences);
 
     onView(m_actions->selectAll, [](SceneView* view) { view->selectAllParts(); });
@@ -158,6 +160,9 @@ void MainWindow::connectActions()
     connect(m_flowcharts, &FlowchartBar::runningChanged, m_tabs, &SpaceTabs::setReaderMode);
     connect(m_tabs, &SpaceTabs::partPressed, m_flowcharts, &FlowchartBar::pressPart);
     connect(m_tabs, &SpaceTabs::readerKey, m_flowcharts, &FlowchartBar::pressKey);
+    connect(m_tabs, &SpaceTabs::partRestedOn, m_flowcharts, [this](PartImpl* part) { m_flowcharts->restOn(*part); });
+    connect(m_tabs, &SpaceTabs::popupClosed, m_flowcharts,
+            [this](PopupImpl* popup) { m_flowcharts->leavePopup(*popup); });
     connect(m_palettes, &Palettes::partChosen, this, &MainWindow::addPart);
     connect(m_palettes, &Palettes::documentChosen, files, &DocumentFiles::openRecent);
     connect(m_palettes, &Palettes::shortcutClicked, this, &MainWindow::onShortcut);
@@ -478,6 +483,13 @@ void MainWindow::showError(const QString& text, const QString& reason)
 void MainWindow::about()
 {
     showAboutBox(this, *m_licence);
+}
+
+void MainWindow::showLicence()
+{
+    LicenceDialog dialog(m_licence, this);
+    connect(&dialog, &LicenceDialog::helpRequested, this, [&dialog] { showHelp(&dialog, QStringLiteral("licences")); });
+    dialog.exec();
 }
 
 void MainWindow::editPreferences()

@@ -69,6 +69,7 @@ private:
     void fillInsertMenu();
     void showError(const QString& text, const QString& reason);
     void about();
+    void showLicence();
     void editPreferences();
     void applyPreferences();
     void saveCustomPart();

@@ -1,8 +1,10 @@
 #include "zkauthor/partHelp.h"
 
+#include "zkauthor/helpWindow.h"
 #include "zkcore/model/documentImpl.h"
 #include "zkcore/model/elementImpl.h"
 #include "zkcore/services/translate.h"
+#include "zkeditor/widgets/linkLabel.h"
 
 #include <QCoreApplication>
 #include <QDialog>
@@ -56,6 +58,8 @@ void showPartHelp(QWidget* parent, const DocumentImpl& document)
     text->setAccessibleName(dialog->windowTitle());
     text->setHtml(describeClass(element, label));
     layout->addWidget(text);
+    layout->addWidget(makeHelpLink(helpText(QT_TRANSLATE_NOOP("PartHelp", "How properties are changed")),
+                                   QStringLiteral("palettes#the-property-pane")));
     auto* buttons = new QDialogButtonBox(QDialogButtonBox::Close);
     QObject::connect(buttons, &QDialogButtonBox::rejected, dialog, &QDialog::reject);
     layout->addWidget(buttons);

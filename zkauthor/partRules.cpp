@@ -1,5 +1,6 @@
 #include "zkauthor/partRules.h"
 
+#include "zkcore/model/coreKeys.h"
 #include "zkcore/model/documentImpl.h"
 #include "zkcore/model/elementImpl.h"
 #include "zkcore/model/propertyImpl.h"
@@ -7,6 +8,14 @@
 
 #include <algorithm>
 #include <utility>
+
+bool isSeenByReaders(const ElementImpl& element)
+{
+    static const PropertyKey beenRead = PropertyKey::fromString("been-read");
+    const bool visible =
+        !element.hasProperty(coreKeys::visible()) || element.valueOfProperty(coreKeys::visible()).toBool();
+    return visible && !element.valueOfProperty(beenRead).toBool();
+}
 
 bool userMayChange(const ElementImpl& element, PropertyKey key)
 {

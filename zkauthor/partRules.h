@@ -10,6 +10,8 @@ class NodeImpl;
 class PartImpl;
 class SpaceImpl;
 
+/// Whether readers see the part while the model runs: it is visible, and no explanation that went away.
+bool isSeenByReaders(const ElementImpl& element);
 /// Whether the user may change the property now, locks aside; answered without making the property object.
 bool userMayChange(const ElementImpl& element, PropertyKey key);
 

@@ -1,9 +1,11 @@
 #include "zkauthor/preferences.h"
 
+#include "zkauthor/helpWindow.h"
 #include "zkauthor/sceneView.h"
 #include "zkcore/values/preferredUnits.h"
 #include "zkcore/values/value.h"
 #include "zkeditor/settingsService.h"
+#include "zkeditor/widgets/linkLabel.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -16,6 +18,7 @@
 #include <QMessageBox>
 #include <QSpinBox>
 #include <algorithm>
+#include <optional>
 
 namespace {
 
@@ -72,10 +75,19 @@ QString text(const SettingsService& settings, const QString& key)
     return settings.hasSetting(key) ? settings.readSetting(key, Value(QString())).toQString() : QString();
 }
 
+/// What was chosen where nothing can be written; it holds until the program ends.
+std::optional<Preferences>& unkeptPreferences()
+{
+    static std::optional<Preferences> preferences;
+    return preferences;
+}
+
 } // namespace
 
 Preferences Preferences::read()
 {
+    if (unkeptPreferences())
+        return *unkeptPreferences();
     Preferences preferences;
     if (!SettingsService::exists())
         return preferences;
@@ -100,7 +112,12 @@ bool Preferences::write() const
     written = settings.writeSetting(lengthUnitKey, Value(lengthUnit)) && written;
     written = settings.writeSetting(undoLimitKey, Value(undoLimit)) && written;
     written = settings.writeSetting(wheelKey, Value(wheelZooms)) && written;
-    return settings.writeSetting(logKey, Value(log)) && written;
+    written = settings.writeSetting(logKey, Value(log)) && written;
+    if (written)
+        unkeptPreferences().reset();
+    else
+        unkeptPreferences() = *this;
+    return written;
 }
 
 void Preferences::apply() const
@@ -147,6 +164,8 @@ std::optional<Preferences> Preferences::edit(QWidget* parent)
     QComboBox* log = choiceBox(logTargets, preferences.log);
     log->setToolTip(preferencesText(QT_TRANSLATE_NOOP("Preferences", "Takes effect when the program starts again.")));
     form->addRow(preferencesText(QT_TRANSLATE_NOOP("Preferences", "&Messages go to:")), log);
+    form->addRow(makeHelpLink(preferencesText(QT_TRANSLATE_NOOP("Preferences", "What these settings do")),
+                              QStringLiteral("dialogs#preferences")));
     auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
     QObject::connect(buttons, &QDialogButtonBox::accepted, &dialog, &QDialog::accept);
     QObject::connect(buttons, &QDialogButtonBox::rejected, &dialog, &QDialog::reject);

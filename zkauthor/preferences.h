@@ -26,7 +26,7 @@ struct Preferences
     QString log;
 
     static Preferences read();
-    /// False when they cannot be kept.
+    /// False when they cannot be kept; read() gives them all the same until the program ends.
     bool write() const;
     /// Makes numbers, units and the wheel follow; what the document and the start of the program take from here is up
     /// to them.

@@ -11,6 +11,7 @@
 
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QGuiApplication>
 #include <QPainter>
 #include <QPrintDialog>
 #include <QPrintPreviewDialog>
@@ -23,6 +24,15 @@ namespace {
 constexpr double mmOfMetre = 1000.0;
 constexpr int svgDotsPerInch = 2540; // a hundredth of a millimetre
 constexpr double svgUnitsOfMm = 100.0;
+
+/// Large documents take seconds; the pointer says so.
+class BusyPointer
+{
+public:
+    BusyPointer() { QGuiApplication::setOverrideCursor(Qt::WaitCursor); }
+    ~BusyPointer() { QGuiApplication::restoreOverrideCursor(); }
+    Q_DISABLE_COPY_MOVE(BusyPointer)
+};
 } // namespace
 
 Printing::Printing(QWidget* window, ViewManager* views, const LicenceManager* licence)
@@ -53,6 +63,7 @@ void Printing::layOut(QPrinter* device) const
 
 bool Printing::paintPages(QPrinter* device) const
 {
+    const BusyPointer busy;
     const PrintCommand pages(printerWithFootLine(), m_document, m_views->focusedView());
     int first = 0;
     int last = pages.pageCount() - 1;
@@ -115,7 +126,12 @@ void Printing::exportPdf()
     if (file.isEmpty())
         return;
     QString error;
-    if (PrintCommand(printerWithFootLine(), m_document, m_views->focusedView()).exportPdf(file, &error))
+    bool written = false;
+    {
+        const BusyPointer busy;
+        written = PrintCommand(printerWithFootLine(), m_document, m_views->focusedView()).exportPdf(file, &error);
+    }
+    if (written)
         Q_EMIT done(tr("Exported %1").arg(QFileInfo(file).fileName()));
     else
         Q_EMIT failed(tr("%1 could not be written.").arg(QFileInfo(file).fileName()), error);
@@ -133,6 +149,7 @@ void Printing::exportSvg()
     QSaveFile file(name);
     bool written = file.open(QIODevice::WriteOnly);
     if (written) {
+        const BusyPointer busy;
         const zk::Point size = space->valueOfProperty(coreKeys::size()).toPoint();
         const QSizeF area(size.x * mmOfMetre * svgUnitsOfMm, size.y * mmOfMetre * svgUnitsOfMm);
         QSvgGenerator generator;

@@ -10,6 +10,7 @@
 #include <QApplication>
 #include <QContextMenuEvent>
 #include <QDragEnterEvent>
+#include <QHelpEvent>
 #include <QKeyEvent>
 #include <QMimeData>
 #include <QMouseEvent>
@@ -173,6 +174,17 @@ bool SceneView::event(QEvent* event)
     return QGraphicsView::event(event);
 }
 
+bool SceneView::viewportEvent(QEvent* event)
+{
+    if (event->type() != QEvent::ToolTip || !m_readerMode || !m_scene->space())
+        return QGraphicsView::viewportEvent(event);
+    const QPoint place = static_cast<const QHelpEvent*>(event)->pos();
+    auto* part = qobject_cast<PartImpl*>(m_scene->partAt(mapToScene(place), clickTolerance / transform().m11()));
+    if (part && m_readerPart.instanceId() == 0)
+        Q_EMIT partRestedOn(part);
+    return true;
+}
+
 void SceneView::press(ElementImpl* part, Qt::KeyboardModifiers modifiers)
 {
     ElementImplSet selection = m_document->getSelection();
@@ -295,6 +307,7 @@ void SceneView::setReaderMode(bool reader)
     endGesture(true);
     m_readerMode = reader;
     m_readerPart = {};
+    m_scene->setReaderMode(reader);
 }
 
 bool SceneView::isReaderKey(const QKeyEvent* event) const
@@ -408,13 +421,24 @@ void SceneView::keyPressEvent(QKeyEvent* event)
     if (!m_document)
         return;
     if (event->key() == Qt::Key_Escape) {
-        m_document->setSelection({});
+        if (m_document->getSelection().empty())
+            Q_EMIT leaveRequested();
+        else
+            m_document->setSelection({});
         return;
     }
     if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
         const std::vector<ElementImpl*> selected = selectedParts(*m_document, m_scene->space());
-        if (selected.size() == 1)
+        if (selected.size() != 1)
+            return;
+        const Part chosen(qobject_cast<PartImpl*>(selected.front()));
+        if (!m_readerMode) {
             Q_EMIT partActivated(selected.front());
+        } else if (chosen.valid() && !event->isAutoRepeat()) {
+            Q_EMIT partPressed(chosen.impl(), true);
+            if (PartImpl* part = chosen.impl())
+                Q_EMIT partPressed(part, false);
+        }
         return;
     }
     QGraphicsView::keyPressEvent(event);

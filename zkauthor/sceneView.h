@@ -43,8 +43,8 @@ public:
     void selectNext(bool backwards);
     void selectAllParts();
 
-    /// While the model runs, parts under the mouse are pressed, not selected or moved, and letters and digits are the
-    /// reader's.
+    /// While the model runs, parts under the mouse are pressed, not selected or moved, Return presses the selected one,
+    /// letters and digits are the reader's, and parts that are not visible to readers are not there.
     void setReaderMode(bool reader);
 
     /// For all views: whether the wheel zooms, and scrolls with Ctrl, instead of the other way round. Off at first.
@@ -60,11 +60,16 @@ Q_SIGNALS:
     void menuRequested(const QPoint& globalPlace);
     /// In reader mode: the left button went down or up; the part is the one on which it went down.
     void partPressed(PartImpl* part, bool down);
+    /// In reader mode: the mouse has come to rest on the part.
+    void partRestedOn(PartImpl* part);
+    /// Escape, where there is nothing else to leave.
+    void leaveRequested();
     /// In reader mode: a letter or digit.
     void readerKey(QChar key, bool down);
 
 protected:
     bool event(QEvent* event) override;
+    bool viewportEvent(QEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;

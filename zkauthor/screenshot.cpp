@@ -1,39 +1,24 @@
 #include "zkauthor/screenshot.h"
 
+#include "zkauthor/darkPalette.h"
+#include "zkauthor/flowchartBar.h"
 #include "zkauthor/mainWindow.h"
 #include "zkauthor/palettes.h"
 #include "zkauthor/startOptions.h"
+#include "zkcore/services/flowchartRunner.h"
 #include "zkeditor/propPalette.h"
 #include "zkeditor/sidePane.h"
 
+#include <QAction>
 #include <QApplication>
 #include <QImageWriter>
-#include <QPalette>
 #include <QPixmap>
 #include <QScrollArea>
 #include <QScrollBar>
+#include <QTimer>
 #include <algorithm>
 
 namespace {
-
-QPalette darkPalette()
-{
-    const QColor ground(0x3a, 0x3c, 0x40);
-    const QColor ink(0xe6, 0xe6, 0xe6);
-    QPalette palette(ground);
-    palette.setColor(QPalette::Base, QColor(0x26, 0x28, 0x2b));
-    palette.setColor(QPalette::AlternateBase, QColor(0x2e, 0x30, 0x33));
-    palette.setColor(QPalette::Highlight, QColor(0x2f, 0x65, 0xca));
-    palette.setColor(QPalette::Link, QColor(0x6f, 0xae, 0xff));
-    for (const QPalette::ColorRole role :
-         {QPalette::WindowText, QPalette::Text, QPalette::ButtonText, QPalette::HighlightedText, QPalette::ToolTipText})
-        palette.setColor(role, ink);
-    for (const QPalette::ColorRole role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
-        palette.setColor(QPalette::Disabled, role, QColor(0x90, 0x92, 0x96));
-    palette.setColor(QPalette::PlaceholderText, QColor(0x9a, 0x9c, 0xa0));
-    palette.setColor(QPalette::ToolTipBase, QColor(0x4a, 0x4d, 0x50));
-    return palette;
-}
 
 /// Makes the window so high that nothing in the widget needs to be scrolled.
 void showWhole(QWidget& window, const QWidget& widget)
@@ -44,6 +29,36 @@ void showWhole(QWidget& window, const QWidget& widget)
         hidden = std::max(hidden, area->verticalScrollBar()->maximum());
     window.resize(window.width(), window.height() + hidden);
     QCoreApplication::processEvents();
+}
+
+void runFlowcharts(MainWindow& window, double seconds)
+{
+    constexpr double step = 0.05;
+    window.flowcharts()->runAction()->trigger();
+    for (double time = 0.0; time < seconds; time += step)
+        window.flowcharts()->runner()->advance(step);
+    QCoreApplication::processEvents();
+}
+
+/// The modal dialog that the menu entry opens; a null picture when it opens none.
+QPixmap pictureOfDialog(const MainWindow& window, const QString& entry)
+{
+    constexpr int settlingTime = 200; // milliseconds, for layouts and previews
+    auto* action = window.findChild<QAction*>(entry, Qt::FindDirectChildrenOnly);
+    QPixmap picture;
+    if (!action || !action->isEnabled())
+        return picture;
+    QTimer timer;
+    QObject::connect(&timer, &QTimer::timeout, &timer, [&picture] {
+        QWidget* dialog = QApplication::activeModalWidget();
+        if (!dialog)
+            return;
+        picture = dialog->grab();
+        dialog->close();
+    });
+    timer.start(settlingTime);
+    action->trigger();
+    return picture;
 }
 
 } // namespace
@@ -63,7 +78,19 @@ bool takeScreenshot(const StartOptions& options, QString& error)
     QCoreApplication::processEvents();
     QCoreApplication::processEvents();
 
+    if (options.runTime > 0.0)
+        runFlowcharts(window, options.runTime);
+
     QImageWriter writer(options.screenshot, "png");
+    QPixmap picture;
+    if (!options.dialog.isEmpty()) {
+        picture = pictureOfDialog(window, options.dialog);
+        if (picture.isNull()) {
+            error = QCoreApplication::translate("screenshot", "There is no dialog \"%1\" for what is selected.")
+                        .arg(options.dialog);
+            return false;
+        }
+    }
     QWidget* shown = &window;
     if (options.forms) {
         SidePane* pane = window.palettes()->sidePane();
@@ -75,7 +102,9 @@ bool takeScreenshot(const StartOptions& options, QString& error)
         showWhole(window, *shown);
     }
     writer.setCompression(100);
-    if (writer.write(shown->grab().toImage().convertToFormat(QImage::Format_RGB32)))
+    if (picture.isNull())
+        picture = shown->grab();
+    if (writer.write(picture.toImage().convertToFormat(QImage::Format_RGB32)))
         return true;
     error = QCoreApplication::translate("screenshot", "The picture %1 cannot be written: %2")
                 .arg(options.screenshot, writer.errorString());

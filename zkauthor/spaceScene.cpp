@@ -67,6 +67,7 @@ void SpaceScene::rebuild()
         if (child->kind() != NodeKind::Part)
             continue;
         auto* item = new ElementItem(static_cast<ElementImpl*>(child));
+        item->setReaderMode(m_readerMode);
         item->updateGeometry();
         item->setZValue(++z);
         m_items.emplace(child->instanceId(), item);
@@ -94,6 +95,7 @@ void SpaceScene::addItemFor(ElementImpl* element)
 {
     removeItem(element->instanceId());
     auto* item = new ElementItem(element);
+    item->setReaderMode(m_readerMode);
     m_items.emplace(element->instanceId(), item);
     placeInStack(item, element);
     registerEnds(item);
@@ -239,6 +241,15 @@ void SpaceScene::updateExtent()
     const QRectF extent = m_content.adjusted(-extentMargin, -extentMargin, extentMargin, extentMargin);
     if (extent != sceneRect())
         setSceneRect(extent);
+}
+
+void SpaceScene::setReaderMode(bool reader)
+{
+    if (reader == m_readerMode)
+        return;
+    m_readerMode = reader;
+    for (const auto& [id, item] : m_items)
+        item->setReaderMode(reader);
 }
 
 void SpaceScene::holdExtent(bool hold)

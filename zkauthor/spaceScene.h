@@ -40,6 +40,8 @@ public:
     /// The parts that the rectangle touches, and the connections that it holds.
     std::vector<ElementImpl*> partsIn(const QRectF& rect);
 
+    /// Whether it is shown as a reader sees it: without the parts that are not visible.
+    void setReaderMode(bool reader);
     /// While held, the scrollable area keeps its size; a drag must not scroll the view under the pointer.
     void holdExtent(bool hold);
 
@@ -77,5 +79,6 @@ private:
     QRectF m_content;                  // holds the page and the parts
     QTimer m_flushTimer;
     bool m_extentHeld = false;
+    bool m_readerMode = false;
     bool m_inUndoRedo = false;
 };

@@ -31,6 +31,7 @@ SpaceTabs::SpaceTabs(ViewManager* views, PartEditor* editor, QWidget* parent)
     setDocumentMode(true);
     setTabsClosable(true);
     setMovable(false);
+    tabBar()->setSelectionBehaviorOnRemove(QTabBar::SelectPreviousTab); // closing a pop-up leads back
     tabBar()->setAccessibleName(tr("Scenes and pop-ups"));
     m_popupButton->setText(tr("Po&p-ups"));
     m_popupButton->setToolTip(tr("Open the pop-up of a part"));
@@ -196,6 +197,12 @@ void SpaceTabs::makeView(int index)
     connect(view, &SceneView::partActivated, this, &SpaceTabs::activate);
     connect(view, &SceneView::partPressed, this, &SpaceTabs::partPressed);
     connect(view, &SceneView::readerKey, this, &SpaceTabs::readerKey);
+    connect(view, &SceneView::partRestedOn, this, &SpaceTabs::partRestedOn);
+    // When the key has been dealt with: closing deletes the view.
+    const InstanceId shown = space->instanceId();
+    connect(
+        view, &SceneView::leaveRequested, this, [this, shown] { onTabCloseRequested(indexOfSpace(shown)); },
+        Qt::QueuedConnection);
     view->setReaderMode(m_readerMode);
     m_views->addView(view);
 }
@@ -264,10 +271,16 @@ void SpaceTabs::onTabCloseRequested(int index)
     auto* popup = m_document ? qobject_cast<PopupImpl*>(m_document->nodeById(spaceAt(index))) : nullptr;
     if (!popup)
         return;
+    const bool hadFocus = currentView() && currentView()->hasFocus();
+    const Popup closed(popup);
     if (popup->valueOfProperty(coreKeys::open()).toBool())
         m_document->executeCommand(new ShowPopupCommmand(popup->owner(), false));
     else
         removeTabOf(popup->instanceId());
+    if (hadFocus && currentView())
+        currentView()->setFocus();
+    if (closed.valid())
+        Q_EMIT popupClosed(closed.impl());
 }
 
 void SpaceTabs::onNodeValueChanged(NodeImpl* node, PropertyKey key)

@@ -45,6 +45,9 @@ Q_SIGNALS:
     void menuRequested(const QPoint& globalPlace);
     void partPressed(PartImpl* part, bool down);
     void readerKey(QChar key, bool down);
+    void partRestedOn(PartImpl* part);
+    /// The user has closed a pop-up.
+    void popupClosed(PopupImpl* popup);
 
 private:
     void rebuild();

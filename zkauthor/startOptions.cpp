@@ -70,7 +70,17 @@ bool StartOptions::parse(const QCoreApplication& application, StartOptions& opti
     const QCommandLineOption formsOption(
         QStringLiteral("forms"),
         StartTexts::tr("Let the picture show the forms of what is selected from top to bottom, alone."));
-    const QCommandLineOption darkOption(QStringLiteral("dark"), StartTexts::tr("Take the picture in dark colours."));
+    const QCommandLineOption darkOption(QStringLiteral("dark"),
+                                        StartTexts::tr("Dark colours, whatever those of the desktop are."));
+    const QCommandLineOption dialogOption(
+        QStringLiteral("dialog"),
+        StartTexts::tr("Let the picture show the dialog of a menu entry: preferences, "
+                       "page-setup, save-custom-part, licence or about."),
+        QStringLiteral("entry"));
+    const QCommandLineOption runOption(QStringLiteral("run"),
+                                       StartTexts::tr("Run the flowcharts for so many seconds before the picture."),
+                                       QStringLiteral("seconds"));
+    parser.addOptions({dialogOption, runOption});
     parser.addOption(formsOption);
     parser.addOption(darkOption);
     const QCommandLineOption checkFormOption(
@@ -138,7 +148,18 @@ bool StartOptions::parse(const QCoreApplication& application, StartOptions& opti
     options.select = parser.values(selectOption);
     options.forms = parser.isSet(formsOption);
     options.dark = parser.isSet(darkOption);
-    for (const QCommandLineOption& option : {selectOption, formsOption, darkOption}) {
+    options.dialog = parser.value(dialogOption);
+    if (parser.isSet(runOption)) {
+        bool number = false;
+        options.runTime = parser.value(runOption).toDouble(&number);
+        if (!number || options.runTime <= 0.0 || options.runTime > StartOptions::longestRun) {
+            error = StartTexts::tr("--run takes seconds up to %1, not \"%2\".")
+                        .arg(StartOptions::longestRun)
+                        .arg(parser.value(runOption));
+            return false;
+        }
+    }
+    for (const QCommandLineOption& option : {selectOption, formsOption, dialogOption, runOption}) {
         if (parser.isSet(option) && options.screenshot.isEmpty()) {
             error = StartTexts::tr("--%1 only works together with --screenshot.").arg(option.names().constFirst());
             return false;

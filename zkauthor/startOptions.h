@@ -10,6 +10,9 @@ struct StartOptions
 {
     enum class Log { Default, Stdout, Stderr, File, Console, None };
 
+    /// Seconds.
+    static constexpr int longestRun = 600;
+
     Log log = Log::Default;
     /// The document to open; empty for a new one.
     QString document;
@@ -21,7 +24,11 @@ struct StartOptions
     QStringList select;
     /// Whether the picture shows the forms of what is selected, all of them, instead of the window.
     bool forms = false;
-    /// Whether the picture is taken in dark colours.
+    /// The object name of the menu entry whose dialog the picture shows instead of the window; empty for none.
+    QString dialog;
+    /// For how many seconds of model time the flowcharts run before the picture is taken; 0 for not at all.
+    double runTime = 0.0;
+    /// Whether the program takes dark colours, whatever those of the desktop are.
     bool dark = false;
 
     /// The form to check instead of opening a window; empty for none.

@@ -3,13 +3,16 @@
 #include "zkcore/commands/viewCommands.h"
 #include "zkcore/model/coreKeys.h"
 #include "zkcore/model/documentImpl.h"
+#include "zkcore/model/spaceImpl.h"
 #include "zkcore/widgetSupport/fonts.h"
 #include "zkeditor/duplication.h"
 #include "zkeditor/widgets/doubleSpinbox.h"
 #include "zkeditor/widgets/leadingLabel.h"
 #include "zkeditor/widgets/lineEdit.h"
 #include "zkeditor/widgets/msgPane.h"
+#include "zkeditor/widgets/observerCheckbox.h"
 #include "zkeditor/widgets/observerLineEdit.h"
+#include "zkeditor/widgets/observerStringCheckbox.h"
 #include "zkeditor/widgets/paletteBox.h"
 #include "zkeditor/widgets/paneScrollArea.h"
 #include "zkeditor/widgets/spacePropertyPane.h"
@@ -22,6 +25,8 @@
 namespace {
 
 const Property::Key clickActionKey = Property::getKeyForString("click-action");
+const Property::Key opensOnKey = Property::getKeyForString("opens-on");
+const Property::Key showOnceKey = Property::getKeyForString("show-once");
 constexpr double metresPerMillimetre = 0.001;
 constexpr int mostCopies = 100;
 constexpr int popupItem = 2; // its place in the box
@@ -251,6 +256,7 @@ QWidget* AdvancedPalette::makePopupSection(const std::set<SpaceImpl*>& popups)
     auto* pane = new SpacePropertyPane(m_document, popups, section);
     layout->addWidget(pane);
     connect(pane, &SpacePropertyPane::layoutChanged, this, &AdvancedPalette::onChildLayoutChanged);
+    addExplanationBoxes(layout, popups);
     if (popups.size() == 1) {
         auto* button = new QPushButton(tr("Show &Pop-up"), section);
         button->setAutoDefault(false);
@@ -258,6 +264,32 @@ QWidget* AdvancedPalette::makePopupSection(const std::set<SpaceImpl*>& popups)
         connect(button, &QAbstractButton::clicked, this, &AdvancedPalette::openPopup);
     }
     return section;
+}
+
+void AdvancedPalette::addExplanationBoxes(QVBoxLayout* layout, const std::set<SpaceImpl*>& popups)
+{
+    std::set<NodeImpl*> owners;
+    for (SpaceImpl* popup : popups) {
+        PartImpl* owner = static_cast<PopupImpl*>(popup)->owner();
+        if (!owner->hasProperty(opensOnKey) || !owner->hasProperty(showOnceKey))
+            return;
+        owners.insert(owner);
+    }
+    auto* boxes = new QWidget(layout->parentWidget());
+    auto* column = new QVBoxLayout(boxes);
+    column->setContentsMargins(15, 0, 15, 8);
+    auto* hover = new ObserverStringCheckBox(tr("Opens when the &mouse rests on it"), boxes);
+    hover->setToolTip(tr("Opens the pop-up without a click."));
+    hover->setModelProperty(opensOnKey.toString());
+    hover->setOnValue(QStringLiteral("hover"));
+    hover->setOffValue(QStringLiteral("click"));
+    column->addWidget(hover);
+    auto* once = new ObserverCheckBox(tr("Goes away &after reading"), boxes);
+    once->setToolTip(tr("Hides the button once its pop-up has been closed."));
+    once->setModelProperty(showOnceKey.toString());
+    column->addWidget(once);
+    layout->addWidget(boxes);
+    PaneWidget::bindChildren(boxes, m_document, owners);
 }
 
 void AdvancedPalette::showPopups(const std::set<SpaceImpl*>& popups)

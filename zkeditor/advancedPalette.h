@@ -12,6 +12,7 @@ class NodeImpl;
 class ObserverLineEdit;
 class PaletteBox;
 class QLabel;
+class QVBoxLayout;
 class SpaceImpl;
 class ValueChooser;
 
@@ -46,6 +47,8 @@ private:
     QWidget* makeClickSection();
     QWidget* makeDuplicationSection();
     QWidget* makePopupSection(const std::set<SpaceImpl*>& popups);
+    /// When and how often explanations open; nothing for pop-ups of other parts.
+    void addExplanationBoxes(QVBoxLayout* layout, const std::set<SpaceImpl*>& popups);
     void refresh();
     void showClickFields();
     void showScenes();

@@ -104,7 +104,10 @@ TEST_F(CommandLineTest, FaultsAreToldOnStandardError)
         {{"--screenshot", "x.png", "--select", "nobody", path("sample.zkdoc")},
          "zkauthor: There is no part with the id \"nobody\".\n"},
         {{"--log", "paper"}, "zkauthor: --log takes stdout, stderr, file, console or none, not \"paper\".\n"},
-        {{"--dark", path("sample.zkdoc")}, "zkauthor: --dark only works together with --screenshot.\n"},
+        {{"--screenshot", "x.png", "--run", "soon", path("sample.zkdoc")},
+         "zkauthor: --run takes seconds up to 600, not \"soon\".\n"},
+        {{"--screenshot", "x.png", "--dialog", "save-custom-part", path("sample.zkdoc")},
+         "zkauthor: There is no dialog \"save-custom-part\" for what is selected.\n"},
         {{"--screenshot", "x.png", "a", "b"}, "zkauthor: Only one document can be opened, but 2 were given.\n"},
     };
     for (const auto& [arguments, message] : cases) {

@@ -271,6 +271,30 @@ TEST_F(PrintingTest, DamagedSettingsGiveTheDefaults)
     EXPECT_EQ(Preferences::read().undoLimit, 0);
 }
 
+TEST_F(PrintingTest, PreferencesThatCannotBeKeptHoldUntilTheEnd)
+{
+    ASSERT_TRUE(QDir().mkpath(settingsFile())); // a folder in the file's place
+    {
+        const MessageCapture messages;
+        answer(QMessageBox::Ok);
+        inDialog("preferences", [](QDialog* dialog) {
+            dialog->findChild<QSpinBox*>()->setValue(2);
+            QTest::keyClick(dialog, Qt::Key_Return);
+        });
+        trigger("preferences");
+        EXPECT_EQ(boxText().section(u'\n', 0, 0), "The preferences hold until the program ends: they cannot be kept.");
+        EXPECT_TRUE(messages.warnings().contains(
+            QStringLiteral("SettingsService: Failed to write setting /Preferences/UndoLimit")));
+    }
+    for (int i = 0; i < 5; ++i)
+        addPart(document(), "electronics/led");
+    EXPECT_EQ(document().undoStack()->count(), 2);
+    EXPECT_EQ(Preferences::read().undoLimit, 2);
+    ASSERT_TRUE(QDir().rmdir(settingsFile()));
+    ASSERT_TRUE(Preferences().write());
+    EXPECT_EQ(Preferences::read().undoLimit, Preferences::defaultUndoLimit);
+}
+
 TEST_F(PrintingTest, SavedFilesAreRecentOnes)
 {
     set(property(part("lamp1"), "lit"), Value(true));

@@ -6,7 +6,9 @@
 #include "zkeditor/duplication.h"
 #include "zkeditor/widgets/doubleSpinbox.h"
 #include "zkeditor/widgets/msgPane.h"
+#include "zkeditor/widgets/observerCheckbox.h"
 #include "zkeditor/widgets/observerLineEdit.h"
+#include "zkeditor/widgets/observerStringCheckbox.h"
 #include "zkeditor/widgets/paletteBox.h"
 #include "zkeditor/widgets/spacePropertyPane.h"
 
@@ -155,9 +157,26 @@ TEST_F(AdvancedPaletteTest, PopupSettingsFollowTheSelection)
     EXPECT_FALSE(old);
     EXPECT_TRUE(qobject_cast<MsgPane*>(item(Popup)));
 
+    // Explanations show their pop-up's form when they are selected: how they open is set here.
+    PartImpl* info = add("core/info");
+    select({info});
+    const auto boxes = item(Popup)->findChildren<ObserverCheckBox*>();
+    auto* hover = item(Popup)->findChild<ObserverStringCheckBox*>();
+    ASSERT_TRUE(hover);
+    QTest::keyClick(hover, Qt::Key_Space);
+    EXPECT_EQ(text(info, "opens-on"), "hover");
+    for (ObserverCheckBox* box : boxes) {
+        if (box->modelProperty() == "show-once")
+            QTest::keyClick(box, Qt::Key_Space);
+    }
+    EXPECT_TRUE(property(info, "show-once")->getValue().toBool());
+    select({info, balloon});
+    EXPECT_FALSE(item(Popup)->findChild<ObserverStringCheckBox*>());
+    loop();
+
     palette->hide();
     select({balloon});
-    EXPECT_TRUE(qobject_cast<MsgPane*>(item(Popup)));
+    EXPECT_TRUE(item(Popup)->findChild<SpacePropertyPane*>());
     palette->show();
     auto* button = item(Popup)->findChild<QPushButton*>();
     ASSERT_TRUE(button);

@@ -120,7 +120,28 @@ bool ModelMutator::setValue(const PropertyAddress& address, const Value& value)
         property->notifyValueChanged();
     if (!property || node(address.node) == owner)
         Q_EMIT m_document.nodeValueChanged(owner, address.key);
+    if (address.key == coreKeys::orientationConstraint() && node(address.node) == owner) {
+        static const Value fixed(QStringLiteral("fixed"));
+        if ((before == fixed) != (value == fixed))
+            tellOrientationEditability(*owner);
+    }
     return changed;
+}
+
+void ModelMutator::tellOrientationEditability(const NodeImpl& owner)
+{
+    PropertyImpl* orientation = owner.existingProperty(coreKeys::orientation());
+    if (!orientation)
+        return;
+    std::vector<Property> affected{Property(orientation)};
+    for (size_t i = 0; i < affected.size(); ++i) {
+        for (PropertyImpl* follower : affected[i].impl()->proxyDependants())
+            affected.emplace_back(follower);
+    }
+    for (const Property& handle : affected) {
+        if (PropertyImpl* property = handle.impl())
+            Q_EMIT property->userCanEditChanged();
+    }
 }
 
 NodeImpl* ModelMutator::addNode(InstanceId parentId, unsigned int index, NodeSnapshot& snapshot)

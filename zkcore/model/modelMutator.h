@@ -91,6 +91,8 @@ private:
     void link(PropertyImpl& property, PropertyImpl& target);
     void unlink(PropertyImpl& property);
     void noteValue(const PropertyAddress& address, Value before, Value after);
+    /// An orientation that may be, or may no more be, edited.
+    void tellOrientationEditability(const NodeImpl& owner);
     void dropFromSelection(NodeImpl* node);
 
     DocumentImpl& m_document;

@@ -1,5 +1,6 @@
 #include "zkcore/model/propertyImpl.h"
 
+#include "zkcore/model/coreKeys.h"
 #include "zkcore/model/documentImpl.h"
 #include "zkcore/model/elementImpl.h"
 #include "zkcore/model/nodeImpl.h"
@@ -22,6 +23,14 @@ unsigned long long nextPropertySerial = 0;
 bool isElementKind(NodeKind kind)
 {
     return kind == NodeKind::Part || kind == NodeKind::Subpart;
+}
+
+/// What the element's kind settles for good: typing is refused as pulling and turning are.
+bool isSettledByKind(const ElementImpl& element, PropertyKey key)
+{
+    if (key == coreKeys::size())
+        return !element.isResizeable();
+    return key == coreKeys::orientation() && element.getOrientationConstraint() == QLatin1String("fixed");
 }
 
 } // namespace
@@ -157,9 +166,11 @@ bool PropertyImpl::userCanEdit() const
 {
     if (m_readOnly || isComputed())
         return false;
-    if (isElementKind(m_owner->kind()) &&
-        static_cast<const ElementImpl*>(m_owner)->isEffectivelyLocked(m_definition->lockGroup))
-        return false;
+    if (isElementKind(m_owner->kind())) {
+        const auto& element = static_cast<const ElementImpl&>(*m_owner);
+        if (element.isEffectivelyLocked(m_definition->lockGroup) || isSettledByKind(element, key()))
+            return false;
+    }
     if (!m_proxy)
         return true;
     return isMutableProxy() && m_proxy->userCanEdit();

@@ -56,7 +56,9 @@ public:
     /// "electronics/led[12].colour": for messages.
     QString debugName() const;
 
-    /// Whether the user may edit it now: not read-only, computed, locked, or a proxy that cannot be written through.
+    /// Whether the user may edit it now: not read-only, computed, locked, or a proxy that cannot be written through;
+    /// nor the size of an element that is not resizeable, or the orientation of one whose "orientation-constraint" is
+    /// "fixed".
     bool userCanEdit() const;
     bool isUIHidden() const;
     /// Hides widgets bound to this property; emits userVisibilityChanged().

@@ -55,8 +55,9 @@ QString withoutGroups(QStringView typed, QChar point)
     const QString& first = groups.first();
     const QString leading = first.startsWith(u'-') || first.startsWith(u'+') ? first.sliced(1) : first;
     const bool isGrouped = !leading.isEmpty() && leading.size() <= 3 && isDigits(leading) &&
-                           std::all_of(groups.begin() + 1, groups.end(),
-                                       [&](const QString& group) { return group.size() == 3 && isDigits(group); });
+                           std::all_of(groups.begin() + 1, groups.end(), [&](const QString& group) {
+                               return group.size() == 3 && isDigits(group);
+                           });
     const bool isClear = separator.front() != u'.' || groups.size() > 2 || end < text.size();
     return isGrouped && isClear ? groups.join(QString()) + text.sliced(end) : text;
 }

@@ -4,10 +4,12 @@
 #include "zkcore/widgetSupport/fonts.h"
 #include "zkeditor/license/licenceManager.h"
 #include "zkeditor/license/licenceText.h"
+#include "zkeditor/widgets/linkLabel.h"
 
 #include <QFontDatabase>
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QMetaMethod>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QRegularExpression>
@@ -41,6 +43,12 @@ LicenceDialog::LicenceDialog(LicenceManager* manager, QWidget* parent) : QDialog
     m_verdict->setAlignment(Qt::AlignLeading | Qt::AlignTop);
     layout->addWidget(m_verdict);
 
+    m_help = new LinkLabel(tr("How licence codes work"), this, QStringLiteral("helpLink"));
+    m_help->setForegroundRole(QPalette::Link);
+    m_help->setAccessibleName(m_help->text());
+    layout->addWidget(m_help);
+    connect(m_help, &LinkLabel::clicked, this, &LicenceDialog::helpRequested);
+
     auto* buttons = new QHBoxLayout;
     layout->addLayout(buttons);
     m_remove = new QPushButton(tr("&Remove"));
@@ -68,6 +76,12 @@ LicenceDialog::LicenceDialog(LicenceManager* manager, QWidget* parent) : QDialog
     showStatus();
     onCodeChanged();
     m_code->setFocus();
+}
+
+void LicenceDialog::showEvent(QShowEvent* event)
+{
+    m_help->setVisible(isSignalConnected(QMetaMethod::fromSignal(&LicenceDialog::helpRequested)));
+    QDialog::showEvent(event);
 }
 
 void LicenceDialog::showStatus()

@@ -5,6 +5,7 @@
 #include <QDialog>
 
 class LicenceManager;
+class LinkLabel;
 class QLabel;
 class QPlainTextEdit;
 class QPushButton;
@@ -23,6 +24,14 @@ public Q_SLOTS:
     /// Enters the code; stays open when something is wrong with it, and selects the group that is wrong.
     void accept() override;
 
+Q_SIGNALS:
+    /// The user asks what licence codes are. The link for it is there when somebody is connected as the dialog is
+    /// shown.
+    void helpRequested();
+
+protected:
+    void showEvent(QShowEvent* event) override;
+
 private:
     void onCodeChanged();
     void onRemove();
@@ -34,5 +43,6 @@ private:
     QLabel* m_status;
     QPlainTextEdit* m_code;
     QLabel* m_verdict;
+    LinkLabel* m_help;
     QPushButton* m_remove;
 };

@@ -6,6 +6,7 @@
 
 #include <QAction>
 #include <QHBoxLayout>
+#include <QPointer>
 #include <QStyle>
 #include <QToolButton>
 
@@ -18,7 +19,7 @@ PlusMinusButton::PlusMinusButton(QWidget* parent, QString plusTooltip, QString m
     m_plus = addButton("editor/plus_small");
     m_minus = addButton("editor/minus_small");
     connect(m_plus, &QToolButton::clicked, this, &PlusMinusButton::plusClicked);
-    connect(m_minus, &QToolButton::clicked, this, &PlusMinusButton::minusClicked);
+    connect(m_minus, &QToolButton::clicked, this, &PlusMinusButton::onMinusClicked);
     setPlusTooltip(plusTooltip);
     setMinusTooltip(minusTooltip);
 }
@@ -33,6 +34,20 @@ QToolButton* PlusMinusButton::addButton(const char* picture)
     button->setFocusPolicy(Qt::TabFocus);
     layout()->addWidget(button);
     return button;
+}
+
+void PlusMinusButton::onMinusClicked()
+{
+    const bool focused = m_minus->hasFocus();
+    const QPointer<PlusMinusButton> alive(this);
+    Q_EMIT minusClicked();
+    if (!alive || !focused || m_minus->hasFocus())
+        return;
+    // While nothing is selected the button is out of use, which sends the focus on: the next one is to go as well.
+    if (m_minus->isEnabled())
+        m_minus->setFocus();
+    else if (m_plus->isEnabled())
+        m_plus->setFocus();
 }
 
 void PlusMinusButton::setActions(QAction* plus, QAction* minus)

@@ -30,6 +30,7 @@ Q_SIGNALS:
 
 private:
     QToolButton* addButton(const char* picture);
+    void onMinusClicked();
 
     QToolButton* m_plus;
     QToolButton* m_minus;

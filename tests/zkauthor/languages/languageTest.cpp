@@ -51,10 +51,10 @@ QString bare(QString text)
 }
 
 /// What stands on view as it is in every language: units, and names in the samples and packages.
-const QSet<QString> unitsAndNames = {QStringLiteral("in"),     QStringLiteral("out"),  QStringLiteral("min"),
-                                     QStringLiteral("mile"),   QStringLiteral("kHz"),  QStringLiteral("one"),
-                                     QStringLiteral("two"),    QStringLiteral("knob"), QStringLiteral("apples"),
-                                     QStringLiteral("ripe"),   QStringLiteral("bell"), QStringLiteral("horn"),
+const QSet<QString> unitsAndNames = {QStringLiteral("in"),    QStringLiteral("out"),   QStringLiteral("min"),
+                                     QStringLiteral("mile"),  QStringLiteral("kHz"),   QStringLiteral("one"),
+                                     QStringLiteral("two"),   QStringLiteral("knob"),  QStringLiteral("apples"),
+                                     QStringLiteral("ripe"),  QStringLiteral("bell"),  QStringLiteral("horn"),
                                      QStringLiteral("picture")};
 
 /// The inspector shows keys and values as documents have them.

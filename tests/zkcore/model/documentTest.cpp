@@ -193,6 +193,30 @@ TEST_F(DocumentTest, locksKeepTheUserFromEditing)
     EXPECT_EQ(bytesOf(*m_document), before);
 }
 
+TEST_F(DocumentTest, sizeAndOrientationAreEditedOnlyWhereTheKindAllowsIt)
+{
+    PartImpl* lamp = addPart(*m_document, "electronics/led"); // not resizeable, turned by right angles
+    PartImpl* picture = addPart(*m_document, "core/picture");
+    EXPECT_FALSE(property(lamp, "size")->userCanEdit());
+    EXPECT_TRUE(property(lamp, "position")->userCanEdit());
+    EXPECT_TRUE(property(picture, "size")->userCanEdit());
+
+    PropertyImpl* orientation = property(lamp, "orientation");
+    QSignalSpy edit(orientation, &PropertyImpl::userCanEditChanged);
+    PropertyImpl* constraint = property(lamp, "orientation-constraint");
+    EXPECT_TRUE(orientation->userCanEdit());
+    ASSERT_TRUE(set(constraint, Value(QStringLiteral("free"))));
+    EXPECT_EQ(edit.count(), 0);
+    ASSERT_TRUE(set(constraint, Value(QStringLiteral("fixed"))));
+    EXPECT_FALSE(orientation->userCanEdit());
+    EXPECT_EQ(edit.count(), 1);
+    m_document->undo();
+    EXPECT_TRUE(orientation->userCanEdit());
+    EXPECT_EQ(edit.count(), 2);
+    // Users are kept from it; commands of the program are not.
+    EXPECT_TRUE(set(property(lamp, "size"), Value(zk::Point{0.03, 0.03})));
+}
+
 TEST_F(DocumentTest, idsAreUniqueAndSuggested)
 {
     PartImpl* one = addPart(*m_document, "testkit/box");

@@ -4,9 +4,12 @@
 
 #include <QBuffer>
 #include <QFile>
+#include <QLineEdit>
 #include <QMovie>
 #include <QSignalSpy>
 #include <QTest>
+#include <QToolButton>
+#include <QVBoxLayout>
 #include <gtest/gtest.h>
 
 namespace {
@@ -57,6 +60,30 @@ TEST(PlusMinusButtonTest, TellsWhichWasClicked)
     EXPECT_EQ(minus.count(), 1);
     buttons.setPlusTooltip(QString());
     EXPECT_EQ(both[0]->toolTip(), QString());
+}
+
+TEST(PlusMinusButtonTest, MinusKeepsTheFocusFromEntryToEntry)
+{
+    QWidget window;
+    auto* layout = new QVBoxLayout(&window);
+    auto* buttons = new PlusMinusButton(nullptr, "Add", "Remove");
+    layout->addWidget(buttons);
+    layout->addWidget(new QLineEdit);
+    window.show();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+    const QList<QToolButton*> both = buttons->findChildren<QToolButton*>();
+    int entries = 2;
+    QObject::connect(buttons, &PlusMinusButton::minusClicked, [&] {
+        buttons->setMinusEnabled(false); // nothing is selected any more ...
+        --entries;
+        buttons->setMinusEnabled(entries > 0); // ... until the next entry is
+    });
+    both[1]->setFocus();
+    QTest::keyClick(both[1], Qt::Key_Space);
+    EXPECT_TRUE(both[1]->hasFocus());
+    QTest::keyClick(both[1], Qt::Key_Space);
+    EXPECT_EQ(entries, 0);
+    EXPECT_TRUE(both[0]->hasFocus());
 }
 
 TEST(AnimatedButtonTest, OnlyTheMovieOfTheStateRuns)
