@@ -1,6 +1,4 @@
 // The menu entries of the main window.
-#include "zkauthor/actions.h"
-
 #include "windowTest.h"
 
 #include <QAction>

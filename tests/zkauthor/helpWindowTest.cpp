@@ -1,6 +1,4 @@
 // Pages that are compiled in, and the links that lead to them.
-#include "zkauthor/helpWindow.h"
-
 #include "tests/support/messageCapture.h"
 #include "windowTest.h"
 #include "zkauthor/helpBrowser.h"
