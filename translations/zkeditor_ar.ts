@@ -358,6 +358,14 @@
         <source>Read how things are done</source>
         <translation>قراءة كيفية القيام بالأمور</translation>
     </message>
+    <message>
+        <source>C&amp;lose Pop-up</source>
+        <translation>إ&amp;غلاق النافذة المنبثقة</translation>
+    </message>
+    <message>
+        <source>Close the pop-up on view</source>
+        <translation>إغلاق النافذة المنبثقة المعروضة</translation>
+    </message>
 </context>
 <context>
     <name>AddCustomPartDialog</name>

@@ -358,6 +358,14 @@
         <source>Read how things are done</source>
         <translation>Nachlesen, wie es gemacht wird</translation>
     </message>
+    <message>
+        <source>C&amp;lose Pop-up</source>
+        <translation>Pop-up schl&amp;ießen</translation>
+    </message>
+    <message>
+        <source>Close the pop-up on view</source>
+        <translation>Das gezeigte Pop-up schließen</translation>
+    </message>
 </context>
 <context>
     <name>AddCustomPartDialog</name>

@@ -358,6 +358,14 @@
         <source>Read how things are done</source>
         <translation>Lire comment faire</translation>
     </message>
+    <message>
+        <source>C&amp;lose Pop-up</source>
+        <translation>Fer&amp;mer la bulle</translation>
+    </message>
+    <message>
+        <source>Close the pop-up on view</source>
+        <translation>Fermer la bulle affichée</translation>
+    </message>
 </context>
 <context>
     <name>AddCustomPartDialog</name>

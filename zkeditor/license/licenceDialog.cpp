@@ -6,6 +6,7 @@
 #include "zkeditor/license/licenceText.h"
 #include "zkeditor/widgets/errorLabel.h"
 #include "zkeditor/widgets/linkLabel.h"
+#include "zkeditor/widgets/errorLabel.h"
 
 #include <QFontDatabase>
 #include <QHBoxLayout>
