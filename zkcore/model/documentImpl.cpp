@@ -2,6 +2,7 @@
 
 #include "zkcore/commands/command.h"
 #include "zkcore/media/resourceEntry.h"
+#include "zkcore/model/changeMarks.h"
 #include "zkcore/model/coreKeys.h"
 #include "zkcore/model/modelMutator.h"
 #include "zkcore/model/nodeRegistry.h"
@@ -10,6 +11,7 @@
 #include "zkcore/services/crashHandler.h"
 #include "zkcore/services/statistic.h"
 #include "zkcore/storage/documentFile.h"
+#include "zkcore/storage/durableFile.h"
 #include "zkcore/storage/package.h"
 
 #include <QElapsedTimer>
@@ -107,6 +109,8 @@ void DocumentImpl::replaceContent(NodeSnapshot&& root, InstanceId nextId)
     for (NodeSnapshot& child : root.children)
         mutator.build(m_model, child, built);
     mutator.linkProxies(built);
+    if (m_changeMarks)
+        m_changeMarks->addAll();
 }
 
 void DocumentImpl::clearHistory()
@@ -375,6 +379,12 @@ bool DocumentImpl::isModified() const
     return m_unrecordedChange || !m_undoStack->isClean();
 }
 
+void DocumentImpl::markUnsaved()
+{
+    m_unrecordedChange = true;
+    updateModified();
+}
+
 void DocumentImpl::updateModified()
 {
     if (const bool modified = isModified(); modified != m_wasModified) {
@@ -418,6 +428,23 @@ bool DocumentImpl::loadFrom(QIODevice& device, const QString& name)
     return true;
 }
 
+bool DocumentImpl::recover(const QString& recoveryFile, const QString& original)
+{
+    m_lastError.clear();
+    QFile file(recoveryFile);
+    if (!file.open(QIODevice::ReadOnly)) {
+        m_lastError = tr("%1: %2").arg(recoveryFile, file.errorString());
+        return false;
+    }
+    if (!readContent(file, recoveryFile))
+        return false;
+    m_url = original.isEmpty() ? QUrl() : QUrl::fromLocalFile(QFileInfo(original).absoluteFilePath());
+    CrashHandler::setOpenDocument(original);
+    m_unrecordedChange = true;
+    finishLoading();
+    return true;
+}
+
 bool DocumentImpl::readContent(QIODevice& device, const QString& name)
 {
     DocumentContent content;
@@ -441,7 +468,7 @@ void DocumentImpl::finishLoading()
 bool DocumentImpl::save(const QString& fileName)
 {
     m_lastError.clear();
-    QSaveFile file(fileName);
+    QSaveFile file(durableFile::target(fileName));
     if (!file.open(QIODevice::WriteOnly)) {
         m_lastError = tr("%1: %2").arg(fileName, file.errorString());
         return false;
@@ -451,7 +478,7 @@ bool DocumentImpl::save(const QString& fileName)
         m_lastError = tr("%1: %2").arg(fileName, m_lastError);
         return false;
     }
-    if (!file.commit()) {
+    if (!durableFile::commit(file)) {
         m_lastError = tr("%1: %2").arg(fileName, file.errorString());
         return false;
     }

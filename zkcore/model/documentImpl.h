@@ -21,6 +21,7 @@
 #include <vector>
 
 class Command;
+class ChangeMarks;
 class ChangeSet;
 class ModelMutator;
 class NodeRegistry;
@@ -111,6 +112,13 @@ public:
 
     /// Whether the document differs from what was last loaded or saved.
     bool isModified() const;
+    /// To be called when the file does not hold any more what was loaded or saved: the document counts as modified
+    /// until it is saved, whatever is undone.
+    void markUnsaved();
+    /// Whether a command, undo or redo is at work, so that what is there now may be half of it.
+    bool isChanging() const { return m_mutator || m_historyBusy; }
+    /// Where every change that is saved with the document is noted from now on; null: nowhere. Not owned.
+    void setChangeMarks(ChangeMarks* marks) { m_changeMarks = marks; }
 
     // File
     /// The document as a resource of type DATA named by its file name; null resource before it was saved.
@@ -122,6 +130,9 @@ public:
     bool load(const QString& fileName);
     /// As load, from a device; the document has no file then. The name stands in messages.
     bool loadFrom(QIODevice& device, const QString& name);
+    /// As load, from a file that was written for recovery. The document then counts as modified, and as that of the
+    /// file `original`; of none when that is empty.
+    bool recover(const QString& recoveryFile, const QString& original);
     /// Writes the file; the old one stays when anything fails (lastError()). Emits saved().
     bool save(const QString& fileName);
     /// What was kept but not understood while loading (unknown classes, values out of range), one sentence each.
@@ -194,6 +205,7 @@ private:
     mutable std::shared_ptr<const std::vector<InstanceId>> m_selectionIds; // null when the selection changed since
     std::shared_ptr<const std::vector<InstanceId>> m_selectionToRestore;
     CommandListener m_commandListener;
+    ChangeMarks* m_changeMarks = nullptr;
     QString m_lastError;
     LiveText m_openStepDescription;
     QStringList m_loadWarnings;

@@ -2,6 +2,7 @@
 
 #include "zkcore/commands/command.h"
 #include "zkcore/media/resourceEntry.h"
+#include "zkcore/model/changeMarks.h"
 #include "zkcore/model/changes.h"
 #include "zkcore/model/coreKeys.h"
 #include "zkcore/model/nodeFactory.h"
@@ -83,6 +84,18 @@ void ModelMutator::noteValue(const PropertyAddress& address, Value before, Value
     m_valueBatch->add(address, std::move(before), std::move(after));
 }
 
+void ModelMutator::markValue(InstanceId node)
+{
+    if (m_document.m_changeMarks)
+        m_document.m_changeMarks->addValue(node);
+}
+
+void ModelMutator::markShape(InstanceId node)
+{
+    if (m_document.m_changeMarks)
+        m_document.m_changeMarks->addShape(node);
+}
+
 bool ModelMutator::setValue(const PropertyAddress& address, const Value& value)
 {
     NodeImpl* owner = node(address.node);
@@ -106,8 +119,11 @@ bool ModelMutator::setValue(const PropertyAddress& address, const Value& value)
     if (!changed && !always)
         return false;
     if (changed) {
-        if (m_changes && !(definition.flags & PropertyDefinition::Transient))
-            noteValue(address, before, value);
+        if (!(definition.flags & PropertyDefinition::Transient)) {
+            markValue(address.node);
+            if (m_changes)
+                noteValue(address, before, value);
+        }
         if (address.key == coreKeys::id() && address.domain == INVALID_CID && NodeRegistry::hasRegisteredId(owner)) {
             m_document.m_registry->leaveTextId(before.toQString(), address.node);
             m_document.m_registry->enterTextId(value.toQString(), address.node);
@@ -154,6 +170,9 @@ NodeImpl* ModelMutator::addNode(InstanceId parentId, unsigned int index, NodeSna
     NodeImpl* made = build(nullptr, std::as_const(snapshot), built);
     attach(*parent, index, made);
     linkProxies(built);
+    markShape(parentId);
+    if (m_document.m_changeMarks)
+        m_document.m_changeMarks->addNode(snapshot.id);
     if (m_changes) {
         const int at = parent->getIndexForChild(made);
         m_changes->add(std::make_unique<NodeChange>(NodeChange::Added, parentId,
@@ -330,6 +349,7 @@ void ModelMutator::removeNode(InstanceId id)
                                                     at < 0 ? 0u : static_cast<unsigned int>(at), id,
                                                     NodeSnapshot::of(*root)));
     }
+    markShape(parent->instanceId());
     if (root->kind() == NodeKind::Popup)
         static_cast<PartImpl*>(parent)->m_popup = nullptr;
     else
@@ -435,6 +455,7 @@ void ModelMutator::moveNode(InstanceId id, unsigned int index)
         return;
     parent->m_children.remove(moved);
     parent->m_children.insert(index, moved);
+    markShape(parent->instanceId());
     if (m_changes)
         m_changes->add(std::make_unique<MoveChange>(id, static_cast<unsigned int>(before), index));
     Q_EMIT m_document.nodeMoved(moved);
@@ -450,6 +471,7 @@ void ModelMutator::setProxy(const PropertyAddress& address, const PropertyAddres
     const PropertyAddress before = property->isProxy() ? property->proxySubject()->address() : PropertyAddress();
     if (m_changes)
         m_changes->add(std::make_unique<ProxyChange>(address, before, target));
+    markShape(address.node);
     const Property handle(property);
     if (property->isProxy())
         unlink(*property);
@@ -477,6 +499,7 @@ void ModelMutator::detachProxy(const PropertyAddress& address)
         m_changes->add(std::make_unique<ProxyChange>(address, before, PropertyAddress()));
     }
     const Value seen = property->getValue();
+    markShape(address.node);
     unlink(*property);
     const Property handle(property);
     if (!(property->getValue() == seen)) {
@@ -528,6 +551,7 @@ void ModelMutator::setLocks(InstanceId id, unsigned int locks)
     }
 
     element->m_locks = static_cast<unsigned char>(locks);
+    markValue(id);
     if (m_changes)
         m_changes->add(std::make_unique<LocksChange>(id, before, locks));
     for (const auto& [handle, could] : affected) {
@@ -547,6 +571,8 @@ void ModelMutator::addResource(std::shared_ptr<const ResourceEntry> entry)
     if (m_document.m_resources.contains(name))
         return;
     m_document.m_resources.insert(name, entry);
+    if (m_document.m_changeMarks)
+        m_document.m_changeMarks->addResources();
     if (m_changes)
         m_changes->add(std::make_unique<ResourceChange>(std::move(entry), true));
     Q_EMIT m_document.resourcesChanged();
@@ -557,6 +583,8 @@ void ModelMutator::removeResource(const QString& name)
     const std::shared_ptr<const ResourceEntry> entry = m_document.m_resources.take(name);
     if (!entry)
         return;
+    if (m_document.m_changeMarks)
+        m_document.m_changeMarks->addResources();
     if (m_changes)
         m_changes->add(std::make_unique<ResourceChange>(entry, false));
     Q_EMIT m_document.resourcesChanged();

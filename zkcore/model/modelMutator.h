@@ -94,6 +94,8 @@ private:
     /// An orientation that may be, or may no more be, edited.
     void tellOrientationEditability(const NodeImpl& owner);
     void dropFromSelection(NodeImpl* node);
+    void markValue(InstanceId node);
+    void markShape(InstanceId node);
 
     DocumentImpl& m_document;
     std::unique_ptr<ChangeSet> m_own; // of the outermost mutator

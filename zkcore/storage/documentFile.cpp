@@ -150,25 +150,6 @@ private:
     bool m_hasModel = false;
 };
 
-void writeResources(QXmlStreamWriter& xml, const std::vector<Resource>& resources)
-{
-    if (resources.empty())
-        return;
-    xml.writeStartElement(QStringLiteral("resources"));
-    for (const Resource& resource : resources) {
-        const ResourceEntry* entry = resource.entry();
-        if (!entry)
-            continue;
-        xml.writeStartElement(QStringLiteral("resource"));
-        xml.writeAttribute(QStringLiteral("name"), valueToText(Value(entry->name())));
-        xml.writeAttribute(QStringLiteral("type"), Resource::typeAsString(entry->type()));
-        xml.writeAttribute(QStringLiteral("extension"), valueToText(Value(entry->extension())));
-        xml.writeCharacters(QString::fromLatin1(entry->data().toBase64()));
-        xml.writeEndElement();
-    }
-    xml.writeEndElement();
-}
-
 /// The parser meets a wrong byte when it decodes the block around it, long before the text that it stands in: this
 /// finds the line and column of the first byte of the file that is not UTF-8. False when there is none.
 bool findWrongByte(QIODevice& device, qint64& line, qint64& column)
@@ -221,6 +202,32 @@ bool DocumentFile::read(QIODevice& device, const QString& name, NodeDb& db, Docu
     return true;
 }
 
+void DocumentFile::writeStart(QXmlStreamWriter& xml, InstanceId nextId)
+{
+    xml.writeStartElement(QStringLiteral("zkdoc"));
+    xml.writeAttribute(QStringLiteral("version"), QString::number(formatVersion));
+    xml.writeAttribute(QStringLiteral("next-id"), QString::number(nextId));
+}
+
+void DocumentFile::writeResources(QXmlStreamWriter& xml, const std::vector<Resource>& resources)
+{
+    if (resources.empty())
+        return;
+    xml.writeStartElement(QStringLiteral("resources"));
+    for (const Resource& resource : resources) {
+        const ResourceEntry* entry = resource.entry();
+        if (!entry)
+            continue;
+        xml.writeStartElement(QStringLiteral("resource"));
+        xml.writeAttribute(QStringLiteral("name"), valueToText(Value(entry->name())));
+        xml.writeAttribute(QStringLiteral("type"), Resource::typeAsString(entry->type()));
+        xml.writeAttribute(QStringLiteral("extension"), valueToText(Value(entry->extension())));
+        xml.writeCharacters(QString::fromLatin1(entry->data().toBase64()));
+        xml.writeEndElement();
+    }
+    xml.writeEndElement();
+}
+
 bool DocumentFile::write(QIODevice& device, const DocumentImpl& document, QString& error)
 {
     error.clear();
@@ -232,9 +239,7 @@ bool DocumentFile::write(QIODevice& device, const DocumentImpl& document, QStrin
     xml.setAutoFormatting(true);
     xml.setAutoFormattingIndent(1);
     xml.writeStartDocument();
-    xml.writeStartElement(QStringLiteral("zkdoc"));
-    xml.writeAttribute(QStringLiteral("version"), QString::number(formatVersion));
-    xml.writeAttribute(QStringLiteral("next-id"), QString::number(document.nextFreeId()));
+    writeStart(xml, document.nextFreeId());
     writeResources(xml, document.localResources());
     NodeXml::Writer nodes(xml);
     nodes.write(*document.m_model);

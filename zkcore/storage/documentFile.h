@@ -12,6 +12,7 @@
 class DocumentImpl;
 class NodeDb;
 class QIODevice;
+class QXmlStreamWriter;
 
 /// What a document file holds, read but not yet made into live nodes.
 struct DocumentContent
@@ -37,4 +38,9 @@ public:
     static bool read(QIODevice& device, const QString& name, NodeDb& db, DocumentContent& content, QString& error);
     /// Writes the document. False with a message when the device fails.
     static bool write(QIODevice& device, const DocumentImpl& document, QString& error);
+
+    /// The start of a document up to its resources, its resources, and its end; the writer's root element is the
+    /// document's.
+    static void writeStart(QXmlStreamWriter& xml, InstanceId nextId);
+    static void writeResources(QXmlStreamWriter& xml, const std::vector<Resource>& resources);
 };

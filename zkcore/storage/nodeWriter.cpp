@@ -169,33 +169,42 @@ void NodeXml::Writer::writeDomains(const NodeImpl& node)
     startDomain(INVALID_CID);
 }
 
-void NodeXml::Writer::write(const NodeImpl& node)
+void NodeXml::Writer::writeStart(const NodeImpl& node)
 {
-    if (m_depth == maximumDepth) {
-        m_tooDeep = true;
-        return;
-    }
     const NodeKind kind = node.kind();
-    const bool space = kind == NodeKind::Scene || kind == NodeKind::Popup;
     startNode(kind, node.classId(), node.m_instanceId);
     if (kind == NodeKind::Part || kind == NodeKind::Subpart) {
         const auto& element = static_cast<const ElementImpl&>(node);
         writeElementAttributes(element.lockMask(), element.isAdhoc(), element.reflectedId(), element.reflectionKind());
     }
     writeStore(node, INVALID_CID, node.m_store);
-    if (space)
+    if (kind == NodeKind::Scene || kind == NodeKind::Popup)
         writeDomains(node);
+}
+
+void NodeXml::Writer::writeEnd(const NodeImpl& node)
+{
+    if (node.m_unknown && !node.m_unknown->isEmpty())
+        xmlText::writeElements(m_xml, *node.m_unknown);
+    m_xml.writeEndElement();
+}
+
+void NodeXml::Writer::write(const NodeImpl& node)
+{
+    if (m_depth == maximumDepth) {
+        m_tooDeep = true;
+        return;
+    }
+    writeStart(node);
     ++m_depth;
     for (const NodeImpl* child : node.m_children)
         write(*child);
-    if (kind == NodeKind::Part) {
+    if (node.kind() == NodeKind::Part) {
         if (const PopupImpl* popup = static_cast<const PartImpl&>(node).popup())
             write(*popup);
     }
     --m_depth;
-    if (node.m_unknown && !node.m_unknown->isEmpty())
-        xmlText::writeElements(m_xml, *node.m_unknown);
-    m_xml.writeEndElement();
+    writeEnd(node);
 }
 
 void NodeXml::Writer::write(const NodeSnapshot& node, const NodeDb& db)

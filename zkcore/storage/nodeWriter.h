@@ -13,6 +13,9 @@ public:
     explicit Writer(QXmlStreamWriter& xml);
 
     void write(const NodeImpl& node);
+    /// What stands before the node's children, and what stands after them.
+    void writeStart(const NodeImpl& node);
+    void writeEnd(const NodeImpl& node);
     void write(const NodeSnapshot& node, const NodeDb& db);
     /// Whether nodes were left out because they stand too deep to be read again.
     bool leftOutDeepNodes() const { return m_tooDeep; }
