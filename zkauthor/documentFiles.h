@@ -1,15 +1,21 @@
 #pragma once
 
+#include "zkcore/storage/fileStamp.h"
+#include "zkcore/storage/recoveryWriter.h"
+
 #include <QObject>
 #include <QPointer>
 #include <memory>
 
 class DocumentImpl;
+class FileWatch;
 class QWidget;
 class RecentFiles;
+class RecoveryOffers;
 
-/// The document of a main window and its file: new, open, save, revert, and the questions before something is lost. It
-/// is no part of the window, so that another window can take over the document with its history and file.
+/// The document of a main window and its file: new, open, save, revert, and the questions before something is lost;
+/// what other programs do to the file; what is kept to recover the document. It is no part of the window, so that
+/// another window can take over the document with its history and file.
 class DocumentFiles : public QObject
 {
     Q_OBJECT
@@ -26,6 +32,8 @@ public:
     QString fileName() const;
     /// What people call the document: the file's name without its folder, or "Untitled".
     QString displayName() const;
+    /// Whether the document was recovered and not saved since.
+    bool isRecovered() const { return m_recovered; }
     /// The window that messages and questions belong to. Not owned.
     void setWindow(QWidget* window);
     QWidget* window() const { return m_window; }
@@ -46,6 +54,25 @@ public:
     bool saveAs();
     void revert();
 
+    /// What another program did to the file since it was last read or saved, and the user has not answered to.
+    FileStamp::State diskState() const;
+    /// Reads the file again; asks when that loses changes.
+    void reload();
+    /// The user keeps what is in the window.
+    void keepMine();
+
+    /// From now on the document is kept in the folder while it is edited, no change longer than the interval (in
+    /// milliseconds) not at all. Offers what is left over there. Not called, nothing is kept.
+    void enableRecovery(const QString& folder, int interval = RecoveryWriter::defaultInterval);
+    /// What can be recovered.
+    RecoveryOffers* offers() const { return m_offers; }
+    /// Opens what is offered in place of the document, after asking about that. It counts as modified.
+    void recover(size_t offer);
+    /// Asks, then removes what is offered.
+    void discardOffer(size_t offer);
+    /// The window is closed for good and the user was asked: nothing needs to be kept any more.
+    void forget();
+
 Q_SIGNALS:
     /// What is being typed has to enter the document now.
     void pendingEditWanted();
@@ -55,12 +82,26 @@ Q_SIGNALS:
     void noticed(const QString& text);
     /// Something could not be done: what, and why.
     void failed(const QString& text, const QString& reason);
+    /// isRecovered() changed.
+    void recoveredChanged();
+    void diskStateChanged();
 
 private:
     void setDocument(std::unique_ptr<DocumentImpl> document);
     bool saveTo(const QString& fileName);
+    /// Asks before the file is written over that another program changed. True when it may be; false when the user
+    /// cancelled, or saved under another name.
+    bool mayOverwrite(bool& savedElsewhere);
+    bool mayLoseChanges();
+    void reopen();
+    void onDiskStateChanged();
+    void setRecovered(bool recovered);
 
     std::unique_ptr<DocumentImpl> m_document;
     RecentFiles* m_recent;
+    FileWatch* m_watch;
+    RecoveryOffers* m_offers;
+    std::unique_ptr<RecoveryWriter> m_recovery; // null: nothing is kept
     QPointer<QWidget> m_window;
+    bool m_recovered = false;
 };

@@ -1,6 +1,7 @@
 // Start-up of the host: command line, message handler, crash handler, main window.
 #include "zkauthor/checkForms.h"
 #include "zkauthor/darkPalette.h"
+#include "zkauthor/documentFiles.h"
 #include "zkauthor/mainWindow.h"
 #include "zkauthor/preferences.h"
 #include "zkauthor/screenshot.h"
@@ -19,6 +20,7 @@
 #include <QMessageBox>
 #include <QPalette>
 #include <QSettings>
+#include <QStandardPaths>
 #include <cstdio>
 
 namespace {
@@ -138,6 +140,8 @@ int main(int argc, char** argv)
     if (!options.document.isEmpty() && !window.openStartDocument(options.document, error))
         showMessage(&window, QMessageBox::Warning,
                     QApplication::translate("main", "%1 cannot be opened.").arg(options.document), error);
+    window.files()->enableRecovery(QStandardPaths::writableLocation(QStandardPaths::AppLocalDataLocation) +
+                                   QStringLiteral("/recovery"));
     if (!crashReport.isEmpty())
         showMessage(&window, QMessageBox::Information, crashText, QString());
     return QApplication::exec();

@@ -6,6 +6,7 @@
 #include "zkauthor/flowchartBar.h"
 #include "zkauthor/helpWindow.h"
 #include "zkauthor/insertMenu.h"
+#include "zkauthor/notices.h"
 #include "zkauthor/palettes.h"
 #include "zkauthor/partEditor.h"
 #include "zkauthor/partHelp.h"
@@ -49,7 +50,7 @@ MainWindow::MainWindow(QWidget* parent, std::shared_ptr<DocumentFiles> files)
       m_zoomText(new QLabel)
 {
     setObjectName(QStringLiteral("mainWindow"));
-    setCentralWidget(m_tabs);
+    setCentralWidget(new Notices(m_files.get(), m_tabs));
     resize(1180, 760);
 
     for (const auto& [label, name] :
@@ -150,6 +151,7 @@ void MainWindow::connectActions()
     const auto note = [this](const QString& text) { statusBar()->showMessage(text, 6000); };
     connect(files, &DocumentFiles::documentReplaced, this, &MainWindow::setDocument);
     connect(files, &DocumentFiles::pendingEditWanted, m_palettes, &Palettes::commitPendingEdit);
+    connect(files, &DocumentFiles::recoveredChanged, this, &MainWindow::updateTitle);
     connect(files, &DocumentFiles::noticed, this, note);
     connect(files, &DocumentFiles::failed, this, &MainWindow::showError);
     connect(m_printing, &Printing::done, this, note);
@@ -226,7 +228,8 @@ QString MainWindow::fileName() const
 void MainWindow::updateTitle()
 {
     const QString file = fileName();
-    const QString name = m_files->displayName();
+    const QString name =
+        m_files->isRecovered() ? tr("%1 (recovered)").arg(m_files->displayName()) : m_files->displayName();
     const QString licence = m_licence->captionText();
     setWindowTitle(licence.isEmpty() ? QStringLiteral("%1[*] - zkauthor").arg(name)
                                      : QStringLiteral("%1[*] - zkauthor (%2)").arg(name, licence));
@@ -468,6 +471,7 @@ void MainWindow::closeEvent(QCloseEvent* event)
         event->ignore();
         return;
     }
+    m_files->forget();
     if (SettingsService::exists())
         SettingsService::instance()->write();
     event->accept();

@@ -32,7 +32,7 @@ FileStamp FileStamp::of(const QString& fileName)
 FileStamp::State FileStamp::compare(const QString& fileName)
 {
     const QFileInfo info(fileName);
-    if (!info.exists())
+    if (!info.isFile())
         return State::Gone;
     const QDateTime now = info.lastModified().toUTC();
     if (!valid || info.size() != size)

@@ -59,6 +59,8 @@ void RecoveryWriter::setDocument(DocumentImpl* document)
         else
             discard();
     });
+    if (document->isModified())
+        onFirstChange();
 }
 
 void RecoveryWriter::setOriginal(const QString& fileName, const FileStamp& stamp)
@@ -158,7 +160,8 @@ void RecoveryWriter::takePicture()
     m_disk.start([this, file = std::move(file), picture = std::move(picture), name = m_place->fileName()] {
         QString reason;
         const bool good = file.write(name, picture, reason);
-        QMetaObject::invokeMethod(this, [this, good, reason] { onWritten(good, reason); }, Qt::QueuedConnection);
+        QMetaObject::invokeMethod(
+            this, [this, good, reason] { onWritten(good, reason); }, Qt::QueuedConnection);
     });
 }
 
