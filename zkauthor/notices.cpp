@@ -24,6 +24,7 @@ NoticeBar* Notices::addBar(const QString& title, const QString& details)
 {
     auto* bar = new NoticeBar(title, details, this);
     m_column->insertWidget(m_column->count() - 1, bar);
+    bar->show();
     return bar;
 }
 
