@@ -71,7 +71,7 @@ void Notices::showOffers()
     DocumentFiles* files = m_files;
     size_t index = 0;
     for (const RecoveryOffers::Offer& offer : files->offers()->offers()) {
-        NoticeBar* bar = addBar(offer.title, offer.details);
+        NoticeBar* bar = addBar(offer.title(), offer.details());
         if (offer.place) {
             bar->addButton(tr("Re&cover"), "recover", [files, index] { files->recover(index); });
             bar->addButton(tr("&Discard"), "discard", [files, index] { files->discardOffer(index); });
