@@ -358,14 +358,6 @@
         <source>Read how things are done</source>
         <translation>قراءة كيفية القيام بالأمور</translation>
     </message>
-    <message>
-        <source>C&amp;lose Pop-up</source>
-        <translation>إ&amp;غلاق النافذة المنبثقة</translation>
-    </message>
-    <message>
-        <source>Close the pop-up on view</source>
-        <translation>إغلاق النافذة المنبثقة المعروضة</translation>
-    </message>
 </context>
 <context>
     <name>AddCustomPartDialog</name>
@@ -1285,6 +1277,44 @@ Please enter another id</source>
     <message>
         <source>Lose all changes made since %1 was last saved?</source>
         <translation>هل تريد فقد كل التغييرات منذ آخر حفظ لـ %1؟</translation>
+    </message>
+    <message>
+        <source>Changed by another program</source>
+        <translation>عدّله برنامج آخر</translation>
+    </message>
+    <message>
+        <source>%1 was changed by another program.</source>
+        <translation>عدّل برنامج آخر %1.</translation>
+    </message>
+    <message>
+        <source>Saving replaces what it wrote.</source>
+        <translation>الحفظ يحلّ محلّ ما كتبه.</translation>
+    </message>
+    <message>
+        <source>Save &amp;As...</source>
+        <translation>حفظ &amp;باسم...</translation>
+    </message>
+    <message>
+        <source>Nothing is kept for recovery: %1</source>
+        <translation>لا يُحتفظ بشيء للاسترجاع: %1</translation>
+    </message>
+    <message>
+        <source>The document cannot be recovered.</source>
+        <translation>لا يمكن استرجاع المستند.</translation>
+    </message>
+    <message>
+        <source>%1
+The file is now %2.</source>
+        <translation>%1
+الملف الآن %2.</translation>
+    </message>
+    <message>
+        <source>Discard</source>
+        <translation>تجاهل</translation>
+    </message>
+    <message>
+        <source>Lose what can be recovered?</source>
+        <translation>هل تريد فقدان ما يمكن استرجاعه؟</translation>
     </message>
 </context>
 <context>
@@ -2241,6 +2271,10 @@ Please enter another id</source>
         <source>Selected: %1</source>
         <translation>المحدد: %1</translation>
     </message>
+    <message>
+        <source>%1 (recovered)</source>
+        <translation>%1 (مسترجَع)</translation>
+    </message>
 </context>
 <context>
     <name>MessagesPane</name>
@@ -2342,6 +2376,61 @@ Please enter another id</source>
     <message>
         <source>Shows the properties of the scene on view</source>
         <translation>يعرض خصائص المشهد المعروض</translation>
+    </message>
+</context>
+<context>
+    <name>Notices</name>
+    <message>
+        <source>%1 was changed by another program.</source>
+        <translation>عدّل برنامج آخر %1.</translation>
+    </message>
+    <message>
+        <source>Reloading shows what it wrote and loses what you have not saved.</source>
+        <translation>إعادة التحميل تعرض ما كتبه وتُفقدك ما لم تحفظه.</translation>
+    </message>
+    <message>
+        <source>Re&amp;load</source>
+        <translation>إعادة ال&amp;تحميل</translation>
+    </message>
+    <message>
+        <source>Save &amp;As...</source>
+        <translation>حفظ &amp;باسم...</translation>
+    </message>
+    <message>
+        <source>&amp;Keep Mine</source>
+        <translation>الا&amp;حتفاظ بنسختي</translation>
+    </message>
+    <message>
+        <source>%1 was deleted, renamed or moved by another program.</source>
+        <translation>حذف برنامج آخر %1 أو غيّر اسمه أو نقله.</translation>
+    </message>
+    <message>
+        <source>What you see is in this window only until it is saved again.</source>
+        <translation>ما تراه موجود في هذه النافذة فقط إلى أن يُحفظ من جديد.</translation>
+    </message>
+    <message>
+        <source>Save A&amp;gain</source>
+        <translation>حفظ من &amp;جديد</translation>
+    </message>
+    <message>
+        <source>Not &amp;Now</source>
+        <translation>ليس ا&amp;لآن</translation>
+    </message>
+    <message>
+        <source>Re&amp;cover</source>
+        <translation>ا&amp;سترجاع</translation>
+    </message>
+    <message>
+        <source>&amp;Discard</source>
+        <translation>ت&amp;جاهل</translation>
+    </message>
+    <message>
+        <source>La&amp;ter</source>
+        <translation>لا&amp;حقًا</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>إ&amp;غلاق</translation>
     </message>
 </context>
 <context>
@@ -3463,6 +3552,52 @@ Please enter another id</source>
     <message>
         <source>No recent files</source>
         <translation>لا ملفات أخيرة</translation>
+    </message>
+</context>
+<context>
+    <name>RecoveryOffers</name>
+    <message>
+        <source>What was kept of a document cannot be read.</source>
+        <translation>لا يمكن قراءة ما احتُفظ به من مستند.</translation>
+    </message>
+    <message>
+        <source>A document that was never saved can be recovered.</source>
+        <translation>يمكن استرجاع مستند لم يُحفظ قط.</translation>
+    </message>
+    <message>
+        <source>Changes to %1 that were not saved can be recovered.</source>
+        <translation>يمكن استرجاع تعديلات على %1 لم تُحفظ.</translation>
+    </message>
+    <message>
+        <source>The damaged file is %1.</source>
+        <translation>الملف التالف هو %1.</translation>
+    </message>
+    <message>
+        <source>Last saved: %1.</source>
+        <translation>آخر حفظ: %1.</translation>
+    </message>
+    <message>
+        <source>Last kept: %1.</source>
+        <translation>آخر نسخة محتفظ بها: %1.</translation>
+    </message>
+    <message>
+        <source>The file itself is not there any more.</source>
+        <translation>الملف نفسه لم يعد موجودًا.</translation>
+    </message>
+    <message>
+        <source>The file itself is newer: it was changed on %1.</source>
+        <translation>الملف نفسه أحدث: عُدّل في %1.</translation>
+    </message>
+    <message>
+        <source>The file itself was changed since, on %1.</source>
+        <translation>عُدّل الملف نفسه منذ ذلك الحين، في %1.</translation>
+    </message>
+</context>
+<context>
+    <name>RecoveryPlace</name>
+    <message>
+        <source>The folder %1 cannot be written.</source>
+        <translation>لا يمكن الكتابة في المجلد %1.</translation>
     </message>
 </context>
 <context>

@@ -358,14 +358,6 @@
         <source>Read how things are done</source>
         <translation>Nachlesen, wie es gemacht wird</translation>
     </message>
-    <message>
-        <source>C&amp;lose Pop-up</source>
-        <translation>Pop-up schl&amp;ießen</translation>
-    </message>
-    <message>
-        <source>Close the pop-up on view</source>
-        <translation>Das gezeigte Pop-up schließen</translation>
-    </message>
 </context>
 <context>
     <name>AddCustomPartDialog</name>
@@ -1269,6 +1261,44 @@ Bitte geben Sie eine andere Kennung ein</translation>
     <message>
         <source>Lose all changes made since %1 was last saved?</source>
         <translation>Alle Änderungen verlieren, seit %1 zuletzt gespeichert wurde?</translation>
+    </message>
+    <message>
+        <source>Changed by another program</source>
+        <translation>Von einem anderen Programm geändert</translation>
+    </message>
+    <message>
+        <source>%1 was changed by another program.</source>
+        <translation>%1 wurde von einem anderen Programm geändert.</translation>
+    </message>
+    <message>
+        <source>Saving replaces what it wrote.</source>
+        <translation>Speichern ersetzt, was es geschrieben hat.</translation>
+    </message>
+    <message>
+        <source>Save &amp;As...</source>
+        <translation>Speichern &amp;unter...</translation>
+    </message>
+    <message>
+        <source>Nothing is kept for recovery: %1</source>
+        <translation>Für eine Wiederherstellung wird nichts aufbewahrt: %1</translation>
+    </message>
+    <message>
+        <source>The document cannot be recovered.</source>
+        <translation>Das Dokument kann nicht wiederhergestellt werden.</translation>
+    </message>
+    <message>
+        <source>%1
+The file is now %2.</source>
+        <translation>%1
+Die Datei ist jetzt %2.</translation>
+    </message>
+    <message>
+        <source>Discard</source>
+        <translation>Verwerfen</translation>
+    </message>
+    <message>
+        <source>Lose what can be recovered?</source>
+        <translation>Verlieren, was wiederhergestellt werden kann?</translation>
     </message>
 </context>
 <context>
@@ -2201,6 +2231,10 @@ Bitte geben Sie eine andere Kennung ein</translation>
         <source>Selected: %1</source>
         <translation>Ausgewählt: %1</translation>
     </message>
+    <message>
+        <source>%1 (recovered)</source>
+        <translation>%1 (wiederhergestellt)</translation>
+    </message>
 </context>
 <context>
     <name>MessagesPane</name>
@@ -2298,6 +2332,61 @@ Bitte geben Sie eine andere Kennung ein</translation>
     <message>
         <source>Shows the properties of the scene on view</source>
         <translation>Zeigt die Eigenschaften der Szene im Blick</translation>
+    </message>
+</context>
+<context>
+    <name>Notices</name>
+    <message>
+        <source>%1 was changed by another program.</source>
+        <translation>%1 wurde von einem anderen Programm geändert.</translation>
+    </message>
+    <message>
+        <source>Reloading shows what it wrote and loses what you have not saved.</source>
+        <translation>Neu laden zeigt, was es geschrieben hat, und verliert, was Sie nicht gespeichert haben.</translation>
+    </message>
+    <message>
+        <source>Re&amp;load</source>
+        <translation>Neu &amp;laden</translation>
+    </message>
+    <message>
+        <source>Save &amp;As...</source>
+        <translation>Speichern &amp;unter...</translation>
+    </message>
+    <message>
+        <source>&amp;Keep Mine</source>
+        <translation>&amp;Meines behalten</translation>
+    </message>
+    <message>
+        <source>%1 was deleted, renamed or moved by another program.</source>
+        <translation>%1 wurde von einem anderen Programm gelöscht, umbenannt oder verschoben.</translation>
+    </message>
+    <message>
+        <source>What you see is in this window only until it is saved again.</source>
+        <translation>Was Sie sehen, ist nur in diesem Fenster, bis es wieder gespeichert wird.</translation>
+    </message>
+    <message>
+        <source>Save A&amp;gain</source>
+        <translation>&amp;Wieder speichern</translation>
+    </message>
+    <message>
+        <source>Not &amp;Now</source>
+        <translation>&amp;Nicht jetzt</translation>
+    </message>
+    <message>
+        <source>Re&amp;cover</source>
+        <translation>Wiederher&amp;stellen</translation>
+    </message>
+    <message>
+        <source>&amp;Discard</source>
+        <translation>Ver&amp;werfen</translation>
+    </message>
+    <message>
+        <source>La&amp;ter</source>
+        <translation>S&amp;päter</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>S&amp;chließen</translation>
     </message>
 </context>
 <context>
@@ -3407,6 +3496,52 @@ Bitte geben Sie eine andere Kennung ein</translation>
     <message>
         <source>No recent files</source>
         <translation>Keine zuletzt geöffneten Dateien</translation>
+    </message>
+</context>
+<context>
+    <name>RecoveryOffers</name>
+    <message>
+        <source>What was kept of a document cannot be read.</source>
+        <translation>Was von einem Dokument aufbewahrt wurde, kann nicht gelesen werden.</translation>
+    </message>
+    <message>
+        <source>A document that was never saved can be recovered.</source>
+        <translation>Ein Dokument, das nie gespeichert wurde, kann wiederhergestellt werden.</translation>
+    </message>
+    <message>
+        <source>Changes to %1 that were not saved can be recovered.</source>
+        <translation>Nicht gespeicherte Änderungen an %1 können wiederhergestellt werden.</translation>
+    </message>
+    <message>
+        <source>The damaged file is %1.</source>
+        <translation>Die beschädigte Datei ist %1.</translation>
+    </message>
+    <message>
+        <source>Last saved: %1.</source>
+        <translation>Zuletzt gespeichert: %1.</translation>
+    </message>
+    <message>
+        <source>Last kept: %1.</source>
+        <translation>Zuletzt gesichert: %1.</translation>
+    </message>
+    <message>
+        <source>The file itself is not there any more.</source>
+        <translation>Die Datei selbst ist nicht mehr da.</translation>
+    </message>
+    <message>
+        <source>The file itself is newer: it was changed on %1.</source>
+        <translation>Die Datei selbst ist neuer: Sie wurde am %1 geändert.</translation>
+    </message>
+    <message>
+        <source>The file itself was changed since, on %1.</source>
+        <translation>Die Datei selbst wurde seitdem geändert, am %1.</translation>
+    </message>
+</context>
+<context>
+    <name>RecoveryPlace</name>
+    <message>
+        <source>The folder %1 cannot be written.</source>
+        <translation>In den Ordner %1 kann nicht geschrieben werden.</translation>
     </message>
 </context>
 <context>

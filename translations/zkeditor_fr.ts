@@ -358,14 +358,6 @@
         <source>Read how things are done</source>
         <translation>Lire comment faire</translation>
     </message>
-    <message>
-        <source>C&amp;lose Pop-up</source>
-        <translation>Fer&amp;mer la bulle</translation>
-    </message>
-    <message>
-        <source>Close the pop-up on view</source>
-        <translation>Fermer la bulle affichée</translation>
-    </message>
 </context>
 <context>
     <name>AddCustomPartDialog</name>
@@ -1269,6 +1261,44 @@ Veuillez en saisir un autre</translation>
     <message>
         <source>Lose all changes made since %1 was last saved?</source>
         <translation>Perdre toutes les modifications faites depuis le dernier enregistrement de %1 ?</translation>
+    </message>
+    <message>
+        <source>Changed by another program</source>
+        <translation>Modifié par un autre programme</translation>
+    </message>
+    <message>
+        <source>%1 was changed by another program.</source>
+        <translation>%1 a été modifié par un autre programme.</translation>
+    </message>
+    <message>
+        <source>Saving replaces what it wrote.</source>
+        <translation>L&apos;enregistrement remplace ce qu&apos;il a écrit.</translation>
+    </message>
+    <message>
+        <source>Save &amp;As...</source>
+        <translation>Enregistrer &amp;sous...</translation>
+    </message>
+    <message>
+        <source>Nothing is kept for recovery: %1</source>
+        <translation>Rien n&apos;est gardé pour une récupération : %1</translation>
+    </message>
+    <message>
+        <source>The document cannot be recovered.</source>
+        <translation>Le document ne peut pas être récupéré.</translation>
+    </message>
+    <message>
+        <source>%1
+The file is now %2.</source>
+        <translation>%1
+Le fichier est maintenant %2.</translation>
+    </message>
+    <message>
+        <source>Discard</source>
+        <translation>Abandonner</translation>
+    </message>
+    <message>
+        <source>Lose what can be recovered?</source>
+        <translation>Perdre ce qui peut être récupéré ?</translation>
     </message>
 </context>
 <context>
@@ -2201,6 +2231,10 @@ Veuillez en saisir un autre</translation>
         <source>Selected: %1</source>
         <translation>Sélection : %1</translation>
     </message>
+    <message>
+        <source>%1 (recovered)</source>
+        <translation>%1 (récupéré)</translation>
+    </message>
 </context>
 <context>
     <name>MessagesPane</name>
@@ -2298,6 +2332,61 @@ Veuillez en saisir un autre</translation>
     <message>
         <source>Shows the properties of the scene on view</source>
         <translation>Montre les propriétés de la scène affichée</translation>
+    </message>
+</context>
+<context>
+    <name>Notices</name>
+    <message>
+        <source>%1 was changed by another program.</source>
+        <translation>%1 a été modifié par un autre programme.</translation>
+    </message>
+    <message>
+        <source>Reloading shows what it wrote and loses what you have not saved.</source>
+        <translation>Recharger montre ce qu&apos;il a écrit et perd ce que vous n&apos;avez pas enregistré.</translation>
+    </message>
+    <message>
+        <source>Re&amp;load</source>
+        <translation>Re&amp;charger</translation>
+    </message>
+    <message>
+        <source>Save &amp;As...</source>
+        <translation>Enregistrer &amp;sous...</translation>
+    </message>
+    <message>
+        <source>&amp;Keep Mine</source>
+        <translation>&amp;Garder le mien</translation>
+    </message>
+    <message>
+        <source>%1 was deleted, renamed or moved by another program.</source>
+        <translation>%1 a été supprimé, renommé ou déplacé par un autre programme.</translation>
+    </message>
+    <message>
+        <source>What you see is in this window only until it is saved again.</source>
+        <translation>Ce que vous voyez n&apos;est que dans cette fenêtre jusqu&apos;au prochain enregistrement.</translation>
+    </message>
+    <message>
+        <source>Save A&amp;gain</source>
+        <translation>&amp;Enregistrer de nouveau</translation>
+    </message>
+    <message>
+        <source>Not &amp;Now</source>
+        <translation>Pas &amp;maintenant</translation>
+    </message>
+    <message>
+        <source>Re&amp;cover</source>
+        <translation>Ré&amp;cupérer</translation>
+    </message>
+    <message>
+        <source>&amp;Discard</source>
+        <translation>Aban&amp;donner</translation>
+    </message>
+    <message>
+        <source>La&amp;ter</source>
+        <translation>Plus &amp;tard</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>&amp;Fermer</translation>
     </message>
 </context>
 <context>
@@ -3407,6 +3496,52 @@ Veuillez en saisir un autre</translation>
     <message>
         <source>No recent files</source>
         <translation>Aucun document récent</translation>
+    </message>
+</context>
+<context>
+    <name>RecoveryOffers</name>
+    <message>
+        <source>What was kept of a document cannot be read.</source>
+        <translation>Ce qui a été gardé d&apos;un document ne peut pas être lu.</translation>
+    </message>
+    <message>
+        <source>A document that was never saved can be recovered.</source>
+        <translation>Un document jamais enregistré peut être récupéré.</translation>
+    </message>
+    <message>
+        <source>Changes to %1 that were not saved can be recovered.</source>
+        <translation>Des modifications de %1 non enregistrées peuvent être récupérées.</translation>
+    </message>
+    <message>
+        <source>The damaged file is %1.</source>
+        <translation>Le fichier endommagé est %1.</translation>
+    </message>
+    <message>
+        <source>Last saved: %1.</source>
+        <translation>Dernier enregistrement : %1.</translation>
+    </message>
+    <message>
+        <source>Last kept: %1.</source>
+        <translation>Dernière sauvegarde : %1.</translation>
+    </message>
+    <message>
+        <source>The file itself is not there any more.</source>
+        <translation>Le fichier lui-même n&apos;existe plus.</translation>
+    </message>
+    <message>
+        <source>The file itself is newer: it was changed on %1.</source>
+        <translation>Le fichier lui-même est plus récent : il a été modifié le %1.</translation>
+    </message>
+    <message>
+        <source>The file itself was changed since, on %1.</source>
+        <translation>Le fichier lui-même a été modifié depuis, le %1.</translation>
+    </message>
+</context>
+<context>
+    <name>RecoveryPlace</name>
+    <message>
+        <source>The folder %1 cannot be written.</source>
+        <translation>Le dossier %1 ne peut pas être écrit.</translation>
     </message>
 </context>
 <context>

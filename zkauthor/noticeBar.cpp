@@ -23,6 +23,7 @@ NoticeBar::NoticeBar(const QString& title, const QString& details, QWidget* pare
     text->setTextFormat(Qt::RichText);
     text->setForegroundRole(QPalette::ToolTipText);
     text->setWordWrap(true);
+    text->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred); // a long text must not push the palettes away
     m_row->setContentsMargins(8, 4, 8, 4);
     m_row->addWidget(icon);
     m_row->addWidget(text, 1);

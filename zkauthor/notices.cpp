@@ -24,6 +24,7 @@ NoticeBar* Notices::addBar(const QString& title, const QString& details)
 {
     auto* bar = new NoticeBar(title, details, this);
     m_column->insertWidget(m_column->count() - 1, bar);
+    bar->show();
     return bar;
 }
 
@@ -70,7 +71,7 @@ void Notices::showOffers()
     DocumentFiles* files = m_files;
     size_t index = 0;
     for (const RecoveryOffers::Offer& offer : files->offers()->offers()) {
-        NoticeBar* bar = addBar(offer.title, offer.details);
+        NoticeBar* bar = addBar(offer.title(), offer.details());
         if (offer.place) {
             bar->addButton(tr("Re&cover"), "recover", [files, index] { files->recover(index); });
             bar->addButton(tr("&Discard"), "discard", [files, index] { files->discardOffer(index); });

@@ -16,57 +16,52 @@ QString timeText(const QDateTime& time)
 void RecoveryOffers::look(const QString& folder)
 {
     for (std::unique_ptr<RecoveryPlace>& place : RecoveryPlace::leftOvers(folder)) {
-        RecoveryFile file;
-        if (file.read(place->fileName()))
-            addSound(std::move(place), std::move(file));
-        else
-            addDamaged(*place);
+        Offer offer;
+        if (offer.file.read(place->fileName())) {
+            offer.place = std::move(place);
+        } else {
+            offer.damaged = place->setAside();
+            if (offer.damaged.isEmpty())
+                offer.damaged = place->fileName();
+        }
+        m_offers.push_back(std::move(offer));
     }
     Q_EMIT changed();
 }
 
-void RecoveryOffers::addDamaged(const RecoveryPlace& place)
+QString RecoveryOffers::Offer::title() const
 {
-    const QString aside = place.setAside();
-    Offer offer;
-    offer.title = tr("What was kept of a document cannot be read.");
-    offer.details =
-        tr("The damaged file is %1.").arg(QDir::toNativeSeparators(aside.isEmpty() ? place.fileName() : aside));
-    m_offers.push_back(std::move(offer));
+    if (!place)
+        return RecoveryOffers::tr("What was kept of a document cannot be read.");
+    if (file.original.isEmpty())
+        return RecoveryOffers::tr("A document that was never saved can be recovered.");
+    return RecoveryOffers::tr("Changes to %1 that were not saved can be recovered.")
+        .arg(QDir::toNativeSeparators(file.original));
 }
 
-void RecoveryOffers::addSound(std::unique_ptr<RecoveryPlace> place, RecoveryFile&& file)
+QString RecoveryOffers::Offer::details() const
 {
-    Offer offer;
-    QStringList details;
-    if (file.original.isEmpty()) {
-        offer.title = tr("A document that was never saved can be recovered.");
-        details << tr("Last kept: %1.").arg(timeText(file.written));
-    } else {
-        offer.title =
-            tr("Changes to %1 that were not saved can be recovered.").arg(QDir::toNativeSeparators(file.original));
-        if (file.stamp.valid)
-            details << tr("Last saved: %1.").arg(timeText(file.stamp.modified));
-        details << tr("Last kept: %1.").arg(timeText(file.written));
-        FileStamp stamp = file.stamp;
-        const QDateTime changed = QFileInfo(file.original).lastModified();
-        switch (stamp.compare(file.original)) {
-        case FileStamp::State::Same:
-            break;
-        case FileStamp::State::Gone:
-            details << tr("The file itself is not there any more.");
-            break;
-        case FileStamp::State::Changed:
-            details << (changed > file.written ? tr("The file itself is newer: it was changed on %1.")
-                                               : tr("The file itself was changed since, on %1."))
-                           .arg(timeText(changed));
-            break;
-        }
+    if (!place)
+        return RecoveryOffers::tr("The damaged file is %1.").arg(QDir::toNativeSeparators(damaged));
+    QStringList sentences;
+    if (file.stamp.valid)
+        sentences << RecoveryOffers::tr("Last saved: %1.").arg(timeText(file.stamp.modified));
+    sentences << RecoveryOffers::tr("Last kept: %1.").arg(timeText(file.written));
+    FileStamp stamp = file.stamp;
+    const QDateTime changed = QFileInfo(file.original).lastModified();
+    switch (file.original.isEmpty() ? FileStamp::State::Same : stamp.compare(file.original)) {
+    case FileStamp::State::Same:
+        break;
+    case FileStamp::State::Gone:
+        sentences << RecoveryOffers::tr("The file itself is not there any more.");
+        break;
+    case FileStamp::State::Changed:
+        sentences << (changed > file.written ? RecoveryOffers::tr("The file itself is newer: it was changed on %1.")
+                                             : RecoveryOffers::tr("The file itself was changed since, on %1."))
+                         .arg(timeText(changed));
+        break;
     }
-    offer.details = details.join(u' ');
-    offer.place = std::move(place);
-    offer.file = std::move(file);
-    m_offers.push_back(std::move(offer));
+    return sentences.join(u' ');
 }
 
 RecoveryOffers::Offer RecoveryOffers::take(size_t index)

@@ -17,10 +17,13 @@ public:
 
     struct Offer
     {
-        std::unique_ptr<RecoveryPlace> place; // null: damaged and put aside, there is only something to tell
+        std::unique_ptr<RecoveryPlace> place; // null: damaged, there is only something to tell
         RecoveryFile file;
-        QString title;
-        QString details;
+        QString damaged; // where the damaged file is now
+
+        /// What to tell, in the language of now.
+        QString title() const;
+        QString details() const;
     };
 
     /// Looks for left-overs in the folder. They are this program's until they are dropped.
@@ -34,8 +37,5 @@ Q_SIGNALS:
     void changed();
 
 private:
-    void addDamaged(const RecoveryPlace& place);
-    void addSound(std::unique_ptr<RecoveryPlace> place, RecoveryFile&& file);
-
     std::vector<Offer> m_offers;
 };
