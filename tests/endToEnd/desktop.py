@@ -1,4 +1,4 @@
-"""A desktop of its own for one test: display, window manager, message bus, home folder. Nothing of the user's is touched."""
+"""A desktop of its own for one test: display, window manager, message bus, home folder. The user's are not touched."""
 import mmap
 import os
 import shutil

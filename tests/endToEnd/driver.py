@@ -206,6 +206,16 @@ class Control:
     def gone(self, role=None, name=None, **more):
         wait(f"{role} {name!r} to go", lambda: not self.look(role, name, most=1, **more))
 
+    def lines(self, indent=0):
+        """All that a screen reader would find on view here, a line each."""
+        try:
+            yield f"{' ' * indent}{self} {self.description}{' (checked)' if self.checked else ''}"
+            for child in self.children:
+                if child.showing:
+                    yield from child.lines(indent + 1)
+        except GLib.Error:
+            return
+
     # --- the hand ---
 
     def _clip(self):

@@ -3,7 +3,7 @@ import re
 import subprocess
 import xml.etree.ElementTree as xml
 
-from driver import LIMIT, Missed, Program, becomes, click_at, drag, expect, hand, key, type_text, wait
+from driver import LIMIT, Missed, Program, becomes, click_at, drag, hand, key, wait
 
 MILLIMETRES = re.compile(r"^(-?[\d.,]+), (-?[\d.,]+) mm$")
 
@@ -17,7 +17,7 @@ class Workbench:
         self.find_window("File")
 
     def find_window(self, menu):
-        """Works with the main window whose first menu is called so: another one takes its place for another language."""
+        """Works with the main window that has a menu of that name: for another language another window takes over."""
         self.window = wait(f"a main window with the menu {menu}", lambda: next(
             (window for window in self.program.children
              if window.role == "frame" and " - zkauthor" in window.name and window.showing and
@@ -30,8 +30,8 @@ class Workbench:
         pattern = re.escape(window.name)
 
         def number():
-            found = subprocess.run(["xdotool", "search", "--onlyvisible", "--name", f"^{pattern}$"], capture_output=True,
-                                   text=True, check=False).stdout.split()
+            found = subprocess.run(["xdotool", "search", "--onlyvisible", "--name", f"^{pattern}$"],
+                                   capture_output=True, text=True, check=False).stdout.split()
             return found[0] if found else None
 
         shown = wait(f"{window} on the screen", number)
@@ -198,5 +198,3 @@ def parts_of(path):
         found[values.get("id") or part.get("id")] = values
     return found
 
-
-__all__ = ["Workbench", "parts_of", "becomes", "drag", "expect", "hand", "key", "type_text", "wait"]

@@ -5,6 +5,7 @@
 #include "zkcore/media/resource.h"
 #include "zkcore/media/resourceEntry.h"
 #include "zkcore/model/coreKeys.h"
+#include "zkcore/model/documentImpl.h"
 #include "zkcore/model/elementImpl.h"
 #include "zkcore/model/role.h"
 #include "zkcore/model/spaceImpl.h"
@@ -101,12 +102,25 @@ QRectF proportionalRect(const QSizeF& picture, const QRectF& rect)
     return result;
 }
 
-/// Pictures are drawn in the colours that their class gives its parts at first. A part with colours of its own has
-/// these in their place.
+/// The class that brought the picture of a body: a user's own class has that of the part it was made of.
+const NodePrototype& pictureClassOf(const ElementImpl& element)
+{
+    const NodePrototype* owner = &element.prototype();
+    for (const ClassId base : element.prototype().bases) {
+        const NodePrototype* next = element.document()->getNodeDb()->lookupPrototype(base);
+        if (!next || !(next->body == owner->body))
+            break;
+        owner = next;
+    }
+    return *owner;
+}
+
+/// Pictures are drawn in the colours that the class which brought them gives its parts at first. A part with other
+/// colours has these in their place.
 std::vector<ImageCache::ColorChange> colorChangesOf(const ElementImpl& element)
 {
     std::vector<ImageCache::ColorChange> changes;
-    for (const PropertyDefinition& definition : element.prototype().properties()) {
+    for (const PropertyDefinition& definition : pictureClassOf(element).properties()) {
         if (definition.type != Value::COLOR)
             continue;
         const QColor own = element.valueOfProperty(definition.key).toQColor();

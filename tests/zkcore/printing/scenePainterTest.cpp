@@ -99,6 +99,13 @@ TEST_F(ScenePainterTest, BodiesFollowSizeOrientationAndColor)
     image = paintAlone(*block);
     EXPECT_EQ(at(image, 0.02, 0.05), QColor(Qt::white));
     EXPECT_EQ(at(image, 0.05, 0.02), fill);
+
+    // So do parts of the user's own classes, which have the picture of the part they were made of.
+    set(property(block, "orientation"), Value(0.0));
+    const ClassId custom = getCidForString("flowcharts/pale-step");
+    ASSERT_TRUE(m_document.addCustomPartDefinition(custom, block, QStringLiteral("Pale step")));
+    image = paintAlone(*addPart(m_document, "flowcharts/pale-step", {0.05, 0.05}));
+    EXPECT_EQ(at(image, 0.02, 0.05), fill);
 }
 
 TEST_F(ScenePainterTest, ConnectionsHaveTheirColorWidthAndArrow)
