@@ -83,7 +83,7 @@ void RandomSession::step(unsigned int what, unsigned int x, unsigned int y)
         reflect(x, y);
         break;
     case 11:
-        run<PushUndoCommand>(m_document, QStringLiteral("Gesture"));
+        run<PushUndoCommand>(m_document, [] { return QStringLiteral("Gesture"); });
         break;
     case 12:
         if (y % 3)

@@ -109,7 +109,7 @@ TEST_F(UndoTest, withTheFlagOffAndNoStepNothingIsRecorded)
 TEST_F(UndoTest, aGestureIsOneStepAndNeverFlowsIntoAnOlderOne)
 {
     set(property(m_box, "count"), Value(5));
-    run<PushUndoCommand>(*m_document, QStringLiteral("Drag"));
+    run<PushUndoCommand>(*m_document, [] { return QStringLiteral("Drag"); });
     EXPECT_EQ(newSteps(), 1) << "nothing follows yet";
     for (int i = 1; i <= 5; ++i)
         set(length(), Value(0.02 + i * 0.001), false);
@@ -120,7 +120,7 @@ TEST_F(UndoTest, aGestureIsOneStepAndNeverFlowsIntoAnOlderOne)
     EXPECT_EQ(property(m_box, "count")->getValue(), Value(5));
 
     // Opened and left: the next command makes its own step, and undo takes back what it took back before.
-    run<PushUndoCommand>(*m_document, QStringLiteral("Nothing"));
+    run<PushUndoCommand>(*m_document, [] { return QStringLiteral("Nothing"); });
     m_document->undo();
     EXPECT_EQ(property(m_box, "count")->getValue(), Value(3));
     set(length(), Value(0.04), false);
