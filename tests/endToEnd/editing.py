@@ -76,9 +76,9 @@ class Editing:
 
         bench.section(form, "Electrical")
         voltage = form.find("text", "Forward voltage").write("1.8", end="Return")
-        form.find("label", "Forward voltage", description="V").click()
+        form.find("push button", "Unit of Forward voltage", description="V").click()
         key("Down", "Return")
-        form.find("label", "Forward voltage", description="mV")
+        form.find("push button", "Unit of Forward voltage", description="mV")
         becomes("the voltage in millivolts", lambda: voltage.number, 1800)
         form.find("radio button", "10 mm").click((0.2, 0.5))
         wait("the radio button to be chosen", lambda: form.find("radio button", "10 mm").checked)
@@ -118,7 +118,7 @@ class Editing:
         bench.status("1 selected")
         bench.section(form, "Electrical")
         becomes("the current of the second LED", lambda: form.find("text", "Greatest current").number, 15)
-        form.find("label", "Forward voltage", description="V")
+        form.find("push button", "Unit of Forward voltage", description="V")
         key("Escape")
 
     def locks(self):

@@ -32,7 +32,8 @@ class Day(Editing, Keeping):
 
     CHAPTERS = """new_document parts_from_the_tree connections property_form several_at_once locks associations
         keyboard_alone the_scene advanced inspector debugging flowchart_strip back_and_forth custom_part saving
-        page_setup pdf models_browser flowchart back_to_the_document another_language quit_and_return""".split()
+        page_setup pdf models_browser flowchart back_to_the_document crash_and_recovery
+        another_language quit_and_return""".split()
 
     def write_controls(self):
         path = self.desktop.folder / "controls.txt"
