@@ -13,7 +13,10 @@ if(ZK_SANITIZE)
   target_compile_options(zk_options INTERFACE -fsanitize=${ZK_SANITIZE} -fno-omit-frame-pointer -fno-sanitize-recover=all)
   target_link_options(zk_options INTERFACE -fsanitize=${ZK_SANITIZE})
 endif()
-target_link_options(zk_options INTERFACE -Wl,--no-undefined)
+# Clang links what the sanitizers need to programs only: its libraries are not complete.
+if(NOT (ZK_SANITIZE AND CMAKE_CXX_COMPILER_ID STREQUAL "Clang"))
+  target_link_options(zk_options INTERFACE -Wl,--no-undefined)
+endif()
 
 # zk_include_root(<target> <folder relative to the source tree>...)
 # Gives the target an include root of its own that shows only the named folders, so that an include of a folder
