@@ -9,6 +9,7 @@
 #include "zkeditor/loadUIFromResource.h"
 #include "zkeditor/widgets/formSections.h"
 #include "zkeditor/widgets/paneScrollArea.h"
+#include "zkeditor/widgets/paneWidget.h"
 
 #include <QApplication>
 #include <QVBoxLayout>
@@ -44,7 +45,7 @@ private:
         NodeImpl* part = added.toNode().impl();
         fuzz::require(part != nullptr, "parts can be made", document.lastError());
         document.executeCommand(
-            new SetValueCommand(Property(part->getProperty(PropertyKey::fromString("title"))), Value(title)));
+            new SetValueCommand(Property(part->getProperty(PropertyKey::fromString("title"))), Value(title), false));
         return part;
     }
 };

@@ -4,6 +4,7 @@
 
 #include "zkcore/model/documentImpl.h"
 #include "zkcore/printing/scenePainter.h"
+#include "zkcore/storage/xmlGuard.h"
 
 #include <QBuffer>
 #include <QCoreApplication>
@@ -77,7 +78,8 @@ DocumentExcerpt readDocumentExcerpt(const QString& fileName, const std::atomic<b
         excerpt.fault = file.errorString();
         return excerpt;
     }
-    QXmlStreamReader xml(&file);
+    XmlGuardDevice guard(file);
+    QXmlStreamReader xml(&guard);
     xml.setNamespaceProcessing(false);
     ExcerptEnd end;
     while (!xml.atEnd() && !cancelled) {
@@ -91,6 +93,8 @@ DocumentExcerpt readDocumentExcerpt(const QString& fileName, const std::atomic<b
     }
     if (cancelled)
         return {};
+    if (guard.isStopped())
+        xml.raiseError(XmlGuardDevice::reason());
     if (xml.hasError()) {
         excerpt.fault = QStringLiteral("%1:%2: %3")
                             .arg(QString::number(xml.lineNumber()),

@@ -1,6 +1,8 @@
 // Reads forms. By recursion, as deep as forms may be nested and no deeper.
 #include "zkeditor/formDescription.h"
 
+#include "zkcore/storage/xmlGuard.h"
+
 #include <QCoreApplication>
 #include <QSet>
 #include <QXmlStreamReader>
@@ -384,6 +386,11 @@ bool FormDescription::read(const QByteArray& form, FormFinding& error)
         error = FormFinding();
         error.text = QCoreApplication::translate("FormDescription", "the form is larger than %1 MB")
                          .arg(maximumSize / (1024 * 1024));
+        return false;
+    }
+    if (!XmlAttributeCounter::isHarmless(form)) {
+        error = FormFinding();
+        error.text = XmlGuardDevice::reason();
         return false;
     }
     return FormReader(form, *this).read(error);

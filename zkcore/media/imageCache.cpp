@@ -3,6 +3,7 @@
 
 #include "zkcore/media/resource.h"
 #include "zkcore/media/resourceEntry.h"
+#include "zkcore/storage/xmlGuard.h"
 
 #include <QBuffer>
 #include <QCache>
@@ -99,9 +100,11 @@ QPixmap failedPicture(const Resource& resource, const QString& reason)
 
 std::shared_ptr<QSvgRenderer> makeRenderer(const Resource& resource, const QByteArray& bytes)
 {
-    auto renderer = std::make_shared<QSvgRenderer>(bytes);
-    if (renderer->isValid())
-        return renderer;
+    if (XmlAttributeCounter::isHarmless(bytes)) {
+        auto renderer = std::make_shared<QSvgRenderer>(bytes);
+        if (renderer->isValid())
+            return renderer;
+    }
     failedPicture(resource, QStringLiteral("its bytes are no SVG picture"));
     return nullptr;
 }

@@ -2,6 +2,7 @@
 
 #include "zkcore/media/resourceEntry.h"
 #include "zkcore/storage/package.h"
+#include "zkcore/storage/xmlGuard.h"
 
 #include <QBuffer>
 #include <QCoreApplication>
@@ -39,6 +40,8 @@ constexpr ResourceFileType resourceFileTypes[] = {
 /// Whether the bytes are XML from end to end; with a root element's name given, whether that is the root.
 bool isResourceXml(const QByteArray& bytes, const QString& root)
 {
+    if (!XmlAttributeCounter::isHarmless(bytes))
+        return false;
     QXmlStreamReader reader(bytes);
     if (!reader.readNextStartElement() || (!root.isEmpty() && reader.name() != root))
         return false;

@@ -4,6 +4,7 @@
 #include "zkcore/model/documentImpl.h"
 #include "zkcore/storage/nodeReader.h"
 #include "zkcore/storage/nodeWriter.h"
+#include "zkcore/storage/xmlGuard.h"
 
 #include <QFileDevice>
 #include <QXmlStreamReader>
@@ -202,7 +203,8 @@ bool DocumentFile::read(QIODevice& device, const QString& name, NodeDb& db, Docu
         error = QStringLiteral("%1: %2").arg(name, device.errorString());
         return false;
     }
-    QXmlStreamReader xml(&device);
+    XmlGuardDevice guard(device);
+    QXmlStreamReader xml(&guard);
     xml.setNamespaceProcessing(false);
     QStringList warnings;
     NodeXml::Reader nodes(xml, db, warnings, name + u':');
@@ -210,7 +212,9 @@ bool DocumentFile::read(QIODevice& device, const QString& name, NodeDb& db, Docu
     if (!DocumentReader(xml, nodes, content).read()) {
         qint64 line = 0;
         qint64 column = 0;
-        if (isEncodingFault(xml) && findWrongByte(device, line, column))
+        if (guard.isStopped())
+            xml.raiseError(XmlGuardDevice::reason());
+        else if (isEncodingFault(xml) && findWrongByte(device, line, column))
             nodes.setFaultPlace(line, column);
         error = name + u':' + nodes.faultText();
         content = DocumentContent();

@@ -3,7 +3,9 @@
 #include "zkcore/model/elementImpl.h"
 #include "zkcore/storage/nodeReader.h"
 #include "zkcore/storage/nodeWriter.h"
+#include "zkcore/storage/xmlGuard.h"
 
+#include <QBuffer>
 #include <QXmlStreamReader>
 #include <QXmlStreamWriter>
 #include <unordered_set>
@@ -82,7 +84,11 @@ bool FragmentXMLWriter::read(const QByteArray& fragment, NodeDb& db, std::vector
 {
     nodes.clear();
     error.clear();
-    QXmlStreamReader xml(fragment);
+    QBuffer buffer;
+    buffer.setData(fragment);
+    buffer.open(QIODevice::ReadOnly);
+    XmlGuardDevice guard(buffer);
+    QXmlStreamReader xml(&guard);
     xml.setNamespaceProcessing(false);
     QStringList warnings;
     NodeXml::Reader reader(xml, db, warnings);
@@ -105,6 +111,8 @@ bool FragmentXMLWriter::read(const QByteArray& fragment, NodeDb& db, std::vector
     };
     if (readAll())
         return true;
+    if (guard.isStopped())
+        xml.raiseError(XmlGuardDevice::reason());
     error = reader.faultText();
     nodes.clear();
     return false;

@@ -1,5 +1,6 @@
 #include "zkcore/storage/packageElement.h"
 
+#include "zkcore/storage/xmlGuard.h"
 #include "zkcore/storage/xmlText.h"
 
 #include <QIODevice>
@@ -103,7 +104,8 @@ bool PackageElement::read(QIODevice& device, PackageElement& root, PackageFault&
 {
     if (device.size() > greatestPackageFile)
         return fault.raise(1, 1, tr("the file is larger than 16 MB"));
-    QXmlStreamReader reader(&device);
+    XmlGuardDevice guard(device);
+    QXmlStreamReader reader(&guard);
     reader.setNamespaceProcessing(false);
     std::vector<PackageElement> open; // from the root to the element that is being read
     while (!reader.atEnd()) {
@@ -137,5 +139,6 @@ bool PackageElement::read(QIODevice& device, PackageElement& root, PackageFault&
     }
     if (!reader.hasError())
         return true;
-    return fault.raise(reader.lineNumber(), reader.columnNumber(), reader.errorString());
+    return fault.raise(reader.lineNumber(), reader.columnNumber(),
+                       guard.isStopped() ? XmlGuardDevice::reason() : reader.errorString());
 }

@@ -14,6 +14,12 @@ namespace {
 
 /// Deep enough for any sensible chain of bases and subparts, and far from the end of the stack.
 constexpr int greatestClassDepth = 100;
+/// Each class has a copy of all that its bases have: without limits a small file could fill the memory.
+constexpr size_t mostThingsOfClass = 2000;
+constexpr size_t mostThingsOfPackage = 500'000;
+/// What a class prescribes must be made whenever somebody adds a part, and fit into a document.
+constexpr size_t mostNodesOfPart = 10'000;
+constexpr int deepestSubparts = 20;
 
 /// More are of no use to anybody.
 constexpr qsizetype greatestNumberOfFaults = 100;
@@ -185,7 +191,7 @@ bool PackageReader::resolve(ClassId cid, const PackageElement& user, int depth)
         return false;
     auto prototype = std::make_shared<NodePrototype>();
     prototype->cid = cid;
-    if (!readClass(*entry.element, *prototype))
+    if (!readClass(*entry.element, *prototype) || !checkExtent(*entry.element, *prototype))
         return false;
     entry.state = Entry::Done;
     m_read.insert(cid, prototype);
@@ -215,6 +221,8 @@ bool PackageReader::readClass(const PackageElement& element, NodePrototype& prot
                        {"property", "value", "form", "substitution", "subpart", "allow"}, PackageElement::OnlyElements,
                        m_fault))
         return false;
+    if (element.children.size() > mostThingsOfClass)
+        return failTooLarge(element);
     const ClassId cid = prototype.cid;
     const NodePrototype* base = element.has("base") ? lookup(getCidForString(element.attribute("base"))) : nullptr;
     if (base) {
@@ -236,6 +244,55 @@ bool PackageReader::readClass(const PackageElement& element, NodePrototype& prot
     prototype.addMetaProperties();
     return readProperties(element, prototype) && readForms(element, prototype) &&
            readSubstitutions(element, prototype) && readSubparts(element, prototype);
+}
+
+bool PackageReader::failTooLarge(const PackageElement& element)
+{
+    return fail(element, tr("a class has at most %1 properties, values, forms, substitutions, subparts, rules and "
+                            "bases, with those of its bases")
+                             .arg(mostThingsOfClass));
+}
+
+bool PackageReader::checkExtent(const PackageElement& element, const NodePrototype& prototype)
+{
+    static const PropertyKey forms = PropertyKey::fromString("meta-controlpane");
+    static const PropertyKey substitutions = PropertyKey::fromString("meta-ui-substitutions");
+    size_t things =
+        prototype.properties().size() + prototype.subparts.size() + prototype.rules.size() + prototype.bases.size();
+    if (const PropertyDefinition* definition = prototype.find(forms))
+        things += definition->defaultValue.toStringVector().size();
+    if (const PropertyDefinition* definition = prototype.find(substitutions))
+        things += definition->defaultValue.toValueMap().size();
+    if (things > mostThingsOfClass)
+        return failTooLarge(element);
+    m_things += things;
+    if (m_things > mostThingsOfPackage)
+        return fail(element, tr("the classes of a package have at most %1 properties, subparts and so on together")
+                                 .arg(mostThingsOfPackage));
+    const Extent extent = extentOf(prototype);
+    if (extent.nodes > mostNodesOfPart)
+        return fail(element, tr("a part of the class would have more than %1 subparts").arg(mostNodesOfPart));
+    if (extent.depth > deepestSubparts)
+        return fail(
+            element,
+            tr("a part of the class would have subparts more than %1 deep in one another").arg(deepestSubparts));
+    m_extents.insert(prototype.cid, extent);
+    return true;
+}
+
+PackageReader::Extent PackageReader::extentOf(const NodePrototype& prototype)
+{
+    if (const auto known = m_extents.constFind(prototype.cid); known != m_extents.cend())
+        return *known;
+    Extent extent;
+    for (const SubpartDefinition& subpart : prototype.subparts) {
+        // Those of this package were measured before; those of others are no larger than allowed.
+        const NodePrototype* subpartClass = lookup(subpart.cid);
+        const Extent inner = subpartClass ? extentOf(*subpartClass) : Extent();
+        extent.nodes += inner.nodes;
+        extent.depth = std::max(extent.depth, inner.depth + 1);
+    }
+    return extent;
 }
 
 bool PackageReader::readKind(const PackageElement& element, const NodePrototype* base, NodePrototype& prototype)

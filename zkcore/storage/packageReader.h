@@ -48,6 +48,13 @@ private:
         enum State { Waiting, Begun, Done, Faulty } state = Waiting;
     };
 
+    /// What a node of a class consists of.
+    struct Extent
+    {
+        size_t nodes = 1; // with all subparts
+        int depth = 0;    // of subparts in one another
+    };
+
     std::unique_ptr<Package> readPackage(const PackageElement& root, const QString& folder);
     QStringList collectFaults(const PackageElement& root, const QString& folder);
     bool readHead(const PackageElement& root, Package& package);
@@ -59,6 +66,9 @@ private:
     const NodePrototype* lookup(ClassId cid) const;
 
     bool readClass(const PackageElement& element, NodePrototype& prototype);
+    bool checkExtent(const PackageElement& element, const NodePrototype& prototype);
+    Extent extentOf(const NodePrototype& prototype);
+    bool failTooLarge(const PackageElement& element);
     bool readKind(const PackageElement& element, const NodePrototype* base, NodePrototype& prototype);
     bool readLooks(const PackageElement& element, NodePrototype& prototype);
     bool readProperties(const PackageElement& element, NodePrototype& prototype);
@@ -77,4 +87,6 @@ private:
     std::vector<Entry> m_entries;
     QHash<ClassId, int> m_entryOf;
     QHash<ClassId, std::shared_ptr<NodePrototype>> m_read;
+    QHash<ClassId, Extent> m_extents;
+    size_t m_things = 0; // properties, subparts and so on of all classes
 };

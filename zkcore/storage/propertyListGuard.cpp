@@ -1,5 +1,7 @@
 #include "zkcore/storage/propertyListGuard.h"
 
+#include "zkcore/storage/xmlGuard.h"
+
 #include <QXmlStreamReader>
 #include <algorithm>
 #include <optional>
@@ -13,6 +15,8 @@ constexpr qsizetype largestPropertyList = 256 * 1024 * 1024;
 
 bool isSafeXml(const QByteArray& data)
 {
+    if (!XmlAttributeCounter::isHarmless(data))
+        return false;
     QXmlStreamReader reader(data);
     int depth = 0;
     while (!reader.atEnd()) {

@@ -233,6 +233,44 @@ TEST_F(PackageFileFaults, LongChainsOfBasesAreRefusedNotFollowedToTheEndOfTheSta
     EXPECT_TRUE(error.endsWith(QLatin1String(": the classes are nested too deep"))) << error.toStdString();
 }
 
+TEST_F(PackageFileFaults, ClassesThatMultiplyAreRefused)
+{
+    const auto faultOfClasses = [this](const QByteArray& classes) {
+        return faultOf("<package format=\"1\" name=\"whole\">\n" + classes + "</package>");
+    };
+    const auto number = [](int i) { return QByteArray::number(i); };
+    // Ten of the class before in each: a part would have a million subparts.
+    QByteArray classes("<class id=\"whole/0\" base=\"core/pin\"/>\n");
+    for (int i = 1; i <= 6; ++i)
+        classes += "<class id=\"whole/" + number(i) + "\" base=\"core/control\">" +
+                   QByteArray("<subpart class=\"whole/" + number(i - 1) + "\"/>").repeated(10) + "</class>\n";
+    EXPECT_EQ(faultOfClasses(classes), QStringLiteral("6:41: a part of the class would have more than 10000 subparts"));
+
+    // Deeper in one another than documents can be.
+    classes = "<class id=\"whole/0\" base=\"core/pin\"/>\n";
+    for (int i = 1; i <= 50; ++i)
+        classes += "<class id=\"whole/" + number(i) + "\" base=\"core/control\"><subpart class=\"whole/" +
+                   number(i - 1) + "\"/></class>\n";
+    EXPECT_EQ(faultOfClasses(classes),
+              QStringLiteral("23:42: a part of the class would have subparts more than 20 deep in one another"));
+
+    // Each class has a copy of what its base has.
+    classes = "<class id=\"whole/0\" base=\"core/part\">";
+    for (int i = 0; i < 1900; ++i)
+        classes += "<property key=\"p" + number(i) + "\" type=\"int\"/>";
+    classes += "</class>\n";
+    for (int i = 1; i < 1000; ++i)
+        classes += "<class id=\"whole/" + number(i) + "\" base=\"whole/0\"/>\n";
+    EXPECT_TRUE(faultOfClasses(classes).endsWith(
+        QStringLiteral(": the classes of a package have at most 500000 properties, subparts and so on together")));
+
+    classes = "<class id=\"whole/0\" base=\"core/part\">" +
+              QByteArray("<substitution string=\"a\" text=\"b\"/>").repeated(2001) + "</class>";
+    EXPECT_EQ(faultOfClasses(classes),
+              QStringLiteral("2:39: a class has at most 2000 properties, values, forms, substitutions, subparts, rules "
+                             "and bases, with those of its bases"));
+}
+
 TEST_F(PackageFileFaults, FoldersWithoutAPackageOrWithTwoOfAName)
 {
     QString error;
