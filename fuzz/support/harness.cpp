@@ -49,6 +49,10 @@ extern "C" int LLVMFuzzerInitialize(int* argc, char*** argv)
     QApplication::setApplicationName(QStringLiteral("zkfuzz"));
     qInstallMessageHandler(swallowMessage);
     Package::all();
+    // Classes that have one of everything
+    QString error;
+    fuzz::require(Package::load(QStringLiteral(ZK_SOURCE_DIR "/tests/data/testkit"), error),
+                  "the package of the tests is right", error);
     return 0;
 }
 

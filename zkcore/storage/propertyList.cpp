@@ -172,7 +172,6 @@ Value valueOfPlist(plist_t node)
         return Value(number);
     }
     case PLIST_STRING: {
-        // Its copy ends the program when there is a zero in the text.
         uint64_t length = 0;
         const char* const text = plist_get_string_ptr(node, &length);
         return Value(QString::fromUtf8(text, static_cast<qsizetype>(length)));

@@ -87,7 +87,8 @@ private:
         ++position;
         const quint64 kind = *marker >> 4;
         const bool isDictionary = kind == 0xd;
-        if (!isDictionary && kind != 0xa && kind != 0xc)
+        const bool isWideText = kind == 0x6;
+        if (!isDictionary && !isWideText && kind != 0xa && kind != 0xc)
             return 0;
         std::optional<quint64> count = *marker & 0xf;
         if (count == 0xf) {
@@ -100,7 +101,18 @@ private:
         }
         if (!count || *count > static_cast<quint64>(m_data.size()))
             return std::nullopt;
+        if (isWideText)
+            return hasZero(position, *count) ? std::nullopt : std::optional<quint64>(0);
         return isDictionary ? *count * 2 : *count;
+    }
+
+    /// Whether there is a zero among that many characters of two bytes. The library ends the program over one.
+    bool hasZero(quint64 position, quint64 count) const
+    {
+        for (quint64 i = 0; i < count; ++i)
+            if (number(position + i * 2, 2).value_or(1) == 0)
+                return true;
+        return false;
     }
 
     bool measure(quint64 index, int depth)
