@@ -84,8 +84,10 @@ void requireUsable(QMainWindow& window)
     fuzz::require(window.width() >= 100 && window.height() >= 100, "the window has a size");
     fuzz::require(window.width() <= desktop.width() && window.height() <= desktop.height(),
                   "the window is no larger than the desktop");
-    for (const EditPalette* palette : window.findChildren<EditPalette*>()) {
+    for (EditPalette* palette : window.findChildren<EditPalette*>()) {
         fuzz::require(palette->parentWidget() == &window, "the palettes stay with the window");
+        fuzz::require(palette->isFloating() || window.dockWidgetArea(palette) != Qt::NoDockWidgetArea,
+                      "a palette is somewhere", palette->objectName());
         if (palette->isVisible() && palette->isFloating())
             fuzz::require(desktop.intersects(palette->geometry()), "a palette that floats can be seen");
     }

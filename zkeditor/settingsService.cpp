@@ -4,11 +4,13 @@
 #include "zkcore/base/assert.h"
 #include "zkcore/values/value.h"
 
+#include <QDockWidget>
 #include <QGuiApplication>
 #include <QMainWindow>
 #include <QRect>
 #include <QScreen>
 #include <QStringList>
+#include <QToolBar>
 #include <QUrl>
 #include <QVariant>
 #include <algorithm>
@@ -108,6 +110,19 @@ QVariant entryOfValue(const Value& value)
     default:
         return toStringList(value.toStringVector());
     }
+}
+
+/// Whether each dock window and tool bar is in its window's layout. One that a damaged layout leaves out could not be
+/// brought back by the user.
+bool isEverythingPlaced(const QMainWindow& window)
+{
+    for (QDockWidget* dock : window.findChildren<QDockWidget*>(QString(), Qt::FindDirectChildrenOnly))
+        if (!dock->isFloating() && window.dockWidgetArea(dock) == Qt::NoDockWidgetArea)
+            return false;
+    for (const QToolBar* bar : window.findChildren<QToolBar*>(QString(), Qt::FindDirectChildrenOnly))
+        if (!bar->isFloating() && window.toolBarArea(bar) == Qt::NoToolBarArea)
+            return false;
+    return true;
 }
 
 } // namespace
@@ -235,8 +250,13 @@ void SettingsService::restore()
 {
     restoreWidgetState(m_window, defaultWindowRect, true);
     const QString layout = readSetting(keyDockWindows, Value(QString())).toQString();
-    if (!layout.isEmpty() && !m_window->restoreState(QByteArray::fromBase64(layout.toLatin1())))
-        qWarning("SettingsService: The layout of the dock windows in %s cannot be used", qPrintable(keyDockWindows));
+    if (layout.isEmpty())
+        return;
+    const QByteArray before = m_window->saveState();
+    if (m_window->restoreState(QByteArray::fromBase64(layout.toLatin1())) && isEverythingPlaced(*m_window))
+        return;
+    m_window->restoreState(before);
+    qWarning("SettingsService: The layout of the dock windows in %s cannot be used", qPrintable(keyDockWindows));
 }
 
 void SettingsService::write()
