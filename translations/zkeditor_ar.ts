@@ -2536,6 +2536,22 @@ Please enter another id</source>
         <translation>الأصناف متداخلة أعمق من اللازم</translation>
     </message>
     <message>
+        <source>a class has at most %1 properties, values, forms, substitutions, subparts, rules and bases, with those of its bases</source>
+        <translation>للصنف %1 على الأكثر من الخصائص والقيم والنماذج والبدائل والقطع الفرعية والقواعد والأصناف الأساسية، مع ما لأصنافه الأساسية</translation>
+    </message>
+    <message>
+        <source>the classes of a package have at most %1 properties, subparts and so on together</source>
+        <translation>لأصناف الحزمة معًا %1 على الأكثر من الخصائص والقطع الفرعية وما شابهها</translation>
+    </message>
+    <message>
+        <source>a part of the class would have more than %1 subparts</source>
+        <translation>ستكون لقطعة من هذا الصنف أكثر من %1 قطعة فرعية</translation>
+    </message>
+    <message>
+        <source>a part of the class would have subparts more than %1 deep in one another</source>
+        <translation>ستكون لقطعة من هذا الصنف قطع فرعية متداخلة أعمق من %1 مستوى</translation>
+    </message>
+    <message>
         <source>a class without a base needs a kind</source>
         <translation>يحتاج الصنف بلا أساس إلى نوع</translation>
     </message>
@@ -4394,6 +4410,13 @@ Please enter another id</source>
     <message>
         <source>There is no dialog &quot;%1&quot; for what is selected.</source>
         <translation>لا يوجد مربع حوار &quot;%1&quot; لما هو محدد.</translation>
+    </message>
+</context>
+<context>
+    <name>XmlGuard</name>
+    <message>
+        <source>an element has more than %1 attributes</source>
+        <translation>في عنصرٍ أكثر من %1 سمة</translation>
     </message>
 </context>
 </TS>

@@ -2492,6 +2492,22 @@ Bitte geben Sie eine andere Kennung ein</translation>
         <translation>die Klassen sind zu tief geschachtelt</translation>
     </message>
     <message>
+        <source>a class has at most %1 properties, values, forms, substitutions, subparts, rules and bases, with those of its bases</source>
+        <translation>eine Klasse hat höchstens %1 Eigenschaften, Werte, Formulare, Ersetzungen, Unterteile, Regeln und Basisklassen, die ihrer Basisklassen mitgezählt</translation>
+    </message>
+    <message>
+        <source>the classes of a package have at most %1 properties, subparts and so on together</source>
+        <translation>die Klassen eines Pakets haben zusammen höchstens %1 Eigenschaften, Unterteile und so weiter</translation>
+    </message>
+    <message>
+        <source>a part of the class would have more than %1 subparts</source>
+        <translation>ein Teil der Klasse hätte mehr als %1 Unterteile</translation>
+    </message>
+    <message>
+        <source>a part of the class would have subparts more than %1 deep in one another</source>
+        <translation>ein Teil der Klasse hätte Unterteile, die mehr als %1-fach ineinander stehen</translation>
+    </message>
+    <message>
         <source>a class without a base needs a kind</source>
         <translation>eine Klasse ohne Basis braucht eine Art</translation>
     </message>
@@ -4314,6 +4330,13 @@ Bitte geben Sie eine andere Kennung ein</translation>
     <message>
         <source>There is no dialog &quot;%1&quot; for what is selected.</source>
         <translation>Für die Auswahl gibt es keinen Dialog „%1“.</translation>
+    </message>
+</context>
+<context>
+    <name>XmlGuard</name>
+    <message>
+        <source>an element has more than %1 attributes</source>
+        <translation>ein Element hat mehr als %1 Attribute</translation>
     </message>
 </context>
 </TS>

@@ -2492,6 +2492,22 @@ Veuillez en saisir un autre</translation>
         <translation>les classes sont trop imbriquées</translation>
     </message>
     <message>
+        <source>a class has at most %1 properties, values, forms, substitutions, subparts, rules and bases, with those of its bases</source>
+        <translation>une classe a au plus %1 propriétés, valeurs, formulaires, substitutions, sous-pièces, règles et classes de base, y compris ceux de ses classes de base</translation>
+    </message>
+    <message>
+        <source>the classes of a package have at most %1 properties, subparts and so on together</source>
+        <translation>les classes d&apos;un paquet ont ensemble au plus %1 propriétés, sous-pièces et autres</translation>
+    </message>
+    <message>
+        <source>a part of the class would have more than %1 subparts</source>
+        <translation>une pièce de la classe aurait plus de %1 sous-pièces</translation>
+    </message>
+    <message>
+        <source>a part of the class would have subparts more than %1 deep in one another</source>
+        <translation>une pièce de la classe aurait des sous-pièces imbriquées sur plus de %1 niveaux</translation>
+    </message>
+    <message>
         <source>a class without a base needs a kind</source>
         <translation>une classe sans base a besoin d&apos;une sorte</translation>
     </message>
@@ -4314,6 +4330,13 @@ Veuillez en saisir un autre</translation>
     <message>
         <source>There is no dialog &quot;%1&quot; for what is selected.</source>
         <translation>Il n’y a pas de dialogue « %1 » pour la sélection.</translation>
+    </message>
+</context>
+<context>
+    <name>XmlGuard</name>
+    <message>
+        <source>an element has more than %1 attributes</source>
+        <translation>un élément a plus de %1 attributs</translation>
     </message>
 </context>
 </TS>
