@@ -1,6 +1,7 @@
-// Document files: what loads can be painted, and saving and loading it again changes nothing.
+// Document files: what loads can be painted and worked with, and saving and loading it again changes nothing.
 #include "fuzz/support/harness.h"
 #include "fuzz/support/xmlMutator.h"
+#include "zkcore/commands/addNodesCommand.h"
 #include "zkcore/model/documentImpl.h"
 #include "zkcore/printing/scenePainter.h"
 
@@ -22,6 +23,24 @@ void paintScenes(const DocumentImpl& document)
     }
 }
 
+/// What was loaded can be worked with.
+void addAndUndo(DocumentImpl& document, const QByteArray& before)
+{
+    const Space scene(document.getModel()->getScenes().front());
+    const ClassId cid = getCidForString(QStringLiteral("testkit/box"));
+    if (!document.executeCommand(new AddPartCommand(scene, cid, {0.01, 0.01})).isValid()) {
+        fuzz::require(!document.lastError().isEmpty(), "a command that fails says why");
+        return;
+    }
+    const QByteArray after = fuzz::bytesOf(document);
+    DocumentImpl loaded;
+    fuzz::require(fuzz::load(loaded, after), "a document with a new part can be loaded",
+                  loaded.lastError() + u'\n' + after);
+    document.undo();
+    const QByteArray undone = fuzz::bytesOf(document);
+    fuzz::require(undone == before, "undo takes back the new part", before + "\n---\n" + undone);
+}
+
 } // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
@@ -39,6 +58,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
     const QByteArray savedAgain = fuzz::bytesOf(again);
     fuzz::require(savedAgain == saved, "saving what was loaded changes nothing", saved + "\n---\n" + savedAgain);
     paintScenes(document);
+    addAndUndo(document, saved);
     return 0;
 }
 

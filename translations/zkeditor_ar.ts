@@ -457,6 +457,10 @@ Please enter another id</source>
         <source>Adding of a scene</source>
         <translation>إضافة مشهد</translation>
     </message>
+    <message>
+        <source>The document has no more instance ids for new objects.</source>
+        <translation>لم تبقَ في المستند معرّفات مثيلات لكائنات جديدة.</translation>
+    </message>
 </context>
 <context>
     <name>AddResourceCommand</name>

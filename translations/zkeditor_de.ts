@@ -453,6 +453,10 @@ Bitte geben Sie eine andere Kennung ein</translation>
         <source>Adding of a scene</source>
         <translation>Hinzufügen einer Szene</translation>
     </message>
+    <message>
+        <source>The document has no more instance ids for new objects.</source>
+        <translation>Das Dokument hat keine freien Instanznummern für neue Objekte mehr.</translation>
+    </message>
 </context>
 <context>
     <name>AddResourceCommand</name>

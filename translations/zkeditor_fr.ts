@@ -453,6 +453,10 @@ Veuillez en saisir un autre</translation>
         <source>Adding of a scene</source>
         <translation>Ajout d&apos;une scène</translation>
     </message>
+    <message>
+        <source>The document has no more instance ids for new objects.</source>
+        <translation>Le document n&apos;a plus d&apos;identifiants d&apos;instance pour de nouveaux objets.</translation>
+    </message>
 </context>
 <context>
     <name>AddResourceCommand</name>

@@ -69,7 +69,7 @@ struct ObserverTexts
 
 } // namespace
 
-Role formObservers::roleOf(const QMetaObject* metaObject)
+formObservers::Role formObservers::roleOf(const QMetaObject* metaObject)
 {
     if (!metaObject)
         return Role::None;

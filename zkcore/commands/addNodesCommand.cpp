@@ -128,8 +128,12 @@ Value AddNodesCommand::run(ModelMutator& mutator)
                 AddNodesTexts::tr("An object of the class \"%1\" cannot stand there.").arg(findStringForCid(node.cid)));
         count += node.count();
     }
-    if (!m_idsGiven)
-        m_nodes = NodeSnapshot::withFreshIds(m_nodes, mutator.takeIds(count));
+    if (!m_idsGiven) {
+        const InstanceId first = count > 0 ? mutator.takeIds(count) : 0;
+        if (first == 0 && count > 0)
+            return fail(AddNodesTexts::tr("The document has no more instance ids for new objects."));
+        m_nodes = NodeSnapshot::withFreshIds(m_nodes, first);
+    }
     TextIds textIds(mutator.document());
     for (NodeSnapshot& node : m_nodes)
         textIds.settle(node);

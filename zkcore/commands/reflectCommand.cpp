@@ -111,6 +111,8 @@ Value ReflectCommand::run(ModelMutator& mutator)
     const bool recorded = m_firstId != 0;
     if (!recorded)
         m_firstId = mutator.takeIds(node.count());
+    if (m_firstId == 0)
+        return fail(ReflectTexts::tr("The document has no more instance ids for new objects."));
     node = node.withFreshIds(m_firstId);
     zk::Point place = original->position();
     if (original->parentNode() == container) {

@@ -54,6 +54,7 @@ ModelMutator::~ModelMutator()
 
 void ModelMutator::commit(const Command& command)
 {
+    linkAdded();
     m_done = true;
     if (!m_outermost)
         return;
@@ -188,6 +189,8 @@ bool ModelMutator::idsAreFree(const NodeSnapshot& snapshot) const
 InstanceId ModelMutator::takeIds(size_t count)
 {
     const InstanceId first = m_document.m_nextId;
+    if (first > highestInstanceId || count > size_t(highestInstanceId - first) + 1)
+        return 0;
     m_document.m_nextId += static_cast<InstanceId>(count);
     return first;
 }
@@ -262,18 +265,42 @@ void ModelMutator::linkProxies(const Built& built)
         PropertyImpl* property = m_document.propertyAt(address);
         PropertyImpl* target = m_document.propertyAt(entry.proxy);
         // What is read, or made again by undo, is known to hold no circle; walking long chains each time would be slow.
-        const bool circular = m_changes && target && property && target->isProxyDependantOn(property);
-        if (property && target && target != property && !circular) {
+        if (!m_changes && property && target && target != property) {
             link(*property, *target);
             continue;
         }
         if (!property)
             continue;
-        m_document.m_danglingProxies.insert(address, entry.proxy);
+        if (m_changes)
+            m_added.emplace_back(address, entry.proxy);
+        else
+            keepDangling(address, entry.proxy);
         NodeImpl::PropertyStore* store = property->m_owner->store(entry.domain);
         if (entry.value.type() == property->type())
             store->setValue(store->prototype->indexOf(entry.key), entry.value);
     }
+}
+
+void ModelMutator::linkAdded()
+{
+    // What a slot adds meanwhile has a mutator of its own.
+    const std::vector<std::pair<PropertyAddress, PropertyAddress>> added = std::exchange(m_added, {});
+    for (const auto& [address, target] : added) {
+        const PropertyImpl* property = m_document.propertyAt(address);
+        PropertyImpl* subject = m_document.propertyAt(target);
+        if (property && subject && !property->isComputed() &&
+            property->acceptableProxyTypes().isOkay(Property(subject)))
+            setProxy(address, target);
+    }
+}
+
+void ModelMutator::keepDangling(const PropertyAddress& address, const PropertyAddress& target)
+{
+    m_document.m_danglingProxies.insert(address, target);
+    // No new node may come to be what is meant. So many are never made that higher ids are reached.
+    constexpr InstanceId leastNeverReached = 0x80000000;
+    if (target.node < leastNeverReached)
+        m_document.m_nextId = std::max(m_document.m_nextId, target.node + 1);
 }
 
 void ModelMutator::announceAdded(const std::vector<InstanceId>& ids)

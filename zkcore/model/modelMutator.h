@@ -35,6 +35,8 @@ public:
     bool setValue(const PropertyAddress& address, const Value& value);
     /// Makes a node, with all that is in it, below a parent and gives it; ids of 0 are replaced by new ones, in the
     /// snapshot too. Null when the parent is gone or an id is taken. A snapshot of a pop-up becomes the part's pop-up.
+    /// What the new properties follow is linked by commit(), when all nodes are there; what they may not follow they do
+    /// not.
     NodeImpl* addNode(InstanceId parent, unsigned int index, NodeSnapshot& snapshot);
     /// Takes a node out with all that is in it and destroys it. Properties elsewhere that follow one of its are
     /// detached.
@@ -49,7 +51,7 @@ public:
     /// Changes that follow with the undo flag off make a step of their own under this description.
     void openStep(const LiveText& description);
 
-    /// The first of `count` instance ids that are not used.
+    /// The first of `count` instance ids that are not used; 0 when there are not so many.
     InstanceId takeIds(size_t count);
 
     /// Keeps what was done; the outermost mutator hands the changes to the undo history.
@@ -83,6 +85,8 @@ private:
     NodeImpl* buildAlone(NodeImpl* parent, const NodeSnapshot& snapshot, Built& built);
     void fillValues(NodeImpl& node, const NodeSnapshot& snapshot, Built& built);
     void linkProxies(const Built& built);
+    void linkAdded();
+    void keepDangling(const PropertyAddress& address, const PropertyAddress& target);
     void attach(NodeImpl& parent, unsigned int index, NodeImpl* node);
     void giveMissingIds(NodeSnapshot& snapshot);
     bool idsAreFree(const NodeSnapshot& snapshot) const;
@@ -99,6 +103,7 @@ private:
     std::unique_ptr<ChangeSet> m_own; // of the outermost mutator
     ChangeSet* m_changes = nullptr;   // null: notes nothing
     size_t m_start = 0;
+    std::vector<std::pair<PropertyAddress, PropertyAddress>> m_added; // what is to follow what
     std::shared_ptr<const std::vector<InstanceId>> m_selectionBefore;
     ValuesChange* m_valueBatch = nullptr;
     bool m_outermost = false;

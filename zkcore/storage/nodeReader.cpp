@@ -62,7 +62,7 @@ bool NodeXml::Reader::parseId(QStringView text, InstanceId& id)
             return false;
         number = number * 10 + (c.unicode() - u'0');
     }
-    if (number == 0 || number > 4294967294u)
+    if (number == 0 || number > highestInstanceId)
         return false;
     id = static_cast<InstanceId>(number);
     return true;

@@ -56,7 +56,7 @@ TEST(XmlGuard, TakesNothingElseForAttributes)
     for (int length = 1; length < 100; ++length) {
         XmlAttributeCounter counter;
         for (qsizetype i = 0; i < whole.size(); i += length)
-            ASSERT_TRUE(counter.feed(QByteArrayView(whole).mid(i, std::min<qsizetype>(length, whole.size() - i))));
+            ASSERT_TRUE(counter.feed(QByteArrayView(whole).sliced(i, std::min<qsizetype>(length, whole.size() - i))));
     }
 }
 
