@@ -3444,6 +3444,10 @@ Please enter another id</source>
         <source>An instance id is in use already.</source>
         <translation>أحد أرقام النسخ مستخدم بالفعل.</translation>
     </message>
+    <message>
+        <source>The document has no more instance ids for new objects.</source>
+        <translation>لم تبقَ في المستند معرّفات مثيلات لكائنات جديدة.</translation>
+    </message>
 </context>
 <context>
     <name>ReflectMenu</name>

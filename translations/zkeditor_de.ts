@@ -3388,6 +3388,10 @@ Bitte geben Sie eine andere Kennung ein</translation>
         <source>An instance id is in use already.</source>
         <translation>Eine Instanznummer ist schon vergeben.</translation>
     </message>
+    <message>
+        <source>The document has no more instance ids for new objects.</source>
+        <translation>Das Dokument hat keine freien Instanznummern für neue Objekte mehr.</translation>
+    </message>
 </context>
 <context>
     <name>ReflectMenu</name>

@@ -3388,6 +3388,10 @@ Veuillez en saisir un autre</translation>
         <source>An instance id is in use already.</source>
         <translation>Un numéro d&apos;instance est déjà utilisé.</translation>
     </message>
+    <message>
+        <source>The document has no more instance ids for new objects.</source>
+        <translation>Le document n&apos;a plus d&apos;identifiants d&apos;instance pour de nouveaux objets.</translation>
+    </message>
 </context>
 <context>
     <name>ReflectMenu</name>
