@@ -41,20 +41,24 @@ void giveIds(NodeSnapshot& node, InstanceId& next, QHash<InstanceId, InstanceId>
         giveIds(*node.popup, next, given);
 }
 
-void followIds(NodeSnapshot& node, const QHash<InstanceId, InstanceId>& given)
+void followIds(NodeSnapshot& node, const QHash<InstanceId, InstanceId>& given, InstanceId firstFree)
 {
-    node.reflects = given.value(node.reflects, node.reflects);
+    const auto followed = [&](InstanceId id) {
+        // What comes from elsewhere must not come to mean a new node by chance.
+        return given.value(id, id < firstFree ? id : 0);
+    };
+    node.reflects = followed(node.reflects);
+    if (node.reflects == 0)
+        node.reflectionKind = ReflectionKind::None;
     for (NodeSnapshot::ValueEntry& entry : node.values) {
-        entry.proxy.node = given.value(entry.proxy.node, entry.proxy.node);
-        if (entry.value.type() == Value::NODE) {
-            if (const InstanceId id = given.value(entry.value.toInstanceId()))
-                entry.value = Value::fromInstanceId(id);
-        }
+        entry.proxy.node = followed(entry.proxy.node);
+        if (entry.value.type() == Value::NODE)
+            entry.value = Value::fromInstanceId(followed(entry.value.toInstanceId()));
     }
     for (NodeSnapshot& child : node.children)
-        followIds(child, given);
+        followIds(child, given, firstFree);
     if (node.popup)
-        followIds(*node.popup, given);
+        followIds(*node.popup, given, firstFree);
 }
 
 } // namespace
@@ -71,8 +75,9 @@ NodeSnapshot NodeSnapshot::withFreshIds(InstanceId firstFree) const
 {
     NodeSnapshot result = copyOf(*this);
     QHash<InstanceId, InstanceId> given;
-    giveIds(result, firstFree, given);
-    followIds(result, given);
+    InstanceId next = firstFree;
+    giveIds(result, next, given);
+    followIds(result, given, firstFree);
     return result;
 }
 
@@ -81,12 +86,13 @@ std::vector<NodeSnapshot> NodeSnapshot::withFreshIds(const std::vector<NodeSnaps
     std::vector<NodeSnapshot> result;
     result.reserve(nodes.size());
     QHash<InstanceId, InstanceId> given;
+    InstanceId next = firstFree;
     for (const NodeSnapshot& node : nodes) {
         result.push_back(copyOf(node));
-        giveIds(result.back(), firstFree, given);
+        giveIds(result.back(), next, given);
     }
     for (NodeSnapshot& node : result)
-        followIds(node, given);
+        followIds(node, given, firstFree);
     return result;
 }
 

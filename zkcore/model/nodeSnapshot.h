@@ -37,7 +37,8 @@ struct ZKCORE_EXPORT NodeSnapshot
     /// The number of nodes, itself and pop-ups included.
     size_t count() const;
     /// A deep copy with the ids replaced by the numbers from `firstFree` on. References that stay inside (proxies, node
-    /// values, reflections) follow; references that lead outside stay as they are.
+    /// values, reflections) follow; references that lead outside stay as they are, or are dropped when they name one of
+    /// those numbers, which no node of the document has.
     NodeSnapshot withFreshIds(InstanceId firstFree) const;
     /// The same for several nodes with references among them.
     static std::vector<NodeSnapshot> withFreshIds(const std::vector<NodeSnapshot>& nodes, InstanceId firstFree);

@@ -1,11 +1,13 @@
 #include "zkcore/storage/xmlGuard.h"
 
 #include <QCoreApplication>
+#include <algorithm>
 #include <cstring>
 
-bool XmlAttributeCounter::feed(QByteArrayView bytes)
+bool XmlAttributeCounter::feed(QByteArrayView bytes, qsizetype* harmless)
 {
-    for (qsizetype i = 0; i < bytes.size() && m_count <= maximum; ++i) {
+    qsizetype i = 0;
+    for (; i < bytes.size() && m_count <= maximum; ++i) {
         if (m_state == Text) {
             // The greatest part of most files
             const void* const found = std::memchr(bytes.data() + i, '<', static_cast<size_t>(bytes.size() - i));
@@ -17,6 +19,8 @@ bool XmlAttributeCounter::feed(QByteArrayView bytes)
         if (bytes[i] != 0)
             next(bytes[i]);
     }
+    if (harmless)
+        *harmless = m_count <= maximum ? bytes.size() : std::max<qsizetype>(i - 1, 0);
     return m_count <= maximum;
 }
 
@@ -75,9 +79,14 @@ QString XmlGuardDevice::reason()
 
 qint64 XmlGuardDevice::readData(char* data, qint64 maximum)
 {
-    if (m_stopped)
+    if (m_stopped) {
+        m_ended = true;
         return -1;
+    }
     const qint64 count = m_device.read(data, maximum);
-    m_stopped = count > 0 && !m_counter.feed(QByteArrayView(data, count));
-    return m_stopped ? -1 : count;
+    if (count <= 0)
+        return count;
+    qsizetype harmless = 0;
+    m_stopped = !m_counter.feed(QByteArrayView(data, count), &harmless);
+    return harmless;
 }

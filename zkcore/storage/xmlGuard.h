@@ -13,8 +13,9 @@ public:
     /// Greatest number of attributes of one element.
     static constexpr int maximum = 1000;
 
-    /// Goes on with the next bytes. False when an element has too many attributes; then and from then on.
-    bool feed(QByteArrayView bytes);
+    /// Goes on with the next bytes. False when an element has too many attributes; then and from then on. `harmless`
+    /// is set to the number of bytes before the one attribute too many.
+    bool feed(QByteArrayView bytes, qsizetype* harmless = nullptr);
     /// The same for a whole file.
     static bool isHarmless(QByteArrayView bytes) { return XmlAttributeCounter().feed(bytes); }
 
@@ -38,7 +39,7 @@ public:
     explicit XmlGuardDevice(QIODevice& device);
 
     bool isSequential() const override { return true; }
-    bool atEnd() const override { return m_stopped || m_device.atEnd(); }
+    bool atEnd() const override { return m_ended || m_device.atEnd(); }
     /// Whether it ended for that reason.
     bool isStopped() const { return m_stopped; }
     /// What is wrong then, translated.
@@ -52,4 +53,5 @@ private:
     QIODevice& m_device;
     XmlAttributeCounter m_counter;
     bool m_stopped = false;
+    bool m_ended = false; // all before the fault was handed on
 };

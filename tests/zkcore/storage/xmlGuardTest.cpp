@@ -33,12 +33,11 @@ TEST(XmlGuard, CountsTheAttributesOfEachElement)
     const int most = XmlAttributeCounter::maximum;
     const QByteArray fits = "<a" + manyAttributes(most) + ">" + "<b" + manyAttributes(most) + "/></a>";
     EXPECT_TRUE(XmlAttributeCounter::isHarmless(fits));
-    for (const char* value : {"''", "\">\"", "'\"<=>'"}) {
+    for (const QByteArray& value : {"''", "\">\"", "'\"<=>'"}) {
         const QByteArray element = "<a" + manyAttributes(most + 1, value) + "/>";
-        for (const char* start :
+        for (const QByteArray& before :
              {"", "<?xml version='1.0'?>", "<!-- ' -- > -->", "<!-- !- [ --->", "<b><![CDATA[ !- ]] <c d=' ]]]></b>"}) {
-            const QByteArray before(start);
-            EXPECT_FALSE(XmlAttributeCounter::isHarmless(before + element)) << before.constData() << value;
+            EXPECT_FALSE(XmlAttributeCounter::isHarmless(before + element)) << before.constData() << value.constData();
             EXPECT_FALSE(XmlAttributeCounter::isHarmless(wide(before + element)));
         }
     }
