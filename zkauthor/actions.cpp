@@ -113,6 +113,7 @@ Actions::Actions(QMainWindow* window)
     zoomFit = makeAction(window, "zoom-fit", tr("&Fit"), tr("Show the whole scene"), key("Ctrl+0"));
     openPopup = makeAction(window, "open-popup", tr("Open Pop-&up"), tr("Show the pop-up of the selected part"),
                            key("Ctrl+Return"));
+    closePopup = makeAction(window, "close-popup", tr("C&lose Pop-up"), tr("Close the pop-up on view"), key("Ctrl+F4"));
 
     addScene = makeAction(window, "add-scene", tr("New &Scene"), tr("Add an empty scene"));
     removeScene = makeAction(window, "delete-scene", tr("Delete S&cene"), tr("Delete the scene on view"));
@@ -166,7 +167,7 @@ void Actions::makeMenus(QMainWindow* window)
     viewMenu = window->menuBar()->addMenu(tr("&View"));
     viewMenu->addActions({zoomIn, zoomOut, zoomNormal, zoomFit});
     viewMenu->addSeparator();
-    viewMenu->addAction(openPopup);
+    viewMenu->addActions({openPopup, closePopup});
     viewMenu->addSeparator();
 
     insertMenu = window->menuBar()->addMenu(tr("&Insert"));

@@ -44,6 +44,7 @@ public:
     QAction* zoomNormal;
     QAction* zoomFit;
     QAction* openPopup;
+    QAction* closePopup;
 
     QAction* addScene;
     QAction* removeScene;

@@ -27,6 +27,7 @@
 #include "zkeditor/license/licenceManager.h"
 #include "zkeditor/settingsService.h"
 #include "zkeditor/sidePane.h"
+#include "zkeditor/widgets/readablePalette.h"
 
 #include <QAction>
 #include <QApplication>
@@ -49,6 +50,7 @@ MainWindow::MainWindow(QWidget* parent, std::shared_ptr<DocumentFiles> files)
       m_zoomText(new QLabel)
 {
     setObjectName(QStringLiteral("mainWindow"));
+    new ReadablePalette(this);
     setCentralWidget(m_tabs);
     resize(1180, 760);
 
@@ -139,6 +141,10 @@ void MainWindow::connectActions()
     onView(m_actions->zoomNormal, [](SceneView* view) { view->setZoom(1); });
     onView(m_actions->zoomFit, [](SceneView* view) { view->zoomToFit(); });
     on(m_actions->openPopup, &MainWindow::openPopup);
+    on(m_actions->closePopup, [this] {
+        m_palettes->commitPendingEdit();
+        m_tabs->closeCurrentPopup();
+    });
     on(m_actions->addScene, &MainWindow::addScene);
     on(m_actions->removeScene, &MainWindow::removeScene);
     on(m_actions->about, &MainWindow::about);
@@ -256,6 +262,7 @@ void MainWindow::updateActions()
     m_actions->openPopup->setEnabled(part && part->popup());
     m_actions->saveCustomPart->setEnabled(part && !isConnection(*part));
     const SpaceImpl* space = m_tabs->currentSpace();
+    m_actions->closePopup->setEnabled(space && space->kind() == NodeKind::Popup);
     m_actions->removeScene->setEnabled(space && space->kind() == NodeKind::Scene &&
                                        m_document->getModel()->childCount() > 1);
     updateSelectionText();
@@ -266,6 +273,11 @@ void MainWindow::updateSelectionText()
     const size_t count = m_document->getSelection().size();
     m_selectionText->setText(count == 0 ? tr("Nothing selected")
                                         : tr("%Ln selected", nullptr, static_cast<int>(count)));
+    // What people hear who cannot see which part is framed.
+    if (SceneView* view = m_tabs->currentView())
+        view->setAccessibleDescription(
+            count == 1 ? tr("Selected: %1").arg((*m_document->getSelection().begin())->displayName())
+                       : m_selectionText->text());
 }
 
 void MainWindow::showPointer(const QPointF& place)

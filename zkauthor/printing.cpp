@@ -9,15 +9,18 @@
 #include "zkeditor/dialogs/pageSetup.h"
 #include "zkeditor/license/licenceManager.h"
 
+#include <QComboBox>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QGuiApplication>
+#include <QLineEdit>
 #include <QPainter>
 #include <QPrintDialog>
 #include <QPrintPreviewDialog>
 #include <QPrinter>
 #include <QSaveFile>
 #include <QSvgGenerator>
+#include <QToolButton>
 #include <algorithm>
 
 namespace {
@@ -90,6 +93,18 @@ void Printing::preview()
     layOut(&device);
     QPrintPreviewDialog dialog(&device, m_window);
     connect(&dialog, &QPrintPreviewDialog::paintRequested, this, [this](QPrinter* printer) { paintPages(printer); });
+    // The toolkit leaves them to the mouse, and its fields without names.
+    const auto buttons = dialog.findChildren<QToolButton*>();
+    for (QToolButton* button : buttons)
+        button->setFocusPolicy(Qt::TabFocus);
+    const auto zooms = dialog.findChildren<QComboBox*>();
+    for (QComboBox* zoom : zooms)
+        zoom->setAccessibleName(tr("Zoom"));
+    const auto fields = dialog.findChildren<QLineEdit*>();
+    for (QLineEdit* field : fields) {
+        if (!qobject_cast<QComboBox*>(field->parentWidget()))
+            field->setAccessibleName(tr("Page"));
+    }
     dialog.exec();
 }
 

@@ -7,6 +7,7 @@
 #include "zkcore/commands/viewCommands.h"
 #include "zkcore/model/documentImpl.h"
 
+#include <QAccessibleWidget>
 #include <QApplication>
 #include <QContextMenuEvent>
 #include <QDragEnterEvent>
@@ -50,11 +51,18 @@ bool isArrow(int key)
     return key == Qt::Key_Left || key == Qt::Key_Right || key == Qt::Key_Up || key == Qt::Key_Down;
 }
 
+QAccessibleInterface* makeSceneAccessible(const QString& className, QObject* object)
+{
+    auto* view = className == QLatin1String("SceneView") ? qobject_cast<SceneView*>(object) : nullptr;
+    return view ? new QAccessibleWidget(view, QAccessible::Canvas) : nullptr;
+}
+
 } // namespace
 
 SceneView::SceneView(DocumentImpl* document, SpaceImpl* space, PartEditor* editor, QWidget* parent)
     : QGraphicsView(parent), m_document(document), m_editor(editor), m_scene(new SpaceScene(document, space, this))
 {
+    [[maybe_unused]] static const bool installed = (QAccessible::installFactory(makeSceneAccessible), true);
     setObjectName(QStringLiteral("sceneView"));
     setScene(m_scene);
     setFocusPolicy(Qt::StrongFocus);

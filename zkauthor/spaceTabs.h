@@ -34,6 +34,8 @@ public:
     void showSpace(SpaceImpl* space);
     /// Shows the same tabs as others of the same document, each at the same place and as large.
     void showLike(const SpaceTabs& other);
+    /// Nothing happens while a scene is on view.
+    void closeCurrentPopup() { onTabCloseRequested(currentIndex()); }
 
 Q_SIGNALS:
     /// Another space is shown, or none.

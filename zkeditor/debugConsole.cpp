@@ -18,6 +18,8 @@ DebugConsole::DebugConsole(QWidget* parent, const QString& name, Qt::WindowFlags
       m_highlighter(new DebugConsoleHighlighter(m_textView->document()))
 {
     setObjectName(name);
+    setWindowTitle(tr("Messages"));
+    m_textView->setAccessibleName(windowTitle());
     m_textView->setReadOnly(true);
     m_textView->setUndoRedoEnabled(false); // would keep a second copy of every message
     auto* layout = new QHBoxLayout(this);

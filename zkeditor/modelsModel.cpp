@@ -376,8 +376,7 @@ QVariant ModelsModel::documentData(const Document& document, int role) const
         return document.picture.isNull() ? icon(QStringLiteral("editor/models/document"), pictureSize)
                                          : document.picture;
     case Qt::ForegroundRole:
-        return document.fault.isEmpty() ? QVariant()
-                                        : QGuiApplication::palette().brush(QPalette::Disabled, QPalette::Text);
+        return document.fault.isEmpty() ? QVariant() : QGuiApplication::palette().brush(QPalette::PlaceholderText);
     case Qt::FontRole:
         if (document.file.path == m_openDocument) {
             QFont bold;

@@ -187,7 +187,7 @@ QVariant PropertyTableModel::data(const QModelIndex& index, int role) const
         return {};
     case Qt::ForegroundRole:
         if (index.column() == ValueColumn && !property->userCanEdit())
-            return QGuiApplication::palette().brush(QPalette::Disabled, QPalette::Text);
+            return QGuiApplication::palette().brush(QPalette::PlaceholderText);
         return {};
     default:
         return {};

@@ -5,6 +5,7 @@
 #include "zkeditor/license/licenceManager.h"
 #include "zkeditor/license/licenceText.h"
 #include "zkeditor/widgets/linkLabel.h"
+#include "zkeditor/widgets/errorLabel.h"
 
 #include <QFontDatabase>
 #include <QHBoxLayout>
@@ -36,10 +37,8 @@ LicenceDialog::LicenceDialog(LicenceManager* manager, QWidget* parent) : QDialog
     layout->addWidget(label);
     layout->addWidget(m_code);
 
-    m_verdict = new QLabel;
+    m_verdict = new ErrorLabel;
     m_verdict->setObjectName(QStringLiteral("verdict"));
-    m_verdict->setWordWrap(true);
-    m_verdict->setTextFormat(Qt::PlainText);
     m_verdict->setAlignment(Qt::AlignLeading | Qt::AlignTop);
     layout->addWidget(m_verdict);
 
@@ -92,13 +91,7 @@ void LicenceDialog::showStatus()
 
 void LicenceDialog::showVerdict(const QString& text, bool wrong)
 {
-    QPalette colors;
-    if (wrong) {
-        // Red that can be read on the ground it stands on.
-        const bool dark = palette().color(QPalette::Window).lightness() < 128;
-        colors.setColor(QPalette::WindowText, dark ? QColor(0xff, 0x8a, 0x80) : QColor(0xc0, 0x1c, 0x1c));
-    }
-    m_verdict->setPalette(colors);
+    m_verdict->setWrong(wrong);
     m_verdict->setText(text);
 }
 

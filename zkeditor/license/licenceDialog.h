@@ -4,6 +4,7 @@
 
 #include <QDialog>
 
+class ErrorLabel;
 class LicenceManager;
 class LinkLabel;
 class QLabel;
@@ -42,7 +43,7 @@ private:
     LicenceManager* m_manager;
     QLabel* m_status;
     QPlainTextEdit* m_code;
-    QLabel* m_verdict;
+    ErrorLabel* m_verdict;
     LinkLabel* m_help;
     QPushButton* m_remove;
 };

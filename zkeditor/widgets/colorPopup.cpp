@@ -48,7 +48,10 @@ void ColorPopup::addColors(const QString& title, const std::vector<QColor>& colo
 {
     auto* box = static_cast<QVBoxLayout*>(layout());
     box->addWidget(new QLabel(title, this));
-    auto* grid = new QGridLayout;
+    auto* group = new QWidget(this); // whose name tells two swatches of one colour apart
+    group->setAccessibleName(title);
+    auto* grid = new QGridLayout(group);
+    grid->setContentsMargins(0, 0, 0, 0);
     grid->setSpacing(0);
     for (size_t i = 0; i < colors.size(); ++i) {
         const bool isCurrent = colors[i] == current;
@@ -61,7 +64,7 @@ void ColorPopup::addColors(const QString& title, const std::vector<QColor>& colo
         grid->addWidget(button, static_cast<int>(i / colorColumns), static_cast<int>(i % colorColumns));
     }
     grid->setColumnStretch(static_cast<int>(colorColumns), 1);
-    box->addLayout(grid);
+    box->addWidget(group);
 }
 
 QToolButton* ColorPopup::makeButton(const QColor& color, bool current)

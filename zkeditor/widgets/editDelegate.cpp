@@ -1,5 +1,7 @@
 #include "zkeditor/widgets/editDelegate.h"
 
+#include "zkeditor/widgets/readableColors.h"
+
 #include "zkeditor/widgets/lineEdit.h"
 
 #include <QAbstractItemModel>
@@ -35,7 +37,7 @@ QWidget* EditDelegate::createEditor(QWidget* parent, const QStyleOptionViewItem&
                     const QString reason = at.isValid() ? m_check(at, text) : QString();
                     QPalette palette;
                     if (!reason.isEmpty())
-                        palette.setColor(QPalette::Text, Qt::red);
+                        palette.setColor(QPalette::Text, readableColors::error(edit->palette(), QPalette::Base));
                     edit->setPalette(palette);
                     edit->setToolTip(reason);
                     edit->setAccessibleDescription(reason);

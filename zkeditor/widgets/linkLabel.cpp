@@ -1,6 +1,8 @@
 // Text that can be clicked.
 #include "zkeditor/widgets/linkLabel.h"
 
+#include "zkeditor/widgets/pressableLabel.h"
+
 #include <QFontMetrics>
 #include <QKeyEvent>
 #include <QMouseEvent>
@@ -9,6 +11,7 @@
 
 LinkLabel::LinkLabel(QWidget* parent, const QString& name) : QLabel(parent)
 {
+    pressableLabel::install();
     setObjectName(name);
     setTextFormat(Qt::RichText);
     setCursor(Qt::PointingHandCursor);

@@ -1,6 +1,7 @@
 #include "zkeditor/widgets/listEditor.h"
 
 #include "zkeditor/widgets/editDelegate.h"
+#include "zkeditor/widgets/errorLabel.h"
 #include "zkeditor/widgets/plusMinusButton.h"
 #include "zkeditor/widgets/toolAction.h"
 
@@ -111,7 +112,7 @@ private:
 
 ListEditor::ListEditor(QWidget* parent, const QString& name)
     : QWidget(parent), m_view(new ListRows(this)), m_delegate(new EditDelegate(this)), m_buttons(new QHBoxLayout),
-      m_message(new QLabel(this))
+      m_message(new ErrorLabel(this))
 {
     setObjectName(name);
     m_view->setObjectName(QStringLiteral("rows"));
@@ -127,7 +128,7 @@ ListEditor::ListEditor(QWidget* parent, const QString& name)
     m_view->setContextMenuPolicy(Qt::ActionsContextMenu);
     m_view->installEventFilter(this);
     m_message->setObjectName(QStringLiteral("message"));
-    toolAction::makeMessageLabel(m_message);
+    m_message->hide();
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(2);

@@ -257,18 +257,35 @@ void PaletteBox::orderTabs(int from)
 {
     // Contents are older than their headers, so the toolkit's own order would have them first.
     std::vector<std::vector<QWidget*>> receivers(m_items.size());
+    std::vector<QWidget*> present;
+    bool left = false;        // the order has gone on to others
+    bool interrupted = false; // and come back
     for (QWidget* w = nextInFocusChain(); w && w != this; w = w->nextInFocusChain()) {
         // Compound controls hand the focus on to a child; the toolkit moves them with what is in them.
-        if (!((w->focusPolicy() & Qt::TabFocus) || w->focusProxy()) || !isAncestorOf(w) || isWithinCompound(w))
+        if (!((w->focusPolicy() & Qt::TabFocus) || w->focusProxy()))
             continue;
+        if (!isAncestorOf(w)) {
+            left = left || !present.empty();
+            continue;
+        }
+        if (isWithinCompound(w))
+            continue;
+        present.push_back(w);
+        interrupted = interrupted || left;
         for (size_t i = 0; i < m_items.size(); ++i) {
             if (m_items[i]->isAncestorOf(w) && w != m_items[i]->button())
                 receivers[i].push_back(w);
         }
     }
-    QWidget* last = nullptr;
+    std::vector<QWidget*> wanted;
     for (size_t i = 0; i < m_items.size(); ++i) {
         receivers[i].insert(receivers[i].begin(), m_items[i]->button());
+        wanted.insert(wanted.end(), receivers[i].begin(), receivers[i].end());
+    }
+    if (present == wanted && !interrupted)
+        return; // the toolkit takes long to move a widget
+    QWidget* last = nullptr;
+    for (size_t i = 0; i < m_items.size(); ++i) {
         for (QWidget* each : receivers[i]) {
             if (last && static_cast<int>(i) >= from)
                 setTabOrder(last, each);
@@ -348,6 +365,14 @@ void PaletteBox::buttonClicked()
                                  [header](const PaletteItem* each) { return each->button() == header; });
     if (at != m_items.end())
         showPaletteItem(*at, (*at)->isOpen());
+}
+
+bool PaletteBox::event(QEvent* event)
+{
+    // New contents, too: Tab from outside is to come to the first of them.
+    if (event->type() == QEvent::LayoutRequest)
+        orderTabs(0);
+    return QWidget::event(event);
 }
 
 bool PaletteBox::focusNextPrevChild(bool next)

@@ -164,7 +164,7 @@ QVariant PropertyChoiceModel::data(const QModelIndex& index, int role) const
         return reason.isEmpty() ? tr("Can be linked") : reason;
     }
     if (role == Qt::ForegroundRole && !reasonAt(index.row()).isEmpty())
-        return QApplication::palette().color(QPalette::Disabled, QPalette::Text);
+        return QApplication::palette().color(QPalette::PlaceholderText);
     if (role != Qt::DisplayRole)
         return {};
     switch (index.column()) {

@@ -6,6 +6,7 @@
 #include "zkcore/model/documentImpl.h"
 #include "zkcore/model/propertyImpl.h"
 #include "zkeditor/widgets/comboBox.h"
+#include "zkeditor/widgets/errorLabel.h"
 #include "zkeditor/widgets/poReceiver.h"
 #include "zkeditor/widgets/resourceImport.h"
 #include "zkeditor/widgets/resourceModel.h"
@@ -33,7 +34,7 @@ constexpr QSize chooserPreview(56, 56);
 ResourceChooser::ResourceChooser(QWidget* parent, const QString& name)
     : QWidget(parent), PropertyObserver(this, Value::RESOURCE), m_preview(new QLabel(this)),
       m_list(new ComboBox(this, QStringLiteral("resources"))), m_model(new ResourceModel(this)),
-      m_message(new QLabel(this))
+      m_message(new ErrorLabel(this))
 {
     setObjectName(name);
     m_preview->setObjectName(QStringLiteral("preview"));
@@ -49,7 +50,7 @@ ResourceChooser::ResourceChooser(QWidget* parent, const QString& name)
     m_list->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     m_list->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed); // the names must not widen a pane
     m_message->setObjectName(QStringLiteral("message"));
-    toolAction::makeMessageLabel(m_message);
+    m_message->hide();
 
     auto* buttons = new QHBoxLayout;
     buttons->setSpacing(2);

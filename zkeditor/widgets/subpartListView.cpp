@@ -97,6 +97,7 @@ void SubpartListView::bind(DocumentImpl* document, const std::set<NodeImpl*>& no
     setEnabled(!m_model->parts().empty());
     if (accessibleName().isEmpty())
         setAccessibleName(tr("Subparts"));
+    view()->setAccessibleName(accessibleName());
     QList<int> rows;
     for (const InstanceId id : chosen) {
         if (const int row = m_model->rowOf(id); row >= 0)

@@ -6,7 +6,6 @@
 #include <QAction>
 #include <QKeyEvent>
 #include <QKeySequence>
-#include <QLabel>
 #include <QToolButton>
 
 QIcon toolAction::icon(const char* resource)
@@ -54,14 +53,4 @@ QToolButton* toolAction::addButton(QWidget* editor, QAction* action, const QKeyS
     button->setFocusPolicy(Qt::TabFocus);
     button->setAccessibleName(action->text());
     return button;
-}
-
-void toolAction::makeMessageLabel(QLabel* label)
-{
-    label->setWordWrap(true);
-    label->setTextFormat(Qt::PlainText);
-    QPalette red = label->palette();
-    red.setColor(QPalette::WindowText, Qt::red);
-    label->setPalette(red);
-    label->hide();
 }

@@ -5,11 +5,10 @@
 class QAction;
 class QEvent;
 class QKeySequence;
-class QLabel;
 class QToolButton;
 class QWidget;
 
-/// The small buttons and messages of editors that consist of several widgets.
+/// The small buttons of editors that consist of several widgets.
 namespace toolAction {
 
 /// One of the library's pictures ("editor/lists/up") as an icon of all usual sizes.
@@ -22,7 +21,5 @@ void setKeys(QWidget* editor, QAction* action, const QKeySequence& keys);
 bool takeKey(const QWidget* editor, QEvent* event);
 /// A flat button for an action, which gets its keys; they work while the focus is in the editor.
 QToolButton* addButton(QWidget* editor, QAction* action, const QKeySequence& keys);
-/// Makes a label one that says in red why something was not done; hidden at first.
-void makeMessageLabel(QLabel* label);
 
 } // namespace toolAction

@@ -8,6 +8,8 @@
 #include "zkcore/widgetSupport/fonts.h"
 #include "zkcore/widgetSupport/richMenuItem.h"
 #include "zkeditor/widgets/poReceiver.h"
+#include "zkeditor/widgets/pressableLabel.h"
+#include "zkeditor/widgets/readableColors.h"
 
 #include <QGuiApplication>
 #include <QKeyEvent>
@@ -31,6 +33,7 @@ NumericalFormatter* unitFormatterOf(const PropertyImpl* property)
 UnitChooser::UnitChooser(QWidget* parent, const QString& name)
     : QLabel(QStringLiteral("units"), parent), PropertyObserver(this), m_popup(new QMenu(this))
 {
+    pressableLabel::install();
     setObjectName(name);
     setTextFormat(Qt::RichText);
     setCursor(Qt::ArrowCursor);
@@ -91,7 +94,7 @@ void UnitChooser::bind(DocumentImpl* document, const std::set<NodeImpl*>& nodes)
         clear();
         return;
     }
-    setAccessibleName(m_props.front()->getUserVisibleLabel());
+    setAccessibleName(tr("Unit of %1").arg(m_props.front()->getUserVisibleLabel()));
     onFormatChanged();
     onStateChanged();
 }
@@ -317,7 +320,8 @@ void UnitChooser::enterEvent(QEnterEvent* event)
     if (!isEnabled() || m_units.size() < 2)
         return;
     QPalette hovered = palette();
-    hovered.setColor(QPalette::WindowText, Qt::blue);
+    // Blue on light ground, a lighter one on dark.
+    hovered.setColor(QPalette::WindowText, readableColors::on(hovered.color(QPalette::Window), Qt::blue));
     setPalette(hovered);
 }
 

@@ -4,6 +4,7 @@
 #include "zkcore/commands/setNodeIndexCommand.h"
 #include "zkeditor/widgets/observerGroupBox.h"
 #include "zkeditor/widgets/observerLineEdit.h"
+#include "zkeditor/widgets/readableColors.h"
 #include "zkeditor/widgets/subpartCombobox.h"
 #include "zkeditor/widgets/subpartListView.h"
 #include "zkeditor/widgets/subpartModel.h"
@@ -185,7 +186,7 @@ TEST_F(SubpartEditorsTest, NamesThatAreTakenOrEmptyAreRefused)
     ASSERT_TRUE(edit);
     edit->selectAll();
     QTest::keyClicks(edit, "right");
-    EXPECT_EQ(edit->palette().color(QPalette::Text), QColor(Qt::red));
+    EXPECT_EQ(edit->palette().color(QPalette::Text), readableColors::error(edit->palette(), QPalette::Base));
     EXPECT_EQ(edit->toolTip(), QString("Another subpart has this id."));
     QTest::keyClick(edit, Qt::Key_Return);
     settle();
