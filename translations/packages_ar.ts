@@ -689,7 +689,7 @@
         <translation>الخاصية صحيحة ما دام الزر مكبوسًا.</translation>
     </message>
     <message>
-        <source>&amp;Press in</source>
+        <source>Press i&amp;n</source>
         <translation>ا&amp;كبس</translation>
     </message>
     <message>
@@ -833,7 +833,7 @@
         <translation>&amp;صغير</translation>
     </message>
     <message>
-        <source>Med&amp;ium</source>
+        <source>Medi&amp;um</source>
         <translation>&amp;متوسط</translation>
     </message>
     <message>
@@ -887,6 +887,10 @@
     <message>
         <source>The colour as documents write it.</source>
         <translation>اللون كما تكتبه المستندات.</translation>
+    </message>
+    <message>
+        <source>Loud, as a button</source>
+        <translation>عالٍ، كزر</translation>
     </message>
 </context>
 <context>
@@ -1168,8 +1172,8 @@
         <translation>الارتباط</translation>
     </message>
     <message>
-        <source>Line</source>
-        <translation>الخط</translation>
+        <source>Arrow and route</source>
+        <translation>السهم والمسار</translation>
     </message>
     <message>
         <source>Draws an arrow head at the end.</source>
@@ -1524,6 +1528,10 @@
     <message>
         <source>Show a &amp;grid</source>
         <translation>عرض &amp;شبكة</translation>
+    </message>
+    <message>
+        <source>Name of the pop-up</source>
+        <translation>اسم النافذة المنبثقة</translation>
     </message>
 </context>
 <context>

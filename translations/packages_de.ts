@@ -689,7 +689,7 @@
         <translation>Die Eigenschaft ist wahr, während der Knopf eingedrückt ist.</translation>
     </message>
     <message>
-        <source>&amp;Press in</source>
+        <source>Press i&amp;n</source>
         <translation>E&amp;indrücken</translation>
     </message>
     <message>
@@ -833,7 +833,7 @@
         <translation>&amp;Klein</translation>
     </message>
     <message>
-        <source>Med&amp;ium</source>
+        <source>Medi&amp;um</source>
         <translation>&amp;Mittel</translation>
     </message>
     <message>
@@ -887,6 +887,10 @@
     <message>
         <source>The colour as documents write it.</source>
         <translation>Die Farbe, wie Dokumente sie schreiben.</translation>
+    </message>
+    <message>
+        <source>Loud, as a button</source>
+        <translation>Laut, als Knopf</translation>
     </message>
 </context>
 <context>
@@ -1168,8 +1172,8 @@
         <translation>Verknüpfung</translation>
     </message>
     <message>
-        <source>Line</source>
-        <translation>Linie</translation>
+        <source>Arrow and route</source>
+        <translation>Pfeil und Verlauf</translation>
     </message>
     <message>
         <source>Draws an arrow head at the end.</source>
@@ -1524,6 +1528,10 @@
     <message>
         <source>Show a &amp;grid</source>
         <translation>&amp;Raster zeigen</translation>
+    </message>
+    <message>
+        <source>Name of the pop-up</source>
+        <translation>Name des Pop-ups</translation>
     </message>
 </context>
 <context>

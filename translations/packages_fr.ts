@@ -689,7 +689,7 @@
         <translation>La propriété est vraie tant que le bouton est enfoncé.</translation>
     </message>
     <message>
-        <source>&amp;Press in</source>
+        <source>Press i&amp;n</source>
         <translation>&amp;Enfoncer</translation>
     </message>
     <message>
@@ -833,7 +833,7 @@
         <translation>Pe&amp;tit</translation>
     </message>
     <message>
-        <source>Med&amp;ium</source>
+        <source>Medi&amp;um</source>
         <translation>Mo&amp;yen</translation>
     </message>
     <message>
@@ -887,6 +887,10 @@
     <message>
         <source>The colour as documents write it.</source>
         <translation>La couleur telle que les documents l&apos;écrivent.</translation>
+    </message>
+    <message>
+        <source>Loud, as a button</source>
+        <translation>Fort, en bouton</translation>
     </message>
 </context>
 <context>
@@ -1168,8 +1172,8 @@
         <translation>Lien</translation>
     </message>
     <message>
-        <source>Line</source>
-        <translation>Trait</translation>
+        <source>Arrow and route</source>
+        <translation>Flèche et tracé</translation>
     </message>
     <message>
         <source>Draws an arrow head at the end.</source>
@@ -1524,6 +1528,10 @@
     <message>
         <source>Show a &amp;grid</source>
         <translation>Montrer une &amp;grille</translation>
+    </message>
+    <message>
+        <source>Name of the pop-up</source>
+        <translation>Nom de la bulle</translation>
     </message>
 </context>
 <context>

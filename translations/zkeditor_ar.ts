@@ -350,6 +350,14 @@
         <source>Read how things are done</source>
         <translation>قراءة كيفية القيام بالأمور</translation>
     </message>
+    <message>
+        <source>C&amp;lose Pop-up</source>
+        <translation>إ&amp;غلاق النافذة المنبثقة</translation>
+    </message>
+    <message>
+        <source>Close the pop-up on view</source>
+        <translation>إغلاق النافذة المنبثقة المعروضة</translation>
+    </message>
 </context>
 <context>
     <name>AddCustomPartDialog</name>
@@ -889,6 +897,13 @@ Please enter another id</source>
     <message>
         <source>Change property value</source>
         <translation>تغيير قيمة الخاصية</translation>
+    </message>
+</context>
+<context>
+    <name>DebugConsole</name>
+    <message>
+        <source>Messages</source>
+        <translation>الرسائل</translation>
     </message>
 </context>
 <context>
@@ -2194,6 +2209,10 @@ Please enter another id</source>
         <source>There is no part with the id &quot;%1&quot;.</source>
         <translation>لا توجد قطعة بالمعرّف &quot;%1&quot;.</translation>
     </message>
+    <message>
+        <source>Selected: %1</source>
+        <translation>المحدد: %1</translation>
+    </message>
 </context>
 <context>
     <name>MessagesPane</name>
@@ -3156,6 +3175,14 @@ Please enter another id</source>
     <message>
         <source>SVG drawings (*.svg)</source>
         <translation>رسوم SVG (*.svg)</translation>
+    </message>
+    <message>
+        <source>Zoom</source>
+        <translation>التكبير</translation>
+    </message>
+    <message>
+        <source>Page</source>
+        <translation>الصفحة</translation>
     </message>
 </context>
 <context>
@@ -4184,6 +4211,13 @@ Please enter another id</source>
     <message>
         <source>percent</source>
         <translation>بالمئة</translation>
+    </message>
+</context>
+<context>
+    <name>UnitChooser</name>
+    <message>
+        <source>Unit of %1</source>
+        <translation>وحدة %1</translation>
     </message>
 </context>
 <context>

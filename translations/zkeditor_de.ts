@@ -350,6 +350,14 @@
         <source>Read how things are done</source>
         <translation>Nachlesen, wie es gemacht wird</translation>
     </message>
+    <message>
+        <source>C&amp;lose Pop-up</source>
+        <translation>Pop-up schl&amp;ießen</translation>
+    </message>
+    <message>
+        <source>Close the pop-up on view</source>
+        <translation>Das gezeigte Pop-up schließen</translation>
+    </message>
 </context>
 <context>
     <name>AddCustomPartDialog</name>
@@ -885,6 +893,13 @@ Bitte geben Sie eine andere Kennung ein</translation>
     <message>
         <source>Change property value</source>
         <translation>Wert der Eigenschaft ändern</translation>
+    </message>
+</context>
+<context>
+    <name>DebugConsole</name>
+    <message>
+        <source>Messages</source>
+        <translation>Meldungen</translation>
     </message>
 </context>
 <context>
@@ -2154,6 +2169,10 @@ Bitte geben Sie eine andere Kennung ein</translation>
         <source>There is no part with the id &quot;%1&quot;.</source>
         <translation>Es gibt kein Teil mit der Kennung &quot;%1&quot;.</translation>
     </message>
+    <message>
+        <source>Selected: %1</source>
+        <translation>Ausgewählt: %1</translation>
+    </message>
 </context>
 <context>
     <name>MessagesPane</name>
@@ -3100,6 +3119,14 @@ Bitte geben Sie eine andere Kennung ein</translation>
     <message>
         <source>SVG drawings (*.svg)</source>
         <translation>SVG-Zeichnungen (*.svg)</translation>
+    </message>
+    <message>
+        <source>Zoom</source>
+        <translation>Vergrößerung</translation>
+    </message>
+    <message>
+        <source>Page</source>
+        <translation>Seite</translation>
     </message>
 </context>
 <context>
@@ -4112,6 +4139,13 @@ Bitte geben Sie eine andere Kennung ein</translation>
     <message>
         <source>percent</source>
         <translation>Prozent</translation>
+    </message>
+</context>
+<context>
+    <name>UnitChooser</name>
+    <message>
+        <source>Unit of %1</source>
+        <translation>Einheit von %1</translation>
     </message>
 </context>
 <context>

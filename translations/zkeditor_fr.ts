@@ -350,6 +350,14 @@
         <source>Read how things are done</source>
         <translation>Lire comment faire</translation>
     </message>
+    <message>
+        <source>C&amp;lose Pop-up</source>
+        <translation>Fer&amp;mer la bulle</translation>
+    </message>
+    <message>
+        <source>Close the pop-up on view</source>
+        <translation>Fermer la bulle affichée</translation>
+    </message>
 </context>
 <context>
     <name>AddCustomPartDialog</name>
@@ -885,6 +893,13 @@ Veuillez en saisir un autre</translation>
     <message>
         <source>Change property value</source>
         <translation>Modifier la valeur de la propriété</translation>
+    </message>
+</context>
+<context>
+    <name>DebugConsole</name>
+    <message>
+        <source>Messages</source>
+        <translation>Messages</translation>
     </message>
 </context>
 <context>
@@ -2154,6 +2169,10 @@ Veuillez en saisir un autre</translation>
         <source>There is no part with the id &quot;%1&quot;.</source>
         <translation>Il n&apos;y a pas de pièce avec l&apos;identifiant « %1 ».</translation>
     </message>
+    <message>
+        <source>Selected: %1</source>
+        <translation>Sélection : %1</translation>
+    </message>
 </context>
 <context>
     <name>MessagesPane</name>
@@ -3100,6 +3119,14 @@ Veuillez en saisir un autre</translation>
     <message>
         <source>SVG drawings (*.svg)</source>
         <translation>Dessins SVG (*.svg)</translation>
+    </message>
+    <message>
+        <source>Zoom</source>
+        <translation>Zoom</translation>
+    </message>
+    <message>
+        <source>Page</source>
+        <translation>Page</translation>
     </message>
 </context>
 <context>
@@ -4112,6 +4139,13 @@ Veuillez en saisir un autre</translation>
     <message>
         <source>percent</source>
         <translation>pour cent</translation>
+    </message>
+</context>
+<context>
+    <name>UnitChooser</name>
+    <message>
+        <source>Unit of %1</source>
+        <translation>Unité de %1</translation>
     </message>
 </context>
 <context>

@@ -56,7 +56,6 @@ void MessagesPane::takeOverNewLines()
 void MessagesPane::showConsole()
 {
     DebugConsole& console = DebugConsole::getDebugConsole();
-    console.setWindowTitle(tr("Messages"));
     console.setAttribute(Qt::WA_QuitOnClose, false); // alone it must not keep the program running
     console.show();
     console.raise();
