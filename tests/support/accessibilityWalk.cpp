@@ -1,6 +1,6 @@
-#include "accessibilityWalk.h"
+#include "tests/support/accessibilityWalk.h"
 
-#include "contrastProbe.h"
+#include "tests/support/contrastProbe.h"
 
 #include <QAbstractButton>
 #include <QAbstractItemView>

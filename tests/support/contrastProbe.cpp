@@ -1,5 +1,5 @@
 // A paint device that paints everything but text into a picture, and notes the colour of each text and what lies below.
-#include "contrastProbe.h"
+#include "tests/support/contrastProbe.h"
 
 #include "zkeditor/widgets/readableColors.h"
 

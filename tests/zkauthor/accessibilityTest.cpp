@@ -5,6 +5,7 @@
 #include "tests/support/testDocument.h"
 #include "zkauthor/darkPalette.h"
 #include "zkauthor/palettes.h"
+#include "zkauthor/partHelp.h"
 #include "zkauthor/sceneView.h"
 #include "zkauthor/spaceTabs.h"
 #include "zkcore/model/nodeDb.h"
@@ -303,6 +304,15 @@ TEST_F(AccessibilityTest, Dialogs)
     lookAtNew(*inspector);
     QTest::keyClick(inspector->windowHandle(), Qt::Key_Escape);
     EXPECT_FALSE(inspector->isVisible());
+    showPartHelp(m_window.get(), document());
+    QPointer<QDialog> help = m_window->findChild<QDialog*>(QStringLiteral("partHelp"));
+    ASSERT_TRUE(help);
+    lookAtNew(*help);
+    QTest::keyClick(help->windowHandle(), Qt::Key_Escape);
+    EXPECT_FALSE(help && help->isVisible());
+    addPart(document(), "electronics/led");
+    for (const char* name : {"revert", "close"})
+        lookAtDialog(name);
 }
 
 TEST_F(AccessibilityTest, WindowsThatTheHostDoesNotShow)

@@ -78,6 +78,7 @@ PaletteBox::PaletteBox(unsigned int flags, QWidget* parent, const QString& name,
 {
     setObjectName(name);
     setMinimumWidth(leastPaletteBoxWidth);
+    qApp->installEventFilter(this);
     relayout();
 }
 
@@ -367,12 +368,16 @@ void PaletteBox::buttonClicked()
         showPaletteItem(*at, (*at)->isOpen());
 }
 
-bool PaletteBox::event(QEvent* event)
+bool PaletteBox::eventFilter(QObject* object, QEvent* event)
 {
-    // New contents, too: Tab from outside is to come to the first of them.
-    if (event->type() == QEvent::LayoutRequest)
-        orderTabs(0);
-    return QWidget::event(event);
+    // Tab from outside is to come to the first of what is here, though it may be new.
+    if (event->type() == QEvent::KeyPress && object->isWidgetType() &&
+        static_cast<QWidget*>(object)->window() == window()) {
+        const int key = static_cast<QKeyEvent*>(event)->key();
+        if (key == Qt::Key_Tab || key == Qt::Key_Backtab)
+            orderTabs(0);
+    }
+    return QWidget::eventFilter(object, event);
 }
 
 bool PaletteBox::focusNextPrevChild(bool next)

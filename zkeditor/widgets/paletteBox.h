@@ -82,7 +82,7 @@ protected Q_SLOTS:
 protected:
     void keyPressEvent(QKeyEvent* event) override;
     bool focusNextPrevChild(bool next) override;
-    bool event(QEvent* event) override;
+    bool eventFilter(QObject* object, QEvent* event) override;
 
 private:
     class PaletteItem;
