@@ -305,11 +305,14 @@ TEST_F(AccessibilityTest, Dialogs)
     QTest::keyClick(inspector->windowHandle(), Qt::Key_Escape);
     EXPECT_FALSE(inspector->isVisible());
     showPartHelp(m_window.get(), document());
-    QPointer<QDialog> help = m_window->findChild<QDialog*>(QStringLiteral("partHelp"));
-    ASSERT_TRUE(help);
-    lookAtNew(*help);
-    QTest::keyClick(help->windowHandle(), Qt::Key_Escape);
-    EXPECT_FALSE(help && help->isVisible());
+    trigger("help");
+    for (const char* name : {"partHelp", "help"}) {
+        const QPointer<QDialog> help = m_window->findChild<QDialog*>(QLatin1String(name));
+        ASSERT_TRUE(help) << name;
+        lookAtNew(*help);
+        QTest::keyClick(help->windowHandle(), Qt::Key_Escape);
+        EXPECT_FALSE(help && help->isVisible());
+    }
     addPart(document(), "electronics/led");
     for (const char* name : {"revert", "close"})
         lookAtDialog(name);
