@@ -4636,11 +4636,4 @@ The file is now %2.</source>
         <translation>لا يوجد مربع حوار &quot;%1&quot; لما هو محدد.</translation>
     </message>
 </context>
-<context>
-    <name>XmlGuard</name>
-    <message>
-        <source>an element has more than %1 attributes</source>
-        <translation>في عنصرٍ أكثر من %1 سمة</translation>
-    </message>
-</context>
 </TS>

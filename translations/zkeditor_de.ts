@@ -4556,11 +4556,4 @@ Die Datei ist jetzt %2.</translation>
         <translation>Für die Auswahl gibt es keinen Dialog „%1“.</translation>
     </message>
 </context>
-<context>
-    <name>XmlGuard</name>
-    <message>
-        <source>an element has more than %1 attributes</source>
-        <translation>ein Element hat mehr als %1 Attribute</translation>
-    </message>
-</context>
 </TS>

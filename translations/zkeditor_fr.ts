@@ -4556,11 +4556,4 @@ Le fichier est maintenant %2.</translation>
         <translation>Il n’y a pas de dialogue « %1 » pour la sélection.</translation>
     </message>
 </context>
-<context>
-    <name>XmlGuard</name>
-    <message>
-        <source>an element has more than %1 attributes</source>
-        <translation>un élément a plus de %1 attributs</translation>
-    </message>
-</context>
 </TS>

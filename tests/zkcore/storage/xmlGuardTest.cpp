@@ -33,11 +33,12 @@ TEST(XmlGuard, CountsTheAttributesOfEachElement)
     const int most = XmlAttributeCounter::maximum;
     const QByteArray fits = "<a" + manyAttributes(most) + ">" + "<b" + manyAttributes(most) + "/></a>";
     EXPECT_TRUE(XmlAttributeCounter::isHarmless(fits));
-    for (const QByteArray& value : {"''", "\">\"", "'\"<=>'"}) {
+    for (const char* value : {"''", "\">\"", "'\"<=>'"}) {
         const QByteArray element = "<a" + manyAttributes(most + 1, value) + "/>";
-        for (const QByteArray& before :
+        for (const char* start :
              {"", "<?xml version='1.0'?>", "<!-- ' -- > -->", "<!-- !- [ --->", "<b><![CDATA[ !- ]] <c d=' ]]]></b>"}) {
-            EXPECT_FALSE(XmlAttributeCounter::isHarmless(before + element)) << before.constData() << value.constData();
+            const QByteArray before(start);
+            EXPECT_FALSE(XmlAttributeCounter::isHarmless(before + element)) << start << value;
             EXPECT_FALSE(XmlAttributeCounter::isHarmless(wide(before + element)));
         }
     }
