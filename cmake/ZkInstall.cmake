@@ -105,6 +105,8 @@ set(CPACK_DEBIAN_RUNTIME_PACKAGE_SECTION libs)
 set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_SECTION libdevel)
 set(CPACK_DEBIAN_APPLICATION_PACKAGE_SECTION education)
 set(sameRuntime "libzkeditor${zkAbi} (= ${PROJECT_VERSION})")
+# The toolkit's own words in the languages of ours.
+set(CPACK_DEBIAN_RUNTIME_PACKAGE_RECOMMENDS qt6-translations-l10n)
 set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_DEPENDS "${sameRuntime}, qt6-base-dev")
 set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_SUGGESTS "designer-qt6")
 set(CPACK_DEBIAN_APPLICATION_PACKAGE_DEPENDS "${sameRuntime}, qt6-translations-l10n")

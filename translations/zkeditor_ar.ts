@@ -244,7 +244,7 @@
     </message>
     <message>
         <source>Print Previe&amp;w...</source>
-        <translation>معاي&amp;نة الطباعة...</translation>
+        <translation>معا&amp;ينة الطباعة...</translation>
     </message>
     <message>
         <source>Show the pages as they are printed</source>

@@ -87,6 +87,10 @@ bool SelectAllCommand::readContent(QXmlStreamReader& reader)
 
 PushUndoCommand::PushUndoCommand(LiveText description) : Command(JoinUndo), m_description(std::move(description)) {}
 
+PushUndoCommand::PushUndoCommand(const QString& description) : PushUndoCommand(LiveText([description] { return description; }))
+{
+}
+
 LiveText PushUndoCommand::liveUndoDescription() const
 {
     return m_description ? m_description : [] { return QString(); };

@@ -48,6 +48,8 @@ class ZKCORE_EXPORT PushUndoCommand : public Command
 public:
     /// The description is what the step's undo text says; without one, what the first change says.
     explicit PushUndoCommand(LiveText description = {});
+    /// For a description that is the same in every language.
+    explicit PushUndoCommand(const QString& description);
 
     LiveText liveUndoDescription() const override;
     QString getXMLClass() const override;

@@ -6,7 +6,7 @@
 
 #include <QCoreApplication>
 #include <QFontDatabase>
-#include <QHash>
+#include <QLocale>
 #include <QRegularExpression>
 #include <QSet>
 #include <QTranslator>
@@ -52,7 +52,7 @@ QString bare(QString text)
 
 /// What stands on view as it is in every language: units, and names in the samples and packages.
 const QSet<QString> unitsAndNames = {QStringLiteral("in"),    QStringLiteral("out"),   QStringLiteral("min"),
-                                     QStringLiteral("mile"),  QStringLiteral("kHz"),   QStringLiteral("one"),
+                                     QStringLiteral("mile"),  QStringLiteral("kHz"), QStringLiteral("rpm"),   QStringLiteral("one"),
                                      QStringLiteral("two"),   QStringLiteral("knob"),  QStringLiteral("apples"),
                                      QStringLiteral("ripe"),  QStringLiteral("bell"),  QStringLiteral("horn"),
                                      QStringLiteral("picture")};
@@ -60,8 +60,9 @@ const QSet<QString> unitsAndNames = {QStringLiteral("in"),    QStringLiteral("ou
 /// The inspector shows keys and values as documents have them.
 bool isDataOfInspector(const QString& window, const ShownText& shown)
 {
-    return (window == QLatin1String("inspector") || window.endsWith(QLatin1String("debugPalette"))) &&
-           shown.where.endsWith(QLatin1String(": row"));
+    const bool isValue = shown.where.endsWith(QLatin1String(": row")) ||
+                         (shown.where.endsWith(QLatin1String(": tool tip of a row")) && !shown.text.endsWith(QLatin1Char('.')));
+    return isValue && (window == QLatin1String("inspector") || window.endsWith(QLatin1String("debugPalette")));
 }
 
 class TranslatedInto : public LanguageFixture, public testing::WithParamInterface<const char*>
@@ -145,10 +146,13 @@ TEST_F(LanguageFixture, EveryTextIsLookedUp)
     for (const QString& family : QFontDatabase::families())
         data.insert(family);
     const QRegularExpression letters(QStringLiteral("\\p{L}{3,}"));
-    const QRegularExpression resourceName(QStringLiteral("^[a-z]+/[a-z-]+(/[a-z-]+)*$"));
+    const QRegularExpression resourceName(QStringLiteral("^([a-z]+/[a-z-]+(/[a-z-]+)*|/.*|#[0-9a-f]+)$")); // path, colour
+    for (const char* locale : {"en_GB", "de_DE", "fr_FR", "ar_EG"})
+        data.insert(QLocale(QLatin1String(locale)).nativeLanguageName());
     // As they are at first: the texts and titles that stand in the sample.
     const auto titles = [this] {
-        QSet<QString> found;
+        QSet<QString> found = {
+            document().getModel()->valueOfProperty(PropertyKey::fromString("notes")).toQString()};
         for (const char* id : {"first", "second", "third", "gallery"}) {
             if (const NodeImpl* node = document().nodeWithId(QLatin1String(id)))
                 found.insert(node->displayName());
