@@ -39,8 +39,8 @@ template <typename T> std::optional<T> fromCharacters(QStringView text)
     return number;
 }
 
-/// Without the locale's group separators, if they stand between groups of three digits and can be nothing else: a '.'
-/// alone is a decimal point in every locale.
+/// Without the locale's group separators, if they stand between groups of three digits and can be nothing else: a '.' or
+/// ',' alone is a decimal point somewhere.
 QString withoutGroups(QStringView typed, QChar point)
 {
     const QString separator = QLocale().groupSeparator();
@@ -58,7 +58,8 @@ QString withoutGroups(QStringView typed, QChar point)
                            std::all_of(groups.begin() + 1, groups.end(), [&](const QString& group) {
                                return group.size() == 3 && isDigits(group);
                            });
-    const bool isClear = separator.front() != u'.' || groups.size() > 2 || end < text.size();
+    const bool isPoint = separator.front() == u'.' || separator.front() == u',';
+    const bool isClear = !isPoint || groups.size() > 2 || end < text.size();
     return isGrouped && isClear ? groups.join(QString()) + text.sliced(end) : text;
 }
 

@@ -107,6 +107,7 @@ TEST_F(ExpressionInGerman, GroupsOfThreeDigitsAreUnderstoodWhereTheyAreClear)
     EXPECT_FALSE(reasonFor(QStringLiteral("12.34,5")).isNull());
     QLocale::setDefault(QLocale(QStringLiteral("en_GB")));
     EXPECT_EQ(valueOf("1,234.5"), 1234.5);
+    EXPECT_FALSE(reasonFor(QStringLiteral("1,234")).isNull());
     EXPECT_EQ(valueOf("max(1,234)"), 234.0);
 }
 
