@@ -568,14 +568,6 @@ Please enter another id</source>
         <translation>&amp;عرض النافذة المنبثقة</translation>
     </message>
     <message>
-        <source>Cl&amp;ick</source>
-        <translation>ال&amp;نقر</translation>
-    </message>
-    <message>
-        <source>Offset &amp;right</source>
-        <translation>الإزاحة إلى ال&amp;يمين</translation>
-    </message>
-    <message>
         <source>Opens when the &amp;mouse rests on it</source>
         <translation>يُفتح حين يستقر ال&amp;مؤشر عليه</translation>
     </message>
@@ -1429,10 +1421,6 @@ The file is now %2.</source>
         <source>Flowchart</source>
         <translation>مخطط انسيابي</translation>
     </message>
-    <message>
-        <source>The link &quot;%1&quot; cannot be opened.</source>
-        <translation>لا يمكن فتح الرابط &quot;%1&quot;.</translation>
-    </message>
 </context>
 <context>
     <name>FlowchartRunner</name>
@@ -2052,10 +2040,6 @@ The file is now %2.</source>
             <numerusform>صحيح حتى الآن: %n مجموعة.</numerusform>
             <numerusform>صحيح حتى الآن: %n مجموعة.</numerusform>
         </translation>
-    </message>
-    <message>
-        <source>Licence &amp;code:</source>
-        <translation>&amp;رمز الترخيص:</translation>
     </message>
     <message>
         <source>How licence codes work</source>
@@ -3788,10 +3772,6 @@ The file is now %2.</source>
         <source>The selected parts have different lists. What is added becomes the list of all.</source>
         <translation>للقطع المحددة قوائم مختلفة. ما يُضاف يصبح قائمة الجميع.</translation>
     </message>
-    <message>
-        <source>The selected parts have different lists</source>
-        <translation>للقطع المحددة قوائم مختلفة</translation>
-    </message>
 </context>
 <context>
     <name>ResourceModel</name>
@@ -4069,10 +4049,6 @@ The file is now %2.</source>
         <translation>جعل الصورة تعرض نماذج تحرير ما هو محدد وحدها، من أعلى إلى أسفل.</translation>
     </message>
     <message>
-        <source>Take the picture in dark colours.</source>
-        <translation>التقاط الصورة بألوان داكنة.</translation>
-    </message>
-    <message>
         <source>The document to open.</source>
         <translation>المستند المطلوب فتحه.</translation>
     </message>
@@ -4126,10 +4102,6 @@ The file is now %2.</source>
     <message>
         <source>--check-form and --check-package cannot be given together.</source>
         <translation>لا يمكن ذكر ‎--check-form‎ و‎--check-package‎ معًا.</translation>
-    </message>
-    <message>
-        <source>Only one document can be opened, but %1 were given.</source>
-        <translation>لا يمكن فتح إلا مستند واحد، لكن أُعطي %1.</translation>
     </message>
     <message>
         <source>Dark colours, whatever those of the desktop are.</source>
@@ -4494,10 +4466,6 @@ The file is now %2.</source>
     <message>
         <source>The selected parts have different entries. What is added becomes the entries of all.</source>
         <translation>للقطع المحددة إدخالات مختلفة. ما يُضاف يصبح إدخالات الجميع.</translation>
-    </message>
-    <message>
-        <source>The selected parts have different entries</source>
-        <translation>للقطع المحددة مدخلات مختلفة</translation>
     </message>
 </context>
 <context>

@@ -564,14 +564,6 @@ Bitte geben Sie eine andere Kennung ein</translation>
         <translation>Pop-up &amp;zeigen</translation>
     </message>
     <message>
-        <source>Cl&amp;ick</source>
-        <translation>&amp;Klick</translation>
-    </message>
-    <message>
-        <source>Offset &amp;right</source>
-        <translation>Versatz nach &amp;rechts</translation>
-    </message>
-    <message>
         <source>Opens when the &amp;mouse rests on it</source>
         <translation>Öffnet sich, wenn die &amp;Maus darauf ruht</translation>
     </message>
@@ -1413,10 +1405,6 @@ Die Datei ist jetzt %2.</translation>
         <source>Flowchart</source>
         <translation>Ablaufplan</translation>
     </message>
-    <message>
-        <source>The link &quot;%1&quot; cannot be opened.</source>
-        <translation>Der Link &quot;%1&quot; kann nicht geöffnet werden.</translation>
-    </message>
 </context>
 <context>
     <name>FlowchartRunner</name>
@@ -2028,10 +2016,6 @@ Die Datei ist jetzt %2.</translation>
             <numerusform>Bis hier richtig: %n Gruppe.</numerusform>
             <numerusform>Bis hier richtig: %n Gruppen.</numerusform>
         </translation>
-    </message>
-    <message>
-        <source>Licence &amp;code:</source>
-        <translation>Lizenz&amp;code:</translation>
     </message>
     <message>
         <source>How licence codes work</source>
@@ -3732,10 +3716,6 @@ Die Datei ist jetzt %2.</translation>
         <source>The selected parts have different lists. What is added becomes the list of all.</source>
         <translation>Die ausgewählten Teile haben verschiedene Listen. Was hinzukommt, wird zur Liste aller.</translation>
     </message>
-    <message>
-        <source>The selected parts have different lists</source>
-        <translation>Die ausgewählten Teile haben verschiedene Listen</translation>
-    </message>
 </context>
 <context>
     <name>ResourceModel</name>
@@ -4001,10 +3981,6 @@ Die Datei ist jetzt %2.</translation>
         <translation>Das Bild nur die Formulare der Auswahl zeigen lassen, von oben bis unten.</translation>
     </message>
     <message>
-        <source>Take the picture in dark colours.</source>
-        <translation>Das Bild in dunklen Farben machen.</translation>
-    </message>
-    <message>
         <source>The document to open.</source>
         <translation>Das Dokument, das geöffnet werden soll.</translation>
     </message>
@@ -4054,10 +4030,6 @@ Die Datei ist jetzt %2.</translation>
     <message>
         <source>--check-form and --check-package cannot be given together.</source>
         <translation>--check-form und --check-package können nicht zusammen angegeben werden.</translation>
-    </message>
-    <message>
-        <source>Only one document can be opened, but %1 were given.</source>
-        <translation>Nur ein Dokument kann geöffnet werden, aber es wurden %1 angegeben.</translation>
     </message>
     <message>
         <source>Dark colours, whatever those of the desktop are.</source>
@@ -4422,10 +4394,6 @@ Die Datei ist jetzt %2.</translation>
     <message>
         <source>The selected parts have different entries. What is added becomes the entries of all.</source>
         <translation>Die ausgewählten Teile haben verschiedene Einträge. Was hinzukommt, gilt dann für alle.</translation>
-    </message>
-    <message>
-        <source>The selected parts have different entries</source>
-        <translation>Die ausgewählten Teile haben verschiedene Einträge</translation>
     </message>
 </context>
 <context>

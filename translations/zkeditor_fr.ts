@@ -564,14 +564,6 @@ Veuillez en saisir un autre</translation>
         <translation>&amp;Montrer la bulle</translation>
     </message>
     <message>
-        <source>Cl&amp;ick</source>
-        <translation>Cl&amp;ic</translation>
-    </message>
-    <message>
-        <source>Offset &amp;right</source>
-        <translation>Décalage à &amp;droite</translation>
-    </message>
-    <message>
         <source>Opens when the &amp;mouse rests on it</source>
         <translation>S&apos;ouvre quand la &amp;souris s&apos;y pose</translation>
     </message>
@@ -1413,10 +1405,6 @@ Le fichier est maintenant %2.</translation>
         <source>Flowchart</source>
         <translation>Organigramme</translation>
     </message>
-    <message>
-        <source>The link &quot;%1&quot; cannot be opened.</source>
-        <translation>Le lien « %1 » ne peut pas être ouvert.</translation>
-    </message>
 </context>
 <context>
     <name>FlowchartRunner</name>
@@ -2028,10 +2016,6 @@ Le fichier est maintenant %2.</translation>
             <numerusform>Juste jusqu&apos;ici : %n groupe.</numerusform>
             <numerusform>Juste jusqu&apos;ici : %n groupes.</numerusform>
         </translation>
-    </message>
-    <message>
-        <source>Licence &amp;code:</source>
-        <translation>&amp;Code de licence :</translation>
     </message>
     <message>
         <source>How licence codes work</source>
@@ -3732,10 +3716,6 @@ Le fichier est maintenant %2.</translation>
         <source>The selected parts have different lists. What is added becomes the list of all.</source>
         <translation>Les pièces sélectionnées ont des listes différentes. Ce qui est ajouté devient la liste de toutes.</translation>
     </message>
-    <message>
-        <source>The selected parts have different lists</source>
-        <translation>Les pièces sélectionnées ont des listes différentes</translation>
-    </message>
 </context>
 <context>
     <name>ResourceModel</name>
@@ -4001,10 +3981,6 @@ Le fichier est maintenant %2.</translation>
         <translation>L&apos;image ne montre que les formulaires de la sélection, de haut en bas.</translation>
     </message>
     <message>
-        <source>Take the picture in dark colours.</source>
-        <translation>Faire l&apos;image en couleurs sombres.</translation>
-    </message>
-    <message>
         <source>The document to open.</source>
         <translation>Le document à ouvrir.</translation>
     </message>
@@ -4054,10 +4030,6 @@ Le fichier est maintenant %2.</translation>
     <message>
         <source>--check-form and --check-package cannot be given together.</source>
         <translation>--check-form et --check-package ne peuvent pas être donnés ensemble.</translation>
-    </message>
-    <message>
-        <source>Only one document can be opened, but %1 were given.</source>
-        <translation>Un seul document peut être ouvert, mais %1 ont été donnés.</translation>
     </message>
     <message>
         <source>Dark colours, whatever those of the desktop are.</source>
@@ -4422,10 +4394,6 @@ Le fichier est maintenant %2.</translation>
     <message>
         <source>The selected parts have different entries. What is added becomes the entries of all.</source>
         <translation>Les pièces sélectionnées ont des entrées différentes. Ce qui est ajouté devient les entrées de toutes.</translation>
-    </message>
-    <message>
-        <source>The selected parts have different entries</source>
-        <translation>Les pièces sélectionnées ont des entrées différentes</translation>
     </message>
 </context>
 <context>
