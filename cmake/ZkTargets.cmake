@@ -7,7 +7,11 @@ target_compile_options(zk_options INTERFACE $<$<CXX_COMPILER_ID:GNU>:-Wno-restri
 # In a source that includes several others GCC takes their unnamed namespaces for those of headers.
 if(CMAKE_UNITY_BUILD)
   target_compile_options(zk_options INTERFACE $<$<CXX_COMPILER_ID:GNU>:-Wno-subobject-linkage>)
+  # And Clang what stands in one of them for a shadow of what stands in another.
+  target_compile_options(zk_options INTERFACE $<$<CXX_COMPILER_ID:Clang>:-Wno-shadow>)
 endif()
+# Which warnings keep the code from being built is what GCC decides; Clang builds it for the sanitizers only.
+target_compile_options(zk_options INTERFACE $<$<CXX_COMPILER_ID:Clang>:-Wno-error>)
 target_compile_definitions(zk_options INTERFACE QT_NO_CAST_TO_ASCII QT_NO_KEYWORDS QT_DISABLE_DEPRECATED_BEFORE=0x060400)
 if(ZK_SANITIZE)
   target_compile_options(zk_options INTERFACE -fsanitize=${ZK_SANITIZE} -fno-omit-frame-pointer -fno-sanitize-recover=all)
