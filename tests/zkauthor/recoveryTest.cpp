@@ -165,7 +165,7 @@ TEST_F(RecoveryTest, SaysWhenTheFileIsNewerAndKeepsWhatIsDamaged)
     EXPECT_TRUE(notice("recover").contains(QLatin1String("The file itself is newer: it was changed on ")))
         << notice("recover").toStdString();
     button("recover")->click();
-    EXPECT_TRUE(button("reload")) << "and saving would write over that";
+    EXPECT_TRUE(QTest::qWaitFor([this] { return button("reload") != nullptr; })) << "and saving would write over that";
 
     // Cut off in the middle, as no crash of ours leaves it, but a disk may.
     answer(QMessageBox::Discard);
