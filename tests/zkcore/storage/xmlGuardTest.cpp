@@ -1,7 +1,6 @@
 // Elements with very many attributes, which the toolkit would compare with one another for hours.
 #include "zkcore/storage/xmlGuard.h"
 
-#include "tests/support/testDocument.h"
 #include "zkcore/storage/fragmentXmlWriter.h"
 #include "zkcore/storage/propertyList.h"
 
