@@ -1,6 +1,5 @@
 #pragma once
 
-#include "zkcore/base/classId.h"
 #include "zkcore/values/value.h"
 #include "zkeditor/formChecker.h"
 

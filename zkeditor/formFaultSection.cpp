@@ -1,5 +1,6 @@
 #include "zkeditor/formFaultSection.h"
 
+#include <QKeyEvent>
 #include <QLabel>
 #include <QVBoxLayout>
 
@@ -7,7 +8,27 @@ namespace {
 
 constexpr size_t shownFindings = 8;
 
-}
+/// A label whose text can be selected and copied by keys that mean something else to the window.
+class FaultText : public QLabel
+{
+public:
+    using QLabel::QLabel;
+
+protected:
+    bool event(QEvent* event) override
+    {
+        if (event->type() == QEvent::ShortcutOverride) {
+            const auto* key = static_cast<QKeyEvent*>(event);
+            if (key->matches(QKeySequence::Copy) || key->matches(QKeySequence::SelectAll)) {
+                event->accept();
+                return true;
+            }
+        }
+        return QLabel::event(event);
+    }
+};
+
+} // namespace
 
 FormFaultSection::FormFaultSection(const QString& form, const std::vector<FormFinding>& findings, QWidget* parent)
     : PaletteBoxSection(parent, QStringLiteral("faultyForm"))
@@ -19,8 +40,8 @@ FormFaultSection::FormFaultSection(const QString& form, const std::vector<FormFi
     for (size_t i = 0; i < findings.size() && i < shownFindings; ++i)
         text += QStringLiteral("\n\n") + tr("Line %1: %2").arg(findings[i].line).arg(findings[i].description());
     if (findings.size() > shownFindings)
-        text += QStringLiteral("\n\n") + tr("and %n more", nullptr, static_cast<int>(findings.size() - shownFindings));
-    auto* label = new QLabel(text, this);
+        text += QStringLiteral("\n\n") + tr("and %1 more").arg(findings.size() - shownFindings);
+    auto* label = new FaultText(text, this);
     label->setObjectName(QStringLiteral("formFaults"));
     label->setTextFormat(Qt::PlainText);
     label->setWordWrap(true);

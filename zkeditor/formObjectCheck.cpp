@@ -435,16 +435,16 @@ void FormObjectCheck::checkCircles()
     }
     // What is finished led to no circle; what is begun and met again is one.
     QHash<QString, bool> finished;
-    for (auto start = from.cbegin(); start != from.cend(); ++start) {
-        struct Step
-        {
-            QString name;
-            size_t next = 0;
-        };
+    struct Step
+    {
+        QString name;
+        size_t next = 0;
+    };
+    for (const FormConnection& start : m_form.connections) {
         std::vector<Step> path;
-        if (!finished.contains(start.key())) {
-            finished.insert(start.key(), false);
-            path.push_back({start.key()});
+        if (!finished.contains(start.sender)) {
+            finished.insert(start.sender, false);
+            path.push_back({start.sender});
         }
         while (!path.empty()) {
             const auto edges = from.constFind(path.back().name);

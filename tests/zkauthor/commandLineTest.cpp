@@ -1,7 +1,10 @@
 #include "windowTest.h"
 
+#include "tests/support/brokenForms.h"
 #include "zkcore/model/elementImpl.h"
 
+#include <QDir>
+#include <QFile>
 #include <QImage>
 #include <QProcess>
 
@@ -121,6 +124,97 @@ TEST_F(CommandLineTest, FaultsAreToldOnStandardError)
     const Result unwritable = start({"--screenshot", "no/such/folder/x.png", path("sample.zkdoc")});
     EXPECT_EQ(unwritable.code, 1);
     EXPECT_TRUE(unwritable.err.contains(QLatin1String("no/such/folder/x.png"))) << unwritable.err.toStdString();
+}
+
+TEST_F(CommandLineTest, ChecksFormsAndPackagesWithoutDisplay)
+{
+    const QString folder = writeBrokenForms(path("packages"));
+    const QString form = folder + "/forms/unbound-key.ui";
+    // Nobody knows the package yet: only what holds for any class is found.
+    Result result = start({"--check-form", form});
+    EXPECT_EQ(result.code, 0) << result.err.toStdString();
+    EXPECT_EQ(result.out, form + ": errors: 0, warnings: 0\n");
+    result = start({"--check-form", form, "--class", "electronics/led", "--class=electronics/battery"});
+    EXPECT_EQ(result.code, 1);
+    EXPECT_EQ(result.out, form +
+                              ":2: error: widget 'control' (ObserverSpinBox): property 'modelProperty': there is no "
+                              "property \"amuont\" to bind [electronics/led, electronics/battery]\n" +
+                              form + ": errors: 1, warnings: 0\n");
+    // An installed package tells which classes show the form, wherever the file is a copy of its.
+    ASSERT_TRUE(QDir().mkpath(path("data") + "/zkauthor/zkauthor"));
+    ASSERT_TRUE(QFile::link(path("packages"), path("data") + "/zkauthor/zkauthor/packages"));
+    EXPECT_TRUE(
+        start({"--check-form", form}).out.contains(QLatin1String("did you mean \"amount\"? [broken/unbound-key]")));
+
+    result = start({"--check-package", folder});
+    EXPECT_EQ(result.code, 1) << result.err.toStdString();
+    const QStringList lines = result.out.split(QLatin1Char('\n'), Qt::SkipEmptyParts);
+    QStringList expected;
+    for (const BrokenForm& broken : brokenForms())
+        for (const QString& message : broken.messages)
+            expected.append(folder + "/forms/" + message);
+    for (const QString& line : lines.mid(0, lines.size() - 1))
+        EXPECT_TRUE(expected.removeOne(line)) << line.toStdString();
+    EXPECT_EQ(expected, QStringList());
+
+    EXPECT_EQ(start({"--check-form", path("no.ui")}).code, 2);
+    EXPECT_EQ(start({"--check-form", "/dev/zero"}).err, "zkauthor: /dev/zero is no file.\n");
+    EXPECT_EQ(start({"--check-form", form, "--class", "no/class"}).err, "zkauthor: There is no class \"no/class\".\n");
+    EXPECT_EQ(start({"--check-package", path("data")}).code, 2);
+    EXPECT_EQ(start({"--check-form", form, "--check-package", folder}).err,
+              "zkauthor: --check-form and --check-package cannot be given together.\n");
+}
+
+TEST_F(CommandLineTest, CheckOfAPackageFindsAllThatIsWrongWithIt)
+{
+    const QDir folder(path("kitchen"));
+    ASSERT_TRUE(folder.mkpath(QStringLiteral("forms")));
+    const auto write = [&folder](const char* name, const QByteArray& bytes) {
+        QFile file(folder.filePath(QLatin1String(name)));
+        return file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size();
+    };
+    ASSERT_TRUE(write("forms/spare.ui", "<ui version=\"4.0\"><widget class=\"PaletteBoxSection\" name=\"a\"/></ui>"));
+    ASSERT_TRUE(write("notes.odt", ""));
+    ASSERT_TRUE(write("package.xml", R"(<package format="1" name="kitchen">
+  <class id="kitchen/kettle" base="kitchen/pot"/>
+  <class id="kitchen/pot" base="core/part"><property key="power" type="dubble"/></class>
+  <class id="kitchen/cup" base="core/part"><property key="full" type="bool" default="perhaps"/></class>
+  <class id="kitchen/spoon" base="kitchen/fork"/>
+  <class id="kitchen/fork" base="kitchen/spoon"/>
+  <class id="kitchen/knife" base="core/part"><form>kitchen/forms/sharp</form></class>
+  <class id="kitchen/plate" base="core/part"/>
+</package>)"));
+    Result result = start({"--check-package", folder.path()});
+    EXPECT_EQ(result.code, 1) << result.err.toStdString();
+    QString shown = result.out;
+    shown.replace(folder.path(), QLatin1String("F"));
+    EXPECT_EQ(shown, R"(F/package.xml:3:80: error: "dubble" is no type of a property
+F/package.xml:4:95: error: "perhaps" is no value of the type bool
+F/package.xml:6:49: error: the class "kitchen/spoon" needs itself as a base or subpart
+F/package.xml:7:51: error: there is no resource "kitchen/forms/sharp"
+F/forms/spare.ui:1: warning: nothing names the file
+F/notes.odt:1: warning: the extension stands for no kind of resource: the file is never used
+F: errors: 4, warnings: 2
+)");
+
+    ASSERT_TRUE(write("package.xml", "<package format=\"1\" name=\"kitchen\"/>"));
+    result = start({"--check-package", folder.path()});
+    EXPECT_EQ(result.code, 0);
+    shown = result.out;
+    shown.replace(folder.path(), QLatin1String("F"));
+    EXPECT_EQ(shown, "F/forms/spare.ui:1: warning: nothing names the file\n"
+                     "F/notes.odt:1: warning: the extension stands for no kind of resource: the file is never used\n"
+                     "F: errors: 0, warnings: 2\n");
+}
+
+TEST_F(CommandLineTest, CheckFindsNothingInThePackagesOfTheProgram)
+{
+    for (const char* name : {"core", "electronics", "flowcharts", "mechanics"}) {
+        const QString folder = QStringLiteral(ZK_SOURCE_DIR "/packages/") + QLatin1String(name);
+        const Result result = start({"--check-package", folder});
+        EXPECT_EQ(result.out, folder + ": errors: 0, warnings: 0\n");
+        EXPECT_EQ(result.code, 0) << result.err.toStdString();
+    }
 }
 
 } // namespace

@@ -3,15 +3,20 @@
 #include "tests/support/brokenForms.h"
 #include "tests/support/messageCapture.h"
 #include "tests/support/testDocument.h"
-#include "zkcore/media/resource.h"
+#include "zkcore/media/resourceEntry.h"
 #include "zkcore/model/nodeDb.h"
 #include "zkcore/storage/package.h"
+#include "zkeditor/coreWidgetFactory.h"
+#include "zkeditor/loadUIFromResource.h"
+#include "zkeditor/widgets/paletteBoxSection.h"
+#include "zkeditor/widgets/paneWidget.h"
 
 #include <QDirIterator>
 #include <QElapsedTimer>
 #include <QFile>
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
+#include <memory>
 
 namespace {
 
@@ -74,6 +79,43 @@ TEST_F(FormCheckerTest, NamesEveryFaultAndItsPlace)
         EXPECT_LT(timer.elapsed(), 2000) << form.name;
     }
     EXPECT_EQ(warnings.texts(), QStringList());
+}
+
+// A control that would end the program over a property ends this test.
+TEST_F(FormCheckerTest, WhatItFindsNoErrorInCanBeBound)
+{
+    const MessageCapture warnings; // observers have their own to say
+    int bound = 0;
+    int refused = 0;
+    for (const char* id : {"broken/empty", "core/gallery"}) {
+        const NodePrototype* prototype = classes().lookupPrototype(getCidForString(id));
+        ASSERT_TRUE(prototype) << id;
+        PartImpl* part = addPart(document, id);
+        for (const QString& className : CoreWidgetFactory::classNames()) {
+            for (const PropertyDefinition& property : prototype->properties()) {
+                const QString form =
+                    QStringLiteral("<ui version=\"4.0\"><widget class=\"PaletteBoxSection\" name=\"Form\">"
+                                   "<widget class=\"%1\" name=\"control\"><property name=\"modelProperty\"><string>%2"
+                                   "</string></property><property name=\"onValue\"><string>a</string></property>"
+                                   "<property name=\"offValue\"><string>b</string></property></widget></widget></ui>")
+                        .arg(className, property.key.toString());
+                const FormChecker checker(form.toUtf8());
+                if (FormChecker::hasErrors(checker.checkAll({prototype}, classes()))) {
+                    ++refused;
+                    continue;
+                }
+                const auto entry = std::make_shared<LocalREntry>("local/form", Resource::FORM, form.toUtf8(), "ui");
+                const std::unique_ptr<QWidget> made(loadUIFromResource(Resource(entry), nullptr));
+                auto* section = qobject_cast<PaletteBoxSection*>(made.get());
+                ASSERT_TRUE(section) << className.toStdString();
+                section->setupPaneWidgets(&document, {part});
+                PaneWidget::unbindChildren(section);
+                ++bound;
+            }
+        }
+    }
+    EXPECT_GT(bound, 500);
+    EXPECT_GT(refused, 500);
 }
 
 TEST_F(FormCheckerTest, SaysOnceWhatHoldsForManyClasses)
