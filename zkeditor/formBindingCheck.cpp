@@ -120,24 +120,24 @@ void FormBindingCheck::bindChildren(const FormObject& object, const Context& con
 
 void FormBindingCheck::bindObject(const FormObject& object, const Context& context)
 {
-    switch (formObservers::roleOf(metaObjectOf(object))) {
-    case formObservers::Role::None:
+    switch (formObservers::bindingOf(metaObjectOf(object))) {
+    case formObservers::Binding::None:
         bindChildren(object, context);
         break;
-    case formObservers::Role::Observer:
+    case formObservers::Binding::Observer:
         bindObserver(object, context);
         break;
-    case formObservers::Role::ObserverGroup: {
+    case formObservers::Binding::ObserverGroup: {
         bindObserver(object, context);
         Context inside = context;
         inside.isGuarded = false;
         bindChildren(object, inside);
         break;
     }
-    case formObservers::Role::OptionalGroup:
+    case formObservers::Binding::OptionalGroup:
         bindGroup(object, context);
         break;
-    case formObservers::Role::SubpartSource: {
+    case formObservers::Binding::SubpartSource: {
         Candidates chosen;
         checkSource(object, context, chosen);
         break;
@@ -166,7 +166,7 @@ void FormBindingCheck::bindGroup(const FormObject& object, const Context& contex
         for (const auto& child : parent.children) {
             if (child.get() == source)
                 continue;
-            if (formObservers::roleOf(metaObjectOf(*child)) == formObservers::Role::None)
+            if (formObservers::bindingOf(metaObjectOf(*child)) == formObservers::Binding::None)
                 again(*child, again);
             else
                 bindObject(*child, inside);
@@ -179,10 +179,10 @@ void FormBindingCheck::bindGroup(const FormObject& object, const Context& contex
 const FormObject* FormBindingCheck::sourceIn(const FormObject& object) const
 {
     for (const auto& child : object.children) {
-        const formObservers::Role role = formObservers::roleOf(metaObjectOf(*child));
-        if (role == formObservers::Role::SubpartSource)
+        const formObservers::Binding binding = formObservers::bindingOf(metaObjectOf(*child));
+        if (binding == formObservers::Binding::SubpartSource)
             return child.get();
-        if (role == formObservers::Role::None) {
+        if (binding == formObservers::Binding::None) {
             if (const FormObject* found = sourceIn(*child))
                 return found;
         }
@@ -302,7 +302,7 @@ void FormBindingCheck::bindObserver(const FormObject& object, const Context& con
         m_needs.push_back({selector, key});
     }
     checkTypes(object, properties);
-    if (formObservers::roleOf(metaObjectOf(object)) == formObservers::Role::ObserverGroup)
+    if (formObservers::bindingOf(metaObjectOf(object)) == formObservers::Binding::ObserverGroup)
         checkChoices(object, object, *properties.front());
 }
 
@@ -339,7 +339,7 @@ void FormBindingCheck::checkChoices(const FormObject& group, const FormObject& o
             if (!fault.isEmpty())
                 add(FormFinding::Warning, *child, child->property("value") ? "value" : "text",
                     tr("the button stands for nothing in the group '%1': %2").arg(group.name, fault));
-        } else if (formObservers::roleOf(metaObject) == formObservers::Role::None) {
+        } else if (formObservers::bindingOf(metaObject) == formObservers::Binding::None) {
             checkChoices(group, *child, property);
         }
     }

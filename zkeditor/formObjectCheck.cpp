@@ -224,7 +224,7 @@ void FormObjectCheck::checkObject(const FormObject& object, bool inSection)
     const QMetaObject* metaObject = checkClass(object);
     if (metaObject) {
         inSection = inSection || formClasses::inherits(metaObject, "PaletteBoxSection");
-        if (!inSection && formObservers::roleOf(metaObject) != formObservers::Role::None)
+        if (!inSection && formObservers::bindingOf(metaObject) != formObservers::Binding::None)
             add(FormFinding::Warning, object, tr("it stands outside all sections and is never shown"));
         for (const FormProperty& property : object.properties)
             checkProperty(object, *metaObject, property);

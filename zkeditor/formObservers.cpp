@@ -13,12 +13,10 @@
 
 namespace {
 
-using formObservers::Role;
-
 struct ObserverRow
 {
     const char* className;
-    Role role;
+    formObservers::Binding binding;
     QList<Value::Type> types;
 };
 
@@ -29,25 +27,25 @@ const QList<Value::Type> scalarTypes = {Value::INT,    Value::DOUBLE, Value::POI
 const QList<ObserverRow>& observerRows()
 {
     static const QList<ObserverRow> rows = {
-        {"ObserverCheckBox", Role::Observer, {Value::BOOL}},
-        {"ObserverStringCheckBox", Role::Observer, {Value::STRING}},
-        {"ObserverButton", Role::Observer, {Value::BOOL}}, // or STRING, as its mode says
-        {"ObserverComboBox", Role::Observer, {}},
-        {"ObserverLineEdit", Role::Observer, scalarTypes},
-        {"ObserverSpinBox", Role::Observer, {Value::INT, Value::DOUBLE}},
-        {"ObserverSlider", Role::Observer, {Value::INT, Value::DOUBLE}},
-        {"ObserverPoint", Role::Observer, {Value::POINT}},
-        {"ObserverColorPicker", Role::Observer, {Value::COLOR}},
-        {"ObserverRadioGroup", Role::ObserverGroup, scalarTypes},
-        {"ObserverGroupBox", Role::OptionalGroup, {Value::BOOL}},
-        {"UnitChooser", Role::Observer, {Value::INT, Value::DOUBLE, Value::POINT}},
-        {"ValueMapListBox", Role::Observer, {Value::VALUEMAP}},
-        {"FontChooser", Role::Observer, {Value::VALUEMAP}},
-        {"ResourceChooser", Role::Observer, {Value::RESOURCE}},
-        {"ResourceDropdown", Role::Observer, {Value::RESOURCE}},
-        {"ResourceListBox", Role::Observer, {Value::RESOURCEVECTOR}},
-        {"SubpartComboBox", Role::SubpartSource, {}},
-        {"SubpartListView", Role::SubpartSource, {}},
+        {"ObserverCheckBox", formObservers::Binding::Observer, {Value::BOOL}},
+        {"ObserverStringCheckBox", formObservers::Binding::Observer, {Value::STRING}},
+        {"ObserverButton", formObservers::Binding::Observer, {Value::BOOL}}, // or STRING, as its mode says
+        {"ObserverComboBox", formObservers::Binding::Observer, {}},
+        {"ObserverLineEdit", formObservers::Binding::Observer, scalarTypes},
+        {"ObserverSpinBox", formObservers::Binding::Observer, {Value::INT, Value::DOUBLE}},
+        {"ObserverSlider", formObservers::Binding::Observer, {Value::INT, Value::DOUBLE}},
+        {"ObserverPoint", formObservers::Binding::Observer, {Value::POINT}},
+        {"ObserverColorPicker", formObservers::Binding::Observer, {Value::COLOR}},
+        {"ObserverRadioGroup", formObservers::Binding::ObserverGroup, scalarTypes},
+        {"ObserverGroupBox", formObservers::Binding::OptionalGroup, {Value::BOOL}},
+        {"UnitChooser", formObservers::Binding::Observer, {Value::INT, Value::DOUBLE, Value::POINT}},
+        {"ValueMapListBox", formObservers::Binding::Observer, {Value::VALUEMAP}},
+        {"FontChooser", formObservers::Binding::Observer, {Value::VALUEMAP}},
+        {"ResourceChooser", formObservers::Binding::Observer, {Value::RESOURCE}},
+        {"ResourceDropdown", formObservers::Binding::Observer, {Value::RESOURCE}},
+        {"ResourceListBox", formObservers::Binding::Observer, {Value::RESOURCEVECTOR}},
+        {"SubpartComboBox", formObservers::Binding::SubpartSource, {}},
+        {"SubpartListView", formObservers::Binding::SubpartSource, {}},
     };
     return rows;
 }
@@ -69,13 +67,14 @@ struct ObserverTexts
 
 } // namespace
 
-formObservers::Role formObservers::roleOf(const QMetaObject* metaObject)
+formObservers::Binding formObservers::bindingOf(const QMetaObject* metaObject)
 {
     if (!metaObject)
-        return Role::None;
+        return formObservers::Binding::None;
     if (const ObserverRow* row = rowOf(metaObject))
-        return row->role;
-    return metaObject->indexOfProperty("modelProperty") >= 0 ? Role::Observer : Role::None;
+        return row->binding;
+    return metaObject->indexOfProperty("modelProperty") >= 0 ? formObservers::Binding::Observer
+                                                             : formObservers::Binding::None;
 }
 
 QList<Value::Type> formObservers::typesOf(const QMetaObject* metaObject, const FormObject& object)

@@ -12,14 +12,14 @@ struct QMetaObject;
 /// What the classes of widgets that bind themselves to properties take.
 namespace formObservers {
 /// How a widget of a form is bound.
-enum class Role {
+enum class Binding {
     None,          ///< not at all
     Observer,      ///< to its model property
     ObserverGroup, ///< to its model property, and binds the observers in it
     OptionalGroup, ///< as ObserverGroup, but may do without a model property
     SubpartSource  ///< to subparts, among which the user chooses what its group box edits
 };
-Role roleOf(const QMetaObject* metaObject);
+Binding bindingOf(const QMetaObject* metaObject);
 
 /// The types of properties that the widget takes; empty when it takes any.
 QList<Value::Type> typesOf(const QMetaObject* metaObject, const FormObject& object);
