@@ -47,10 +47,9 @@ QString resourceNameOf(const QString& file)
 
 int sumUp(const QString& name, int errors, int warnings)
 {
-    // Words that are the same for any number.
-    printLine(
-        stdout,
-        CheckTexts::tr("%1: errors: %2, warnings: %3").arg(name, QString::number(errors), QString::number(warnings)));
+    printLine(stdout, QStringLiteral("%1: %2, %3")
+                          .arg(name, CheckTexts::tr("%n error(s)", nullptr, errors),
+                               CheckTexts::tr("%n warning(s)", nullptr, warnings)));
     return errors > 0 ? Errors : NoErrors;
 }
 

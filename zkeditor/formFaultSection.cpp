@@ -40,7 +40,7 @@ FormFaultSection::FormFaultSection(const QString& form, const std::vector<FormFi
     for (size_t i = 0; i < findings.size() && i < shownFindings; ++i)
         text += QStringLiteral("\n\n") + tr("Line %1: %2").arg(findings[i].line).arg(findings[i].description());
     if (findings.size() > shownFindings)
-        text += QStringLiteral("\n\n") + tr("and %1 more").arg(findings.size() - shownFindings);
+        text += QStringLiteral("\n\n") + tr("and %n more", nullptr, static_cast<int>(findings.size() - shownFindings));
     auto* label = new FaultText(text, this);
     label->setObjectName(QStringLiteral("formFaults"));
     label->setTextFormat(Qt::PlainText);

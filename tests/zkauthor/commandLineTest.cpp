@@ -133,13 +133,13 @@ TEST_F(CommandLineTest, ChecksFormsAndPackagesWithoutDisplay)
     // Nobody knows the package yet: only what holds for any class is found.
     Result result = start({"--check-form", form});
     EXPECT_EQ(result.code, 0) << result.err.toStdString();
-    EXPECT_EQ(result.out, form + ": errors: 0, warnings: 0\n");
+    EXPECT_EQ(result.out, form + ": 0 errors, 0 warnings\n");
     result = start({"--check-form", form, "--class", "electronics/led", "--class=electronics/battery"});
     EXPECT_EQ(result.code, 1);
     EXPECT_EQ(result.out, form +
                               ":2: error: widget 'control' (ObserverSpinBox): property 'modelProperty': there is no "
                               "property \"amuont\" to bind [electronics/led, electronics/battery]\n" +
-                              form + ": errors: 1, warnings: 0\n");
+                              form + ": 1 error, 0 warnings\n");
     // An installed package tells which classes show the form, wherever the file is a copy of its.
     ASSERT_TRUE(QDir().mkpath(path("data") + "/zkauthor/zkauthor"));
     ASSERT_TRUE(QFile::link(path("packages"), path("data") + "/zkauthor/zkauthor/packages"));
@@ -194,7 +194,7 @@ F/package.xml:6:49: error: the class "kitchen/spoon" needs itself as a base or s
 F/package.xml:7:51: error: there is no resource "kitchen/forms/sharp"
 F/forms/spare.ui:1: warning: nothing names the file
 F/notes.odt:1: warning: the extension stands for no kind of resource: the file is never used
-F: errors: 4, warnings: 2
+F: 4 errors, 2 warnings
 )");
 
     ASSERT_TRUE(write("package.xml", "<package format=\"1\" name=\"kitchen\"/>"));
@@ -204,7 +204,7 @@ F: errors: 4, warnings: 2
     shown.replace(folder.path(), QLatin1String("F"));
     EXPECT_EQ(shown, "F/forms/spare.ui:1: warning: nothing names the file\n"
                      "F/notes.odt:1: warning: the extension stands for no kind of resource: the file is never used\n"
-                     "F: errors: 0, warnings: 2\n");
+                     "F: 0 errors, 2 warnings\n");
 }
 
 TEST_F(CommandLineTest, CheckFindsNothingInThePackagesOfTheProgram)
@@ -212,7 +212,7 @@ TEST_F(CommandLineTest, CheckFindsNothingInThePackagesOfTheProgram)
     for (const char* name : {"core", "electronics", "flowcharts", "mechanics"}) {
         const QString folder = QStringLiteral(ZK_SOURCE_DIR "/packages/") + QLatin1String(name);
         const Result result = start({"--check-package", folder});
-        EXPECT_EQ(result.out, folder + ": errors: 0, warnings: 0\n");
+        EXPECT_EQ(result.out, folder + ": 0 errors, 0 warnings\n");
         EXPECT_EQ(result.code, 0) << result.err.toStdString();
     }
 }
