@@ -1,13 +1,18 @@
 #include "zkauthor/helpBrowser.h"
 
 #include <QAbstractTextDocumentLayout>
+#include <QEvent>
 #include <QFile>
 #include <QFileInfo>
 #include <QImage>
 #include <QRegularExpression>
 #include <QScrollBar>
 #include <QTextBlock>
+#include <QTextCharFormat>
 #include <QTextCursor>
+#include <QTextFragment>
+#include <utility>
+#include <vector>
 
 namespace {
 
@@ -69,6 +74,34 @@ void HelpBrowser::showEvent(QShowEvent* event)
 {
     QTextBrowser::showEvent(event);
     showHeading(); // whose place depends on the width
+}
+
+void HelpBrowser::changeEvent(QEvent* event)
+{
+    QTextBrowser::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange)
+        colorLinks();
+}
+
+void HelpBrowser::colorLinks()
+{
+    // Links keep the colour of the moment when the page was read.
+    std::vector<std::pair<int, int>> links; // from, to
+    for (QTextBlock block = document()->begin(); block.isValid(); block = block.next()) {
+        for (auto at = block.begin(); !at.atEnd(); ++at) {
+            const QTextFragment fragment = at.fragment();
+            if (fragment.charFormat().isAnchor())
+                links.emplace_back(fragment.position(), fragment.position() + fragment.length());
+        }
+    }
+    QTextCharFormat format;
+    format.setForeground(palette().color(QPalette::Link));
+    QTextCursor cursor(document());
+    for (const auto& [from, to] : links) {
+        cursor.setPosition(from);
+        cursor.setPosition(to, QTextCursor::KeepAnchor);
+        cursor.mergeCharFormat(format);
+    }
 }
 
 void HelpBrowser::showHeading()

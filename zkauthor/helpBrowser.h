@@ -22,9 +22,11 @@ public:
 protected:
     void doSetSource(const QUrl& name, QTextDocument::ResourceType type) override;
     void showEvent(QShowEvent* event) override;
+    void changeEvent(QEvent* event) override;
 
 private:
     void showHeading();
+    void colorLinks();
 
     QString m_heading; // as in links; empty for the top of the page
 };

@@ -51,19 +51,23 @@ TEST(ReadablePalette, MendsWhatTheDesktopAndTheProgramChooseAndGivesItBack)
 TEST(ErrorLabel, IsRedOnTheGroundThatThereIs)
 {
     const QPalette before = QApplication::palette();
+    const auto setColors = [](const QPalette& palette) {
+        QApplication::setPalette(palette);
+        QApplication::processEvents(); // which brings it to the widgets
+    };
     ErrorLabel label;
     label.show();
     const auto color = [&label] { return label.palette().color(QPalette::WindowText); };
     const auto ground = [&label] { return label.palette().color(QPalette::Window); };
     const QColor light = color();
     EXPECT_GE(contrast(light, ground()), 4.5);
-    QApplication::setPalette(QPalette(QColor(0x30, 0x30, 0x30)));
+    setColors(QPalette(QColor(0x30, 0x30, 0x30)));
     EXPECT_NE(color(), light);
     EXPECT_GE(contrast(color(), ground()), 4.5);
     EXPECT_GT(color().red(), color().green());
     label.setWrong(false);
     EXPECT_EQ(color(), QApplication::palette().color(QPalette::WindowText));
-    QApplication::setPalette(before);
+    setColors(before);
     EXPECT_EQ(color(), before.color(QPalette::WindowText));
     label.setWrong(true);
     EXPECT_EQ(color(), light);
