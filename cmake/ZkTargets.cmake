@@ -4,10 +4,8 @@ add_library(zk_options INTERFACE)
 target_compile_options(zk_options INTERFACE -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Werror)
 # GCC 12 and 13 see overlapping copies in optimised std::string concatenations where there are none (GCC bug 105651).
 target_compile_options(zk_options INTERFACE $<$<CXX_COMPILER_ID:GNU>:-Wno-restrict>)
-# In a source that includes several others GCC takes their unnamed namespaces for those of headers, and Clang takes their
-# variables for hidden ones.
+# In a source that includes several others GCC takes their unnamed namespaces for those of headers.
 if(CMAKE_UNITY_BUILD)
-  target_compile_options(zk_options INTERFACE $<$<CXX_COMPILER_ID:Clang>:-Wno-shadow>)
   target_compile_options(zk_options INTERFACE $<$<CXX_COMPILER_ID:GNU>:-Wno-subobject-linkage>)
   # And Clang what stands in one of them for a shadow of what stands in another.
   target_compile_options(zk_options INTERFACE $<$<CXX_COMPILER_ID:Clang>:-Wno-shadow>)
