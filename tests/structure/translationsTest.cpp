@@ -64,10 +64,8 @@ QString faultOf(const QString& source, const QString& translation, bool mayDropN
 
 TEST(Translations, AreCompleteAndKeepWhatIsPutIn)
 {
-    const QMap<QString, int> pluralForms = {{QStringLiteral("ar"), 6},
-                                            {QStringLiteral("de"), 2},
-                                            {QStringLiteral("en"), 2},
-                                            {QStringLiteral("fr"), 2}};
+    const QMap<QString, int> pluralForms = {
+        {QStringLiteral("ar"), 6}, {QStringLiteral("de"), 2}, {QStringLiteral("en"), 2}, {QStringLiteral("fr"), 2}};
     const QStringList files = translationFiles();
     EXPECT_EQ(files.size(), 7);
     for (const QString& file : files) {

@@ -105,7 +105,7 @@ TEST_F(HelpWindowTest, DialogsLinkToTheirHeading)
         SCOPED_TRACE(name);
         bool looked = false;
         QTimer timer;
-        QObject::connect(&timer, &QTimer::timeout, &timer, [&] {
+        QObject::connect(&timer, &QTimer::timeout, &timer, [&, heading = heading] {
             QWidget* dialog = QApplication::activeModalWidget();
             if (!dialog)
                 return;

@@ -87,7 +87,8 @@ bool SelectAllCommand::readContent(QXmlStreamReader& reader)
 
 PushUndoCommand::PushUndoCommand(LiveText description) : Command(JoinUndo), m_description(std::move(description)) {}
 
-PushUndoCommand::PushUndoCommand(const QString& description) : PushUndoCommand(LiveText([description] { return description; }))
+PushUndoCommand::PushUndoCommand(const QString& description)
+    : PushUndoCommand(LiveText([description] { return description; }))
 {
 }
 

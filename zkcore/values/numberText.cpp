@@ -39,7 +39,8 @@ template <typename T> std::optional<T> fromCharacters(QStringView text)
     return number;
 }
 
-/// Without the locale's group separators, if they stand between groups of three digits and can be nothing else: a '.' or
+/// Without the locale's group separators, if they stand between groups of three digits and can be nothing else: a '.'
+/// or
 /// ',' alone is a decimal point somewhere.
 QString withoutGroups(QStringView typed, QChar point)
 {
@@ -55,9 +56,8 @@ QString withoutGroups(QStringView typed, QChar point)
     const QString& first = groups.first();
     const QString leading = first.startsWith(u'-') || first.startsWith(u'+') ? first.sliced(1) : first;
     const bool isGrouped = !leading.isEmpty() && leading.size() <= 3 && isDigits(leading) &&
-                           std::all_of(groups.begin() + 1, groups.end(), [&](const QString& group) {
-                               return group.size() == 3 && isDigits(group);
-                           });
+                           std::all_of(groups.begin() + 1, groups.end(),
+                                       [&](const QString& group) { return group.size() == 3 && isDigits(group); });
     const bool isPoint = separator.front() == u'.' || separator.front() == u',';
     const bool isClear = !isPoint || groups.size() > 2 || end < text.size();
     return isGrouped && isClear ? groups.join(QString()) + text.sliced(end) : text;

@@ -6,7 +6,6 @@
 #include "zkeditor/license/licenceText.h"
 #include "zkeditor/widgets/errorLabel.h"
 #include "zkeditor/widgets/linkLabel.h"
-#include "zkeditor/widgets/errorLabel.h"
 
 #include <QFontDatabase>
 #include <QHBoxLayout>

@@ -60,7 +60,8 @@ PropertyListBox::PropertyListBox(QWidget* parent, const QString& name)
                                            {PropertyChoiceModel::LabelColumn, 10},
                                            {PropertyChoiceModel::ValueColumn, 6},
                                            {PropertyChoiceModel::LinkColumn, 11}})
-        view()->header()->resizeSection(section, std::max(letters * letter, view()->header()->sectionSizeHint(section)));
+        view()->header()->resizeSection(section,
+                                        std::max(letters * letter, view()->header()->sectionSizeHint(section)));
     setTabOrder(m_search, m_parts);
     setTabOrder(m_parts, view());
     setFocusProxy(m_search);

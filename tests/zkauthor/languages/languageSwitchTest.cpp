@@ -53,10 +53,7 @@ protected:
         return read.readAll();
     }
 
-    QString actionText(const char* name)
-    {
-        return window().findChild<QAction*>(QLatin1String(name))->text();
-    }
+    QString actionText(const char* name) { return window().findChild<QAction*>(QLatin1String(name))->text(); }
 };
 
 } // namespace
@@ -170,8 +167,8 @@ TEST_F(LanguageSwitchTest, LeavesNoTextOfTheOldLanguage)
         const QWidgetList windows = QApplication::topLevelWidgets();
         for (const QWidget* top : windows) {
             for (const ShownText& shown : shownTexts(*top))
-                EXPECT_FALSE(german.contains(shown.text)) << shown.where.toStdString() << ": "
-                                                          << shown.text.toStdString();
+                EXPECT_FALSE(german.contains(shown.text))
+                    << shown.where.toStdString() << ": " << shown.text.toStdString();
         }
     }
 }
@@ -231,6 +228,6 @@ TEST_F(LanguageSwitchTest, AnUnknownLanguageIsEnglishAndDigitsArePlain)
     }
     Languages::use(QStringLiteral("de_AT"));
     EXPECT_EQ(Languages::current(), QStringLiteral("de"));
-    EXPECT_EQ(Languages::available(), (QStringList{QStringLiteral("ar"), QStringLiteral("de"), QStringLiteral("en"),
-                                                   QStringLiteral("fr")}));
+    EXPECT_EQ(Languages::available(),
+              (QStringList{QStringLiteral("ar"), QStringLiteral("de"), QStringLiteral("en"), QStringLiteral("fr")}));
 }

@@ -21,10 +21,10 @@
 
 namespace {
 
-const char* const textProperties[] = {"text",          "title",           "label",
-                                      "windowTitle",   "toolTip",         "statusTip",
-                                      "whatsThis",     "accessibleName",  "accessibleDescription",
-                                      "prefix",        "suffix",          "specialValueText",
+const char* const textProperties[] = {"text",           "title",          "label",
+                                      "windowTitle",    "toolTip",        "statusTip",
+                                      "whatsThis",      "accessibleName", "accessibleDescription",
+                                      "prefix",         "suffix",         "specialValueText",
                                       "placeholderText"};
 constexpr int rowsLookedAt = 100;
 

@@ -12,8 +12,8 @@ struct ShownText
     QString where; // "PropertyLabel powerLabel: toolTip"
 };
 
-/// All texts of a widget and what is in it, hidden parts included: labels, buttons, titles, tool tips, accessible names,
-/// items of lists, trees and tables, headers, tabs, menus and actions.
+/// All texts of a widget and what is in it, hidden parts included: labels, buttons, titles, tool tips, accessible
+/// names, items of lists, trees and tables, headers, tabs, menus and actions.
 std::vector<ShownText> shownTexts(const QWidget& root);
 
 /// Labels, buttons, titles, tabs and headers on view that have less room than their text needs, each with both.
