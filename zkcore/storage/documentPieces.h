@@ -28,7 +28,7 @@ public:
     /// Writes pieces until all are up to date, or the time is over. True when none is left. To be called while the
     /// document is not changing.
     bool update(int milliseconds);
-    /// The pieces in the order of the document as it is now: put together they are its <model>. All must have been
+    /// The pieces in the order of the document as it is now: put together they are its "model". All must have been
     /// written. The texts are shared, not copied.
     std::vector<QByteArray> list();
     size_t pieceCount() const { return m_pieces.size(); }
