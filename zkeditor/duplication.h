@@ -13,6 +13,7 @@ class NodePrototype;
 
 /// Whether the element is a connection between pins, which has no place of its own.
 ZKEDITOR_EXPORT bool isConnection(const ElementImpl& element);
+/// Whether parts of the class are connections.
 ZKEDITOR_EXPORT bool isConnection(const NodePrototype& prototype);
 
 /// The selected parts by the space in which they stand, back to front. A connection goes along exactly when both its
