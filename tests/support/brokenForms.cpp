@@ -64,75 +64,76 @@ std::vector<BrokenForm> makeBrokenForms()
         // What the widgets are
         {"unknown-class",
          inSection(observer("ObserverSlyder", "amount")),
-         {"unknown-class.ui:2: error: widget 'control' (ObserverSlyder): there is no such class; did you mean "
-          "ObserverSlider?"}},
+         {("unknown-class.ui:2: error: widget 'control' (ObserverSlyder): there is no such class; did you mean "
+           "ObserverSlider?")}},
         {"refined-class",
          inSection(observer("FancyLabel", "amount"),
                    "<customwidgets><customwidget><class>FancyLabel</class><extends>QLabel</extends></customwidget>"
                    "</customwidgets>"),
-         {"refined-class.ui:2: warning: widget 'control' (FancyLabel): there is no such class; a QLabel, which it "
-          "refines, is shown in its place",
-          "refined-class.ui:2: warning: widget 'control' (FancyLabel): property 'modelProperty': the class has no such "
-          "property"}},
+         {("refined-class.ui:2: warning: widget 'control' (FancyLabel): there is no such class; a QLabel, which it "
+           "refines, is shown in its place"),
+          ("refined-class.ui:2: warning: widget 'control' (FancyLabel): property 'modelProperty': the class has no "
+           "such "
+           "property")}},
         {"refines-itself",
          inSection(widget("Loop", "control"),
                    "\n<customwidgets><customwidget><class>Loop</class>\n<extends>Loop</extends></customwidget>"
                    "</customwidgets>"),
          {"refines-itself.ui:5: error: the class \"Loop\" refines itself"}},
         {"no-section",
-         "<ui version=\"4.0\">\n<widget class=\"QWidget\" name=\"Form\"><widget class=\"QLabel\" name=\"a\"/></widget>"
-         "</ui>",
-         {"no-section.ui:2: error: widget 'Form' (QWidget): the form has no section: directly in its top widget there "
-          "must be a PaletteBoxSection"}},
+         ("<ui version=\"4.0\">\n<widget class=\"QWidget\" name=\"Form\"><widget class=\"QLabel\" name=\"a\"/></widget>"
+          "</ui>"),
+         {("no-section.ui:2: error: widget 'Form' (QWidget): the form has no section: directly in its top widget there "
+           "must be a PaletteBoxSection")}},
         {"holding-top",
-         "<ui version=\"4.0\"><widget class=\"QTabWidget\" name=\"Form\"><widget class=\"PaletteBoxSection\" "
-         "name=\"s\"/></widget></ui>",
-         {"holding-top.ui:1: error: widget 'Form' (QTabWidget): a widget of this class keeps what is in it to itself: "
-          "the top widget of a form has to be a QWidget"}},
+         ("<ui version=\"4.0\"><widget class=\"QTabWidget\" name=\"Form\"><widget class=\"PaletteBoxSection\" "
+          "name=\"s\"/></widget></ui>"),
+         {("holding-top.ui:1: error: widget 'Form' (QTabWidget): a widget of this class keeps what is in it to itself: "
+           "the top widget of a form has to be a QWidget")}},
         // What they are given
         {"wrong-kinds",
          inSection(widget("ObserverCheckBox", "control",
                           property("modelProperty", "<number>5</number>") + "\n" +
                               property("invertModelValue", "<bool>maybe</bool>") + "\n" +
                               property("minimumWidth", "<number>wide</number>") + "\n" + property("text", ""))),
-         {"wrong-kinds.ui:2: error: widget 'control' (ObserverCheckBox): property 'modelProperty': <number> is given "
-          "where <string> is needed",
-          "wrong-kinds.ui:2: error: widget 'control' (ObserverCheckBox): property 'modelProperty': there is no "
-          "property "
-          "\"5\" to bind [broken/wrong-kinds]",
-          "wrong-kinds.ui:3: error: widget 'control' (ObserverCheckBox): property 'invertModelValue': \"maybe\" is "
-          "neither \"true\" nor \"false\"",
-          "wrong-kinds.ui:4: error: widget 'control' (ObserverCheckBox): property 'minimumWidth': \"wide\" is no "
-          "number",
-          "wrong-kinds.ui:5: error: widget 'control' (ObserverCheckBox): property 'text': there is no value; <string> "
-          "is "
-          "needed"}},
+         {("wrong-kinds.ui:2: error: widget 'control' (ObserverCheckBox): property 'modelProperty': <number> is given "
+           "where <string> is needed"),
+          ("wrong-kinds.ui:2: error: widget 'control' (ObserverCheckBox): property 'modelProperty': there is no "
+           "property "
+           "\"5\" to bind [broken/wrong-kinds]"),
+          ("wrong-kinds.ui:3: error: widget 'control' (ObserverCheckBox): property 'invertModelValue': \"maybe\" is "
+           "neither \"true\" nor \"false\""),
+          ("wrong-kinds.ui:4: error: widget 'control' (ObserverCheckBox): property 'minimumWidth': \"wide\" is no "
+           "number"),
+          ("wrong-kinds.ui:5: error: widget 'control' (ObserverCheckBox): property 'text': there is no value; <string> "
+           "is "
+           "needed")}},
         {"wrong-mode",
          inSection(observer("ObserverButton", "flag", property("mode", "<enum>ObserverButton::TEXT</enum>"))),
-         {"wrong-mode.ui:2: error: widget 'control' (ObserverButton): property 'mode': \"ObserverButton::TEXT\" is "
-          "none "
-          "of BOOLEAN, STRING"}},
+         {("wrong-mode.ui:2: error: widget 'control' (ObserverButton): property 'mode': \"ObserverButton::TEXT\" is "
+           "none "
+           "of BOOLEAN, STRING")}},
         {"no-such-property",
          inSection(observer("ObserverSpinBox", "amount", stringProperty("linestep", "1"))),
-         {"no-such-property.ui:2: warning: widget 'control' (ObserverSpinBox): property 'linestep': the class has no "
-          "such property; did you mean \"lineStep\"?"}},
+         {("no-such-property.ui:2: warning: widget 'control' (ObserverSpinBox): property 'linestep': the class has no "
+           "such property; did you mean \"lineStep\"?")}},
         {"on-without-off",
          inSection(observer("ObserverStringCheckBox", "note", stringProperty("onValue", "on"))),
-         {"on-without-off.ui:2: error: widget 'control' (ObserverStringCheckBox): property 'offValue': the text is "
-          "missing: a control over two texts needs both, not empty"}},
+         {("on-without-off.ui:2: error: widget 'control' (ObserverStringCheckBox): property 'offValue': the text is "
+           "missing: a control over two texts needs both, not empty")}},
         {"pictures",
          inSection(widget("QLabel", "a", property("pixmap", "<pixmap>:/no/such.png</pixmap>")) +
                    widget("QLabel", "b", property("pixmap", "<pixmap>/dev/zero</pixmap>"))),
          {"pictures.ui:2: warning: widget 'a' (QLabel): property 'pixmap': there is no picture \":/no/such.png\"",
-          "pictures.ui:3: error: widget 'b' (QLabel): property 'pixmap': the picture \"/dev/zero\" is no resource of "
-          "the "
-          "program: whether it is found depends on the folder in which the program is started"}},
+          ("pictures.ui:3: error: widget 'b' (QLabel): property 'pixmap': the picture \"/dev/zero\" is no resource of "
+           "the "
+           "program: whether it is found depends on the folder in which the program is started")}},
         {"names",
          inSection(widget("QLabel", "twice") +
                        widget("QLabel", "twice", property("buddy", "<cstring>nobody</cstring>")),
                    "<tabstops><tabstop>nobody</tabstop></tabstops>"),
-         {"names.ui:3: warning: widget 'twice' (QLabel): the name is taken by what begins in line 2: connections and "
-          "buddies find only one of them",
+         {("names.ui:3: warning: widget 'twice' (QLabel): the name is taken by what begins in line 2: connections and "
+           "buddies find only one of them"),
           "names.ui:3: warning: widget 'twice' (QLabel): property 'buddy': there is no widget \"nobody\"",
           "names.ui:5: warning: the tab order names \"nobody\", but there is no such widget"}},
         {"connections",
@@ -141,14 +142,15 @@ std::vector<BrokenForm> makeBrokenForms()
                        connection("control", "toggeld(bool)", "section", "setEnabled(bool)") +
                        connection("control", "toggled(bool)", "section", "setOpen(int)") + "</connections>"),
          {"connections.ui:5: warning: the connection leads nowhere: there is no widget \"nobody\"",
-          "connections.ui:6: warning: widget 'control' (ObserverCheckBox): the connection leads nowhere: the class has "
-          "no "
-          "signal \"toggeld(bool)\"",
-          "connections.ui:7: warning: widget 'section' (PaletteBoxSection): the connection leads nowhere: the class "
-          "has "
-          "no slot \"setOpen(int)\"",
-          "connections.ui:7: warning: the signal \"toggled(bool)\" does not bring what the slot \"setOpen(int)\" "
-          "takes"}},
+          ("connections.ui:6: warning: widget 'control' (ObserverCheckBox): the connection leads nowhere: the class "
+           "has "
+           "no "
+           "signal \"toggeld(bool)\""),
+          ("connections.ui:7: warning: widget 'section' (PaletteBoxSection): the connection leads nowhere: the class "
+           "has "
+           "no slot \"setOpen(int)\""),
+          ("connections.ui:7: warning: the signal \"toggled(bool)\" does not bring what the slot \"setOpen(int)\" "
+           "takes")}},
         {"endless-switching",
          inSection(widget("ObserverCheckBox", "a", stringProperty("modelProperty", "flag")) + widget("QCheckBox", "b"),
                    "<connections>\n" + connection("a", "toggled(bool)", "b", "toggle()") +
@@ -157,71 +159,75 @@ std::vector<BrokenForm> makeBrokenForms()
         // What they are bound to
         {"unbound-key",
          inSection(observer("ObserverSpinBox", "amuont")),
-         {"unbound-key.ui:2: error: widget 'control' (ObserverSpinBox): property 'modelProperty': there is no property "
-          "\"amuont\" to bind; did you mean \"amount\"? [broken/unbound-key]"}},
+         {("unbound-key.ui:2: error: widget 'control' (ObserverSpinBox): property 'modelProperty': there is no "
+           "property "
+           "\"amuont\" to bind; did you mean \"amount\"? [broken/unbound-key]")}},
         {"no-key",
          inSection(widget("ObserverLabel", "control")),
-         {"no-key.ui:2: error: widget 'control' (ObserverLabel): property 'modelProperty': the key of the property to "
-          "bind is missing [broken/no-key]"}},
+         {("no-key.ui:2: error: widget 'control' (ObserverLabel): property 'modelProperty': the key of the property to "
+           "bind is missing [broken/no-key]")}},
         {"wrong-type",
          inSection(observer("ObserverSpinBox", "note") + observer("ObserverCheckBox", "amount") +
                    observer("ObserverButton", "flag",
                             property("mode", "<enum>ObserverButton::STRING</enum>") + stringProperty("onValue", "a") +
                                 stringProperty("offValue", "b")) +
                    observer("ObserverLineEdit", "table")),
-         {"wrong-type.ui:2: error: widget 'control' (ObserverSpinBox): property 'modelProperty': \"note\" is of the "
-          "type "
-          "string, but the control takes int, double [broken/wrong-type]",
-          "wrong-type.ui:3: warning: widget 'control' (ObserverCheckBox): the name is taken by what begins in line 2: "
-          "connections and buddies find only one of them",
-          "wrong-type.ui:3: error: widget 'control' (ObserverCheckBox): property 'modelProperty': \"amount\" is of the "
-          "type double, but the control takes bool [broken/wrong-type]",
-          "wrong-type.ui:4: warning: widget 'control' (ObserverButton): the name is taken by what begins in line 2: "
-          "connections and buddies find only one of them",
-          "wrong-type.ui:4: error: widget 'control' (ObserverButton): property 'modelProperty': \"flag\" is of the "
-          "type "
-          "bool, but the control takes string [broken/wrong-type]",
-          "wrong-type.ui:5: warning: widget 'control' (ObserverLineEdit): the name is taken by what begins in line 2: "
-          "connections and buddies find only one of them",
-          "wrong-type.ui:5: error: widget 'control' (ObserverLineEdit): property 'modelProperty': \"table\" is of the "
-          "type value map, but the control takes int, double, point, bool, string, color, node, resource "
-          "[broken/wrong-type]"}},
+         {("wrong-type.ui:2: error: widget 'control' (ObserverSpinBox): property 'modelProperty': \"note\" is of the "
+           "type "
+           "string, but the control takes int, double [broken/wrong-type]"),
+          ("wrong-type.ui:3: warning: widget 'control' (ObserverCheckBox): the name is taken by what begins in line 2: "
+           "connections and buddies find only one of them"),
+          ("wrong-type.ui:3: error: widget 'control' (ObserverCheckBox): property 'modelProperty': \"amount\" is of "
+           "the "
+           "type double, but the control takes bool [broken/wrong-type]"),
+          ("wrong-type.ui:4: warning: widget 'control' (ObserverButton): the name is taken by what begins in line 2: "
+           "connections and buddies find only one of them"),
+          ("wrong-type.ui:4: error: widget 'control' (ObserverButton): property 'modelProperty': \"flag\" is of the "
+           "type "
+           "bool, but the control takes string [broken/wrong-type]"),
+          ("wrong-type.ui:5: warning: widget 'control' (ObserverLineEdit): the name is taken by what begins in line 2: "
+           "connections and buddies find only one of them"),
+          ("wrong-type.ui:5: error: widget 'control' (ObserverLineEdit): property 'modelProperty': \"table\" is of the "
+           "type value map, but the control takes int, double, point, bool, string, color, node, resource "
+           "[broken/wrong-type]")}},
         {"nothing-to-choose",
          inSection(observer("ObserverComboBox", "note") +
                    widget("UnitChooser", "u", stringProperty("modelProperty", "count")) +
                    widget("ResourceDropdown", "r", stringProperty("modelProperty", "picture"))),
-         {"nothing-to-choose.ui:2: warning: widget 'control' (ObserverComboBox): property 'modelProperty': the list "
-          "stays "
-          "empty: the property needs a validator of the kind \"set\" [broken/nothing-to-choose]",
-          "nothing-to-choose.ui:3: warning: widget 'u' (UnitChooser): property 'modelProperty': no unit is shown: the "
-          "property has neither a unit nor a format with units [broken/nothing-to-choose]",
-          "nothing-to-choose.ui:4: warning: widget 'r' (ResourceDropdown): property 'modelProperty': the list stays "
-          "empty: the property needs a validator of the kind \"resources\" [broken/nothing-to-choose]"}},
+         {("nothing-to-choose.ui:2: warning: widget 'control' (ObserverComboBox): property 'modelProperty': the list "
+           "stays "
+           "empty: the property needs a validator of the kind \"set\" [broken/nothing-to-choose]"),
+          ("nothing-to-choose.ui:3: warning: widget 'u' (UnitChooser): property 'modelProperty': no unit is shown: the "
+           "property has neither a unit nor a format with units [broken/nothing-to-choose]"),
+          ("nothing-to-choose.ui:4: warning: widget 'r' (ResourceDropdown): property 'modelProperty': the list stays "
+           "empty: the property needs a validator of the kind \"resources\" [broken/nothing-to-choose]")}},
         {"wrong-choice",
          inSection("<item><widget class=\"ObserverRadioGroup\" name=\"group\">" +
                    stringProperty("modelProperty", "pace") + "<layout class=\"QVBoxLayout\">\n" +
                    widget("RadioButton", "fast", stringProperty("text", "&amp;Fast")) +
                    widget("RadioButton", "slow", stringProperty("value", "Sloow")) + "</layout></widget></item>"),
-         {"wrong-choice.ui:4: warning: widget 'slow' (RadioButton): property 'value': the button stands for nothing in "
-          "the group 'group': \"Sloow\" is no value that the property may take [broken/wrong-choice]"}},
+         {("wrong-choice.ui:4: warning: widget 'slow' (RadioButton): property 'value': the button stands for nothing "
+           "in "
+           "the group 'group': \"Sloow\" is no value that the property may take [broken/wrong-choice]")}},
         {"no-subparts",
          inSection(observer("ObserverLineEdit", "title", stringProperty("subpart", "wheels"))),
-         {"no-subparts.ui:2: error: widget 'control' (ObserverLineEdit): property 'subpart': there are no subparts "
-          "\"wheels\" to bind [broken/no-subparts]"}},
+         {("no-subparts.ui:2: error: widget 'control' (ObserverLineEdit): property 'subpart': there are no subparts "
+           "\"wheels\" to bind [broken/no-subparts]")}},
         {"lacking-subparts",
          inSection(observer("ObserverLineEdit", "title", stringProperty("subpart", "pads"))),
-         {"lacking-subparts.ui:2: warning: widget 'control' (ObserverLineEdit): property 'subpart': new nodes have no "
-          "subparts \"pads\": the form is not shown for them [broken/lacking-subparts]"},
+         {("lacking-subparts.ui:2: warning: widget 'control' (ObserverLineEdit): property 'subpart': new nodes have no "
+           "subparts \"pads\": the form is not shown for them [broken/lacking-subparts]")},
          true},
         {"wrong-for-chosen",
          inBox(observer("ObserverSpinBox", "title")),
-         {"wrong-for-chosen.ui:4: error: widget 'control' (ObserverSpinBox): property 'modelProperty': \"title\" is of "
-          "the type string, but the control takes int, double [broken/wrong-for-chosen]"}},
+         {("wrong-for-chosen.ui:4: error: widget 'control' (ObserverSpinBox): property 'modelProperty': \"title\" is "
+           "of "
+           "the type string, but the control takes int, double [broken/wrong-for-chosen]")}},
         {"unbound-for-chosen",
          inBox("<item><widget class=\"ObserverGroupBox\" name=\"inner\"><layout class=\"QVBoxLayout\">\n" +
                observer("ObserverLabel", "amount") + "</layout></widget></item>"),
-         {"unbound-for-chosen.ui:5: error: widget 'control' (ObserverLabel): property 'modelProperty': there is no "
-          "property \"amount\" to bind [broken/unbound-for-chosen]"}},
+         {("unbound-for-chosen.ui:5: error: widget 'control' (ObserverLabel): property 'modelProperty': there is no "
+           "property \"amount\" to bind [broken/unbound-for-chosen]")}},
         // What is no form at all
         {"empty", "", {"empty.ui:1: error: Premature end of document."}},
         {"garbage",
