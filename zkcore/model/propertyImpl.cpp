@@ -128,22 +128,26 @@ Formatter* PropertyImpl::getFormatter() const
     return m_formatter.get();
 }
 
+QString PropertyImpl::labelSource() const
+{
+    return m_definition->label.isEmpty() ? key().toString() : m_definition->label;
+}
+
 QString PropertyImpl::getUserVisibleLabel() const
 {
-    return liveUserVisibleLabel()();
+    return m_label.isNull() ? translated(labelSource()) : m_label;
 }
 
 LiveText PropertyImpl::liveUserVisibleLabel() const
 {
     if (!m_label.isNull())
         return [label = m_label] { return label; };
-    return liveStringFromContext(*m_owner, m_definition->label.isEmpty() ? key().toString() : m_definition->label,
-                                 m_domain);
+    return liveStringFromContext(*m_owner, labelSource(), m_domain);
 }
 
 QString PropertyImpl::translated(const QString& text) const
 {
-    return liveStringFromContext(*m_owner, text, m_domain)();
+    return translateStringFromContext(m_owner, text, m_domain);
 }
 
 void PropertyImpl::setUserVisibleLabel(const QString& label)

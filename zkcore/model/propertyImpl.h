@@ -104,6 +104,8 @@ Q_SIGNALS:
     void formatterChanged();
 
 private:
+    /// The label before its translation.
+    QString labelSource() const;
     friend class NodeImpl;
     friend class ModelMutator;
     friend class DocumentImpl;

@@ -8,9 +8,13 @@
 
 namespace {
 
-std::vector<ClassId> contextsOf(const NodePrototype& prototype)
+std::vector<ClassId> contextsOf(const NodePrototype& prototype, ClassId domain = INVALID_CID)
 {
-    std::vector<ClassId> contexts = {prototype.cid};
+    std::vector<ClassId> contexts;
+    contexts.reserve(prototype.bases.size() + 3);
+    if (domain != INVALID_CID)
+        contexts.push_back(domain);
+    contexts.push_back(prototype.cid);
     contexts.insert(contexts.end(), prototype.bases.begin(), prototype.bases.end());
     contexts.push_back(getDomain(prototype.cid));
     return contexts;
@@ -18,6 +22,8 @@ std::vector<ClassId> contextsOf(const NodePrototype& prototype)
 
 QString translateInContexts(const std::vector<ClassId>& contexts, const QString& text)
 {
+    if (text.isEmpty())
+        return text;
     const QByteArray source = text.toUtf8();
     for (const ClassId cid : contexts) {
         const QString translated =
@@ -30,21 +36,17 @@ QString translateInContexts(const std::vector<ClassId>& contexts, const QString&
 
 } // namespace
 
-QString translateStringFromContext(const NodeImpl* node, const QString& text)
+QString translateStringFromContext(const NodeImpl* node, const QString& text, ClassId domain)
 {
-    return node ? translateStringForClass(node->prototype(), text) : text;
+    return node ? translateInContexts(contextsOf(node->prototype(), domain), text) : text;
 }
 
 QString translateStringForClass(const NodePrototype& prototype, const QString& text)
 {
-    return text.isEmpty() ? text : translateInContexts(contextsOf(prototype), text);
+    return translateInContexts(contextsOf(prototype), text);
 }
 
 LiveText liveStringFromContext(const NodeImpl& node, const QString& text, ClassId domain)
 {
-    std::vector<ClassId> contexts = contextsOf(node.prototype());
-    if (domain != INVALID_CID)
-        contexts.insert(contexts.begin(), domain);
-    return
-        [contexts = std::move(contexts), text] { return text.isEmpty() ? text : translateInContexts(contexts, text); };
+    return [contexts = contextsOf(node.prototype(), domain), text] { return translateInContexts(contexts, text); };
 }
