@@ -66,6 +66,7 @@ struct ListCase
     std::function<std::unique_ptr<ListEditor>()> makeEditor; // with its settings
     std::function<void(ListDocument&, size_t rows)> fill;
     std::function<void(ListDocument&, int round)> changeOne;
+    std::function<void(ListDocument&)> addOne; // where a row is a node, or comes with one
 };
 
 Value tableOf(size_t rows, int changed)
@@ -105,23 +106,27 @@ const std::vector<ListCase>& listCases()
          [](ListDocument& list, size_t rows) { list.add(list.part, "core/control", rows - 1); },
          [](ListDocument& list, int round) {
              list.set(list.part->getChildAt(9), "id", Value(QStringLiteral("name%1").arg(round)));
-         }},
+         },
+         [](ListDocument& list) { list.add(list.part, "core/control", 1); }},
         {"ValueMapListBox", [] { return editorOf<ValueMapListBox>("table"); },
          [](ListDocument& list, size_t rows) { list.set(list.part, "table", tableOf(rows, 0)); },
          [](ListDocument& list, int round) {
              const size_t rows = list.part->valueOfProperty(PropertyKey::fromString("table")).toValueMap().size();
              list.set(list.part, "table", tableOf(rows, round + 1));
-         }},
+         },
+         nullptr},
         {"ResourceListBox", [] { return editorOf<ResourceListBox>("album"); },
          [](ListDocument& list, size_t rows) { list.set(list.part, "album", albumOf(rows, 0)); },
          [](ListDocument& list, int round) {
              const PropertyKey key = PropertyKey::fromString("album");
              list.set(list.part, "album",
                       albumOf(list.part->valueOfProperty(key).toResourceVector().size(), round + 1));
-         }},
+         },
+         nullptr},
         {"PropertyListBox", [] { return editorOf<PropertyListBox>("level"); },
          [](ListDocument& list, size_t rows) { list.add(list.scene, "core/collections", rows - 1); },
-         [](ListDocument& list, int round) { list.set(list.scene->getChildAt(5), "level", Value(round % 90 + 5)); }},
+         [](ListDocument& list, int round) { list.set(list.scene->getChildAt(5), "level", Value(round % 90 + 5)); },
+         [](ListDocument& list) { list.add(list.scene, "core/collections", 1); }},
     };
     return cases;
 }
@@ -178,7 +183,7 @@ double scrolling(QTreeView& view)
 
 struct ListTimes
 {
-    ListFigures fill, bareFill, change, changeAlone, bareChange, select, bareSelect, scroll, bareScroll;
+    ListFigures fill, bareFill, add, change, changeAlone, bareChange, select, bareSelect, scroll, bareScroll;
 };
 
 void measureList(const ListCase& list, size_t rows, ListTimes& times)
@@ -207,12 +212,23 @@ void measureList(const ListCase& list, size_t rows, ListTimes& times)
     QTreeView* view = editor->view();
     if (view->model()->rowCount() < static_cast<int>(rows))
         qFatal("%s has only %d rows", list.name, view->model()->rowCount());
+    if (list.addOne) {
+        times.add.push_back(bestOf(15,
+                                   [&] {
+                                       list.addOne(content);
+                                       QCoreApplication::processEvents();
+                                   }) /
+                            1e3);
+    }
+    const std::vector<QStringList> unchanged = textsOf(*view->model());
     times.change.push_back(bestOf(15,
                                   [&] {
                                       list.changeOne(content, ++round);
                                       QCoreApplication::processEvents();
                                   }) /
                            1e3);
+    if (textsOf(*view->model()) == unchanged)
+        qFatal("%s does not follow", list.name);
     times.select.push_back(selecting(*view) / 1e3);
     times.scroll.push_back(scrolling(*view) / 1e3);
 
@@ -264,6 +280,8 @@ void reportList(const ListCase& list)
     table.ratioRow("times the bare view", listRatios(times.fill, times.bareFill), 3);
     table.row("one change by a command, not followed", times.changeAlone);
     table.limitRow("one change by a command, followed", times.change, 16'000);
+    if (list.addOne)
+        table.limitRow("one node more, followed", times.add, 16'000);
     table.row("one text of the bare view", times.bareChange);
     table.row("another row selected", times.select);
     table.row("the same in the bare view", times.bareSelect);
@@ -280,7 +298,10 @@ int main(int argc, char** argv)
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
     const QApplication application(argc, argv);
-    for (const ListCase& list : listCases())
-        reportList(list);
+    const QByteArray wanted = argc > 1 ? argv[1] : "";
+    for (const ListCase& list : listCases()) {
+        if (QByteArray(list.name).contains(wanted))
+            reportList(list);
+    }
     return 0;
 }

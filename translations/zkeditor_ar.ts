@@ -3753,6 +3753,14 @@ The file is now %2.</source>
         <source>The file &quot;%1&quot; cannot be written: %2</source>
         <translation>لا يمكن كتابة الملف &quot;%1&quot;: %2</translation>
     </message>
+    <message>
+        <source>&quot;%1&quot; is a device or a channel to another program, not a file.</source>
+        <translation>&quot;%1&quot; جهاز أو قناة إلى برنامج آخر، وليس ملفًا.</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; is empty.</source>
+        <translation>الملف &quot;%1&quot; فارغ.</translation>
+    </message>
 </context>
 <context>
     <name>ResourceListBox</name>

@@ -3697,6 +3697,14 @@ Die Datei ist jetzt %2.</translation>
         <source>The file &quot;%1&quot; cannot be written: %2</source>
         <translation>Die Datei &quot;%1&quot; kann nicht geschrieben werden: %2</translation>
     </message>
+    <message>
+        <source>&quot;%1&quot; is a device or a channel to another program, not a file.</source>
+        <translation>&quot;%1&quot; ist ein Gerät oder ein Kanal zu einem anderen Programm, keine Datei.</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; is empty.</source>
+        <translation>Die Datei &quot;%1&quot; ist leer.</translation>
+    </message>
 </context>
 <context>
     <name>ResourceListBox</name>

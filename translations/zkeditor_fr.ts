@@ -3697,6 +3697,14 @@ Le fichier est maintenant %2.</translation>
         <source>The file &quot;%1&quot; cannot be written: %2</source>
         <translation>Le fichier « %1 » ne peut pas être écrit : %2</translation>
     </message>
+    <message>
+        <source>&quot;%1&quot; is a device or a channel to another program, not a file.</source>
+        <translation>« %1 » est un périphérique ou un canal vers un autre programme, pas un fichier.</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; is empty.</source>
+        <translation>Le fichier « %1 » est vide.</translation>
+    </message>
 </context>
 <context>
     <name>ResourceListBox</name>

@@ -1,7 +1,7 @@
 #include "zkcore/model/nodeImpl.h"
 
-#include "zkcore/model/coreKeys.h"
 #include "zkcore/model/documentImpl.h"
+#include "zkcore/model/nodeNames.h"
 #include "zkcore/model/objectSlab.h"
 #include "zkcore/model/propertyImpl.h"
 
@@ -113,21 +113,16 @@ int NodeImpl::getIndexForChild(const NodeImpl* child) const
 
 QString NodeImpl::displayName() const
 {
-    for (const PropertyKey key : {coreKeys::title(), coreKeys::id()}) {
-        const QString text = valueOfProperty(key).toQString();
-        if (!text.isEmpty())
-            return text;
-    }
+    if (const QString own = NodeNames::own(this); !own.isEmpty())
+        return own;
     const QString label = m_document->getMetaLabelForCID(classId());
     return label.isEmpty() ? findStringForCid(classId()) : label;
 }
 
 LiveText NodeImpl::liveDisplayName() const
 {
-    for (const PropertyKey key : {coreKeys::title(), coreKeys::id()}) {
-        if (const QString text = valueOfProperty(key).toQString(); !text.isEmpty())
-            return [text] { return text; };
-    }
+    if (const QString own = NodeNames::own(this); !own.isEmpty())
+        return [own] { return own; };
     const QString& label = prototype().label;
     return liveStringFromContext(*this, label.isEmpty() ? findStringForCid(classId()) : label);
 }

@@ -19,7 +19,9 @@ ComboBox::ComboBox(QWidget* parent, const QString& name) : QComboBox(parent)
 
 QSize ComboBox::sizeHint() const
 {
-    if (m_textWidth < 0) {
+    // Where a layout does not ask for the width, there may be very many items.
+    const bool isAsked = sizePolicy().horizontalPolicy() != QSizePolicy::Ignored;
+    if (isAsked && m_textWidth < 0) {
         const QFontMetrics metrics = fontMetrics();
         m_textWidth = count() == 0 ? 7 * metrics.horizontalAdvance(QLatin1Char('x')) : 0;
         m_iconTextWidth = -1;

@@ -1,5 +1,6 @@
 #include "zkeditor/widgets/propertyChoiceModel.h"
 
+#include "zkcore/model/nodeNames.h"
 #include "zkcore/model/propertyImpl.h"
 #include "zkcore/services/translate.h"
 #include "zkeditor/widgets/valueMapModel.h"
@@ -22,10 +23,9 @@ public:
     {
         const bool isPart = node->kind() == NodeKind::Part;
         const bool isSubpart = node->kind() == NodeKind::Subpart;
-        const QString name = isSubpart ? parentName + QStringLiteral(" / ") + node->displayName() : node->displayName();
-        for (const PropertyDefinition* definition : offeredBy(node->prototype()))
-            rows.push_back(
-                {{node->instanceId(), INVALID_CID, definition->key}, name, labelOf(node->prototype(), *definition)});
+        const QString name = isSubpart ? parentName + QStringLiteral(" / ") + m_names.of(node) : m_names.of(node);
+        for (const Offer& offer : offeredBy(node->prototype()))
+            rows.push_back({{node->instanceId(), INVALID_CID, offer.key}, name, offer.label});
         if (auto* space = qobject_cast<SpaceImpl*>(node))
             lookAtDomains(space);
         for (NodeImpl* child : node->children())
@@ -37,25 +37,29 @@ public:
     std::vector<PropertyChoiceRow> rows;
 
 private:
+    struct Offer
+    {
+        PropertyKey key;
+        QString label;
+    };
+
     void lookAtDomains(SpaceImpl* space)
     {
         for (const ClassId domain : space->getKnownDomains()) {
             const NodePrototype* prototype = space->document()->getNodeDb()->lookupPrototype(domain);
             if (!prototype)
                 continue;
-            for (const PropertyDefinition* definition : offeredBy(*prototype))
-                rows.push_back({{space->instanceId(), domain, definition->key},
-                                space->displayName(),
-                                labelOf(*prototype, *definition)});
+            for (const Offer& offer : offeredBy(*prototype))
+                rows.push_back({{space->instanceId(), domain, offer.key}, space->displayName(), offer.label});
         }
     }
 
-    const std::vector<const PropertyDefinition*>& offeredBy(const NodePrototype& prototype)
+    const std::vector<Offer>& offeredBy(const NodePrototype& prototype)
     {
         const auto known = m_offered.constFind(&prototype);
         if (known != m_offered.constEnd())
             return *known;
-        std::vector<const PropertyDefinition*> offered;
+        std::vector<Offer> offered;
         const auto isNumber = [](Value::Type type) { return type == Value::INT || type == Value::DOUBLE; };
         for (const PropertyDefinition& definition : prototype.properties()) {
             if (definition.flags.testFlag(PropertyDefinition::Invisible))
@@ -63,7 +67,7 @@ private:
             const bool sameKind =
                 definition.type == m_follower->type() || (isNumber(definition.type) && isNumber(m_follower->type()));
             if (!m_acceptableOnly || (sameKind && definition.flags.testFlag(PropertyDefinition::ProxyTarget)))
-                offered.push_back(&definition);
+                offered.push_back({definition.key, labelOf(prototype, definition)});
         }
         return *m_offered.insert(&prototype, offered);
     }
@@ -76,7 +80,8 @@ private:
 
     const PropertyImpl* m_follower;
     const bool m_acceptableOnly;
-    QHash<const NodePrototype*, std::vector<const PropertyDefinition*>> m_offered;
+    QHash<const NodePrototype*, std::vector<Offer>> m_offered;
+    NodeNames m_names;
 };
 
 } // namespace

@@ -1,7 +1,9 @@
 #include "zkeditor/widgets/propertyListBox.h"
 
 #include "zkcore/commands/proxyCommands.h"
+#include "zkcore/model/coreKeys.h"
 #include "zkcore/model/documentImpl.h"
+#include "zkcore/model/nodeNames.h"
 #include "zkcore/model/propertyImpl.h"
 #include "zkeditor/widgets/comboBox.h"
 #include "zkeditor/widgets/lineEdit.h"
@@ -18,6 +20,7 @@
 #include <QListView>
 #include <QSignalBlocker>
 #include <QSortFilterProxyModel>
+#include <QStandardItemModel>
 #include <QTimer>
 #include <QTreeView>
 #include <QVBoxLayout>
@@ -90,7 +93,9 @@ void PropertyListBox::bind(DocumentImpl* document, const std::set<NodeImpl*>& no
     const auto followParts = [this] { followSoon(FollowParts); };
     connect(document, &DocumentImpl::ElementAdded, this, followParts);
     connect(document, &DocumentImpl::ElementRemoved, this, followParts);
-    connect(document, &DocumentImpl::nodeValueChanged, this, [this] { followSoon(FollowValues); });
+    connect(document, &DocumentImpl::nodeValueChanged, this, [this](const NodeImpl*, PropertyKey key) {
+        followSoon(key == coreKeys::id() || key == coreKeys::title() ? FollowParts : FollowValues);
+    });
 }
 
 void PropertyListBox::setupWidget()
@@ -129,8 +134,14 @@ void PropertyListBox::listParts()
 {
     const QSignalBlocker blocker(m_parts);
     const QVariant chosen = m_parts->currentData();
-    m_parts->clear();
-    m_parts->addItem(tr("All parts"), 0);
+    NodeNames names;
+    // All at once: a combo box looks at itself after each item.
+    QList<QStandardItem*> items;
+    const auto addItem = [&items](const QString& text, InstanceId part) {
+        items.append(new QStandardItem(text));
+        items.constLast()->setData(part, Qt::UserRole);
+    };
+    addItem(tr("All parts"), 0);
     std::vector<SpaceImpl*> spaces;
     for (SceneImpl* scene : m_document->getModel()->getScenes())
         spaces.push_back(scene);
@@ -138,8 +149,11 @@ void PropertyListBox::listParts()
         spaces.push_back(popup);
     for (const SpaceImpl* space : spaces) {
         for (const PartImpl* part : space->parts())
-            m_parts->addItem(part->displayName(), part->instanceId());
+            addItem(names.of(part), part->instanceId());
     }
+    auto* choices = static_cast<QStandardItemModel*>(m_parts->model());
+    choices->clear();
+    choices->invisibleRootItem()->appendRows(items);
     m_parts->setCurrentIndex(qMax(0, m_parts->findData(chosen)));
     listProperties();
 }

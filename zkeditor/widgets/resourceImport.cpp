@@ -37,10 +37,14 @@ QString unreadableReason(Resource::Type type, const QString& fileName)
         return ImportTexts::tr("There is no file \"%1\".").arg(name);
     if (info.isDir())
         return ImportTexts::tr("\"%1\" is a folder.").arg(name);
+    if (!info.isFile()) // opening it could wait for another program for ever
+        return ImportTexts::tr("\"%1\" is a device or a channel to another program, not a file.").arg(name);
     if (!file.open(QIODevice::ReadOnly))
         return ImportTexts::tr("The file \"%1\" cannot be read: %2").arg(name, file.errorString());
     if (info.size() > greatestFile)
         return ImportTexts::tr("The file \"%1\" is larger than 64 MB.").arg(name);
+    if (info.size() == 0)
+        return ImportTexts::tr("The file \"%1\" is empty.").arg(name);
     return ImportTexts::tr("The file \"%1\" cannot be used here: it does not hold data of the kind \"%2\".")
         .arg(name, Resource::typeAsString(type));
 }

@@ -37,6 +37,18 @@ public:
     /// Linear in the number of rows.
     void setRows(std::vector<Row> rows)
     {
+        if (m_rows.empty() && !rows.empty()) {
+            this->beginInsertRows({}, 0, static_cast<int>(rows.size()) - 1);
+            m_rows.swap(rows);
+            this->endInsertRows();
+            return;
+        }
+        // Most changes are within rows.
+        const auto sameKey = [](const Row& a, const Row& b) { return a.key() == b.key(); };
+        if (std::equal(m_rows.begin(), m_rows.end(), rows.begin(), rows.end(), sameKey)) {
+            updateRows(rows);
+            return;
+        }
         QHash<KeyOf, size_t> wanted;
         wanted.reserve(static_cast<qsizetype>(rows.size()));
         for (size_t i = 0; i < rows.size(); ++i)

@@ -4,20 +4,31 @@
 #include "zkcore/model/coreKeys.h"
 #include "zkcore/model/documentImpl.h"
 #include "zkcore/model/elementImpl.h"
+#include "zkcore/model/nodeNames.h"
 #include "zkeditor/widgets/rowDrag.h"
 
 #include <QPixmap>
 #include <QTimer>
+#include <utility>
 
 namespace {
 
 constexpr QSize subpartIconSize(16, 16);
+constexpr qsizetype mostRenamed = 100; // are looked for one by one
 
 } // namespace
 
 SubpartModel::SubpartModel(QObject* parent) : RowsModel(parent) {}
 
 SubpartModel::~SubpartModel() = default;
+
+void SubpartModel::setSelector(const QString& selector)
+{
+    const bool ofClass = selector.contains(QLatin1Char('/'));
+    m_selector = selector;
+    m_class = ofClass ? getCidForString(selector) : INVALID_CID;
+    m_roles = RoleSet(ofClass ? QString() : selector);
+}
 
 void SubpartModel::bind(DocumentImpl* document, const std::set<NodeImpl*>& nodes)
 {
@@ -51,6 +62,8 @@ void SubpartModel::unbind()
     m_parts.clear();
     m_partSet.clear();
     m_pending = false;
+    m_stale = false;
+    m_renamed.clear();
     setRows({});
 }
 
@@ -61,25 +74,53 @@ bool SubpartModel::concerns(const NodeImpl* node) const
 
 void SubpartModel::onValueChanged(NodeImpl* node, PropertyKey key)
 {
-    if ((key == coreKeys::id() || key == coreKeys::title() || key == coreKeys::roles()) && concerns(node))
-        changed();
+    const bool isName = key == coreKeys::id() || key == coreKeys::title();
+    if ((!isName && key != coreKeys::roles()) || !concerns(node))
+        return;
+    // Subparts of several parts belong together by their ids; those of one only look different.
+    if (isName && m_parts.size() == 1 && m_renamed.size() < mostRenamed)
+        m_renamed.insert(node->instanceId());
+    else
+        m_stale = true;
+    syncSoon();
 }
 
 void SubpartModel::changed()
 {
-    if (m_pending)
+    m_stale = true;
+    syncSoon();
+}
+
+void SubpartModel::syncSoon()
+{
+    if (std::exchange(m_pending, true))
         return;
-    m_pending = true;
     QTimer::singleShot(0, this, &SubpartModel::sync);
 }
 
 void SubpartModel::sync()
 {
-    if (!m_pending)
+    if (!std::exchange(m_pending, false))
         return;
-    m_pending = false;
-    setRows(findRows());
+    const QSet<InstanceId> renamed = std::exchange(m_renamed, {});
+    if (std::exchange(m_stale, false)) {
+        setRows(findRows());
+    } else {
+        for (const InstanceId id : renamed)
+            updateLabel(id);
+    }
     Q_EMIT synced();
+}
+
+void SubpartModel::updateLabel(InstanceId id)
+{
+    const int place = rowOf(id);
+    const NodeImpl* node = m_document ? m_document->nodeById(id) : nullptr;
+    if (place < 0 || !node)
+        return;
+    SubpartRow row = *rowAt(place);
+    row.label = node->displayName();
+    changeRow(place, std::move(row));
 }
 
 // The model
@@ -99,9 +140,9 @@ std::vector<PartImpl*> SubpartModel::parts() const
 
 bool SubpartModel::selects(const ElementImpl* subpart) const
 {
-    if (m_selector.contains(QLatin1Char('/')))
-        return subpart->classId() == getCidForString(m_selector);
-    return m_selector.isEmpty() || subpart->getRoles().intersects(RoleSet(m_selector));
+    if (m_class != INVALID_CID)
+        return subpart->classId() == m_class;
+    return m_selector.isEmpty() || subpart->getRoles().intersects(m_roles);
 }
 
 std::vector<SubpartRow> SubpartModel::findRows() const
@@ -112,6 +153,9 @@ std::vector<SubpartRow> SubpartModel::findRows() const
         return rows;
     std::vector<std::shared_ptr<std::vector<InstanceId>>> nodes;
     QHash<QString, size_t> places;
+    QHash<ClassId, Resource> icons;
+    NodeNames names;
+    rows.reserve(all.front()->childCount());
     for (ElementImpl* subpart : all.front()->allSubparts()) {
         if (!selects(subpart))
             continue;
@@ -119,12 +163,17 @@ std::vector<SubpartRow> SubpartModel::findRows() const
         nodes.push_back(std::make_shared<std::vector<InstanceId>>(1, subpart->instanceId()));
         row.nodes = nodes.back();
         row.cid = subpart->classId();
-        row.label = subpart->displayName();
-        row.icon = m_document->getMetaIconForCID(row.cid);
+        row.label = names.of(subpart);
+        auto icon = icons.constFind(row.cid);
+        if (icon == icons.constEnd())
+            icon = icons.insert(row.cid, m_document->getMetaIconForCID(row.cid));
+        row.icon = *icon;
         row.prescribed = !subpart->isAdhoc();
-        const QString id = subpart->valueOfProperty(coreKeys::id()).toQString();
-        if (!id.isEmpty() && !places.contains(id))
-            places.insert(id, rows.size());
+        if (all.size() > 1) {
+            const QString id = subpart->valueOfProperty(coreKeys::id()).toQString();
+            if (!id.isEmpty() && !places.contains(id))
+                places.insert(id, rows.size());
+        }
         rows.push_back(std::move(row));
     }
     if (all.size() == 1)
@@ -162,10 +211,8 @@ std::vector<ClassId> SubpartModel::addableClasses() const
     const std::vector<PartImpl*> all = parts();
     if (all.empty())
         return classes;
-    const bool ofClass = m_selector.contains(QLatin1Char('/'));
-    const RoleSet roles(ofClass ? QString() : m_selector);
-    const auto wanted = [&](ClassId cid, Role role) {
-        return ofClass ? cid == getCidForString(m_selector) : m_selector.isEmpty() || roles.contains(role);
+    const auto wanted = [this](ClassId cid, Role role) {
+        return m_class != INVALID_CID ? cid == m_class : m_selector.isEmpty() || m_roles.contains(role);
     };
     const auto offer = [&](ClassId cid) {
         if (std::find(classes.begin(), classes.end(), cid) == classes.end())

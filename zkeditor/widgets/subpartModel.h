@@ -4,6 +4,7 @@
 #include "zkcore/base/instanceId.h"
 #include "zkcore/media/resource.h"
 #include "zkcore/model/documentImpl.h"
+#include "zkcore/model/role.h"
 #include "zkeditor/export.h"
 #include "zkeditor/widgets/rowsModel.h"
 
@@ -41,7 +42,7 @@ public:
     ~SubpartModel() override;
 
     /// Which subparts: roles, or with a "/" a class.
-    void setSelector(const QString& selector) { m_selector = selector; }
+    void setSelector(const QString& selector);
     QString selector() const { return m_selector; }
     /// Shows the subparts of the parts from now on; nodes that are no parts are passed over.
     void bind(DocumentImpl* document, const std::set<NodeImpl*>& nodes);
@@ -84,14 +85,20 @@ Q_SIGNALS:
 
 private:
     void changed();
+    void syncSoon();
+    void updateLabel(InstanceId id);
     void onValueChanged(NodeImpl* node, PropertyKey key);
     bool concerns(const NodeImpl* node) const;
     std::vector<SubpartRow> findRows() const;
 
     QPointer<DocumentImpl> m_document;
     QString m_selector;
+    ClassId m_class = INVALID_CID;   // of the selector
+    RoleSet m_roles;                 // of the selector
     std::vector<InstanceId> m_parts; // in the order of their making
     QSet<InstanceId> m_partSet;
+    QSet<InstanceId> m_renamed; // since the last sync()
+    bool m_stale = false;       // more than names changed
     bool m_pending = false;
     bool m_editable = false;
 };

@@ -1,6 +1,8 @@
 // Every operation of every editor of collections and resources, on the document that shows them all: it changes the
 // document in one step, and undo gives the file back byte for byte.
 #include "collectionsFixture.h"
+#include "zkcore/commands/resourceCommand.h"
+#include "zkcore/media/resourceTable.h"
 #include "zkeditor/widgets/checkBox.h"
 #include "zkeditor/widgets/comboBox.h"
 #include "zkeditor/widgets/fontChooser.h"
@@ -9,11 +11,14 @@
 #include "zkeditor/widgets/resourceChooser.h"
 #include "zkeditor/widgets/resourceDropdown.h"
 #include "zkeditor/widgets/resourceListBox.h"
+#include "zkeditor/widgets/subpartCombobox.h"
 #include "zkeditor/widgets/subpartListView.h"
 #include "zkeditor/widgets/valueMapListBox.h"
 
 #include <QFile>
 #include <QFontComboBox>
+#include <QHeaderView>
+#include <QMenu>
 #include <QMimeData>
 #include <QTreeView>
 #include <QUrl>
@@ -85,10 +90,28 @@ void typeId(PartIdLineEdit& field, const char* id)
     QTest::keyClick(&field, Qt::Key_Return);
 }
 
+/// A list of all subparts of a part, which are of several classes.
+QWidget* listOfAllSubparts()
+{
+    auto* list = new SubpartListView;
+    list->setSubpart(QStringLiteral("pins controls"));
+    return list;
+}
+
 std::vector<Operation> operations()
 {
     using Folder = const QTemporaryDir&;
+    Operation ofChosenClass =
+        operation<SubpartListView>("subpart of a chosen class added", BothParts, nullptr, [](auto& list, Folder) {
+            pressIn(list.view(), Qt::Key_Insert);
+            auto* classes = list.template findChild<QMenu*>();
+            ASSERT_TRUE(classes->isVisible());
+            QTest::keyClick(classes, Qt::Key_Down);
+            QTest::keyClick(classes, Qt::Key_Return);
+        });
+    ofChosenClass.make = listOfAllSubparts;
     return {
+        ofChosenClass,
         operation<SubpartListView>("subpart added", BothParts, nullptr,
                                    [](auto& list, Folder) { pressIn(list.view(), Qt::Key_Insert); }),
         operation<SubpartListView>("subpart renamed", BothParts, nullptr,
@@ -129,6 +152,8 @@ std::vector<Operation> operations()
         operation<ResourceChooser>(
             "file imported", BothParts, "picture",
             [](auto& chooser, Folder folder) { chooser.importFile(pictureFile(folder, "a.png")); }),
+        operation<ResourceChooser>("resource of the document chosen", BothParts, "picture",
+                                   [](auto& chooser, Folder) { pressIn(chooser.list(), Qt::Key_End); }),
         operation<ResourceChooser>("resource cleared", BothParts, "picture",
                                    [](auto& chooser, Folder) { pressIn(chooser.list(), Qt::Key_Delete); }),
         operation<ResourceDropdown>("resource chosen", FirstPart, "weather",
@@ -186,9 +211,17 @@ std::vector<Operation> operations()
 
 } // namespace
 
-class CollectionUndoTest : public CollectionsTest, public testing::WithParamInterface<Operation>
+class CollectionFileTest : public CollectionsTest
 {
 protected:
+    /// Opens the sample, with one part more and a picture of its own.
+    void openSample()
+    {
+        ASSERT_TRUE(document.load(QStringLiteral(ZK_SOURCE_DIR "/samples/collections.zkdoc")));
+        ASSERT_TRUE(add("core/collections"));
+        const Resource own = defineLocalResource(Resource::IMAGE, QFile(pictureFile(folder, "own.png")));
+        run<AddResourceCommand>(document, own);
+    }
     PartImpl* partCalled(const char* id)
     {
         return qobject_cast<PartImpl*>(document.nodeWithId(QString::fromLatin1(id)));
@@ -203,11 +236,14 @@ protected:
     }
 };
 
+class CollectionUndoTest : public CollectionFileTest, public testing::WithParamInterface<Operation>
+{
+};
+
 TEST_P(CollectionUndoTest, GivesTheFileBack)
 {
     const Operation& operation = GetParam();
-    ASSERT_TRUE(document.load(QStringLiteral(ZK_SOURCE_DIR "/samples/collections.zkdoc")));
-    ASSERT_TRUE(add("core/collections"));
+    openSample();
     Nodes nodes;
     if (operation.bound != SecondPart)
         nodes.insert(partCalled("first"));
@@ -220,8 +256,8 @@ TEST_P(CollectionUndoTest, GivesTheFileBack)
     window.layout()->addWidget(editor);
     if (operation.property)
         editor->setProperty("modelProperty", QString::fromLatin1(operation.property));
-    if (qobject_cast<SubpartListView*>(editor))
-        editor->setProperty("subpart", QStringLiteral("pins"));
+    if (auto* list = qobject_cast<SubpartListView*>(editor); list && list->subpart().isEmpty())
+        list->setSubpart(QStringLiteral("pins"));
     show();
     auto* pane = dynamic_cast<PaneWidget*>(editor);
     pane->bind(&document, nodes);
@@ -246,3 +282,27 @@ INSTANTIATE_TEST_SUITE_P(EachOperation, CollectionUndoTest, testing::ValuesIn(op
     QString name = QString::fromLatin1(each.param.name);
     return name.replace(QLatin1Char(' '), QLatin1Char('_')).toStdString();
 });
+
+TEST_F(CollectionFileTest, ChoosingAndSortingWriteNothing)
+{
+    openSample();
+    const QByteArray before = savedFile();
+    const int steps = undoSteps();
+    auto& combo = placeAs(new SubpartComboBox, "combo");
+    combo.setSubpart("pins");
+    combo.bind(&document, {partCalled("first")});
+    ASSERT_EQ(combo.count(), 3);
+    pressIn(&combo, Qt::Key_End);
+    EXPECT_EQ(idOf(combo.selectedSubpart().impl()), QString("three"));
+    auto& table = place(new ValueMapListBox, "table");
+    table.bind(&document, {partCalled("first")});
+    const QHeaderView* header = table.view()->header();
+    QTest::mouseClick(header->viewport(), Qt::LeftButton, {},
+                      QPoint(header->sectionViewportPosition(1) + 5, header->height() / 2));
+    EXPECT_EQ(header->sortIndicatorSection(), 1);
+    EXPECT_EQ(undoSteps(), steps);
+    EXPECT_EQ(savedFile(), before);
+    combo.unbind();
+    table.unbind();
+    EXPECT_EQ(savedFile(), before);
+}

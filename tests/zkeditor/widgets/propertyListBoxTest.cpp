@@ -110,6 +110,12 @@ TEST_F(PropertyListBoxTest, FollowsTheDocumentAndSearches)
     set(property(added, "title"), string("Needle"));
     QCoreApplication::processEvents();
     EXPECT_EQ(box.model()->rowCount(), 2 * rows);
+    EXPECT_GE(box.partBox()->findText("Needle"), 0);
+    set(property(added, "title"), string("Sharp needle"));
+    QCoreApplication::processEvents();
+    EXPECT_EQ(box.model()->index(rowOf(box, added, "gain"), PropertyChoiceModel::OwnerColumn).data().toString(),
+              QString("Sharp needle"));
+    EXPECT_GE(box.partBox()->findText("Sharp needle"), 0);
     set(property(added, "gain"), whole(77));
     QCoreApplication::processEvents();
     EXPECT_EQ(box.model()->index(rowOf(box, added, "gain"), PropertyChoiceModel::ValueColumn).data().toString(),

@@ -19,6 +19,7 @@
 #include <QTreeView>
 #include <QUrl>
 #include <memory>
+#include <sys/stat.h>
 
 namespace {
 
@@ -50,12 +51,30 @@ protected:
             all.append(one.toString());
         return all;
     }
-    QString badFile()
+    QString badFile(const char* name = "bad.png", const QByteArray& bytes = "no picture")
     {
-        QFile file(folder.filePath("bad.png"));
+        QFile file(folder.filePath(QString::fromLatin1(name)));
         EXPECT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write("no picture");
+        file.write(bytes);
         return file.fileName();
+    }
+    QString halfPicture()
+    {
+        QFile whole(QStringLiteral(ZK_SOURCE_DIR "/docs/zkauthor.png"));
+        EXPECT_TRUE(whole.open(QIODevice::ReadOnly));
+        return badFile("half.png", whole.read(whole.size() / 2));
+    }
+    QString pipe()
+    {
+        const QString name = folder.filePath("pipe.png");
+        EXPECT_EQ(mkfifo(QFile::encodeName(name).constData(), 0600), 0);
+        return name;
+    }
+    QString linkToNothing()
+    {
+        const QString name = folder.filePath("link.png");
+        EXPECT_TRUE(QFile::link(folder.filePath("gone.png"), name));
+        return name;
     }
     ResourceListBox& listOf(const Nodes& nodes)
     {
@@ -160,6 +179,10 @@ TEST_F(ResourceEditorsTest, FilesThatCannotBeUsedAreRefusedWithTheReason)
         QString file;
         const char* reason;
     } cases[] = {{badFile(), "cannot be used here: it does not hold data of the kind \"image\"."},
+                 {halfPicture(), "does not hold data of the kind \"image\"."},
+                 {badFile("empty.png", {}), "is empty."},
+                 {pipe(), "not a file."},
+                 {linkToNothing(), "There is no file"},
                  {folder.filePath("none.png"), "There is no file"},
                  {folder.path(), "is a folder."}};
     for (const auto& wrong : cases) {
