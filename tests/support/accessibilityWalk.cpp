@@ -20,6 +20,7 @@
 #include <QMenuBar>
 #include <QRadioButton>
 #include <QScrollBar>
+#include <QSet>
 #include <QTabBar>
 #include <QTest>
 #include <QToolBar>
@@ -189,19 +190,24 @@ void addOrderFaults(QWidget& window, const std::vector<QPointer<QWidget>>& chain
             faults +=
                 QStringLiteral("%1: Tab comes to it after %2, which stands behind it").arg(placeOf(b), placeOf(a));
     }
-    // Whoever comes into a dock or a group of it goes through all of it.
-    QHash<const QWidget*, int> left;
-    const QWidget* last = nullptr;
+    // Whoever comes into a dock or a tool bar goes through all of it, also when it stands in another.
+    QSet<const QWidget*> left;
+    QList<const QWidget*> around;
     for (const QPointer<QWidget>& stop : chain) {
-        const QWidget* dock = stop;
-        while (dock && !qobject_cast<const QDockWidget*>(dock) && !qobject_cast<const QToolBar*>(dock))
-            dock = dock->parentWidget();
-        if (dock == last)
-            continue;
-        if (dock && left.contains(dock))
-            faults += QStringLiteral("%1: Tab comes to this group twice").arg(placeOf(stop));
-        left.insert(last, 0);
-        last = dock;
+        QList<const QWidget*> now;
+        for (const QWidget* outer = stop; outer; outer = outer->parentWidget()) {
+            if (qobject_cast<const QDockWidget*>(outer) || qobject_cast<const QToolBar*>(outer))
+                now += outer;
+        }
+        for (const QWidget* group : std::as_const(around)) {
+            if (!now.contains(group))
+                left.insert(group);
+        }
+        for (const QWidget* group : std::as_const(now)) {
+            if (!around.contains(group) && left.contains(group))
+                faults += QStringLiteral("%1: Tab comes to this group twice").arg(placeOf(stop));
+        }
+        around = now;
     }
 }
 

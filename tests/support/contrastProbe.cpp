@@ -8,6 +8,7 @@
 #include <QPaintEngine>
 #include <QPainter>
 #include <QPainterPath>
+#include <QRegion>
 #include <QWidget>
 #include <algorithm>
 
@@ -115,6 +116,7 @@ public:
         m_painter.fillRect(box, QColor::fromRgb(marker));
         m_painter.restore();
         const QColor pen = m_painter.pen().color();
+        const QRegion pane = systemClip();
         contrastProbe::PaintedText painted{{}, item.text(), pen, {}, 1};
         std::vector<std::pair<double, QRgb>> pixels;
         for (int y = 0; y < area.height(); ++y) {
@@ -124,6 +126,9 @@ public:
                 if (line[x] != marker)
                     continue;
                 line[x] = old[x];
+                // After a widget's own clip is gone, the picture's painter forgets the edge of the pane around it.
+                if (!pane.isEmpty() && !pane.contains(QPoint(area.x() + x, area.y() + y)))
+                    continue;
                 painted.place |= QRect(area.x() + x, area.y() + y, 1, 1);
                 const QColor ground = QColor::fromRgb(old[x]);
                 pixels.emplace_back(readableColors::contrast(over(pen, m_painter.opacity(), ground), ground), old[x]);

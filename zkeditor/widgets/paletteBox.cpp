@@ -3,6 +3,7 @@
 
 #include "zkcore/base/assert.h"
 #include "zkeditor/widgets/paletteButtonBar.h"
+#include "zkeditor/widgets/paletteTabOrder.h"
 #include "zkeditor/widgets/updatesSuspended.h"
 
 #include <QApplication>
@@ -12,16 +13,6 @@
 #include <utility>
 
 namespace {
-
-bool isWithinCompound(const QWidget* widget)
-{
-    for (const QWidget* parent = widget->parentWidget(); parent && !parent->isWindow();
-         parent = parent->parentWidget()) {
-        if (parent->focusProxy() && parent->isAncestorOf(parent->focusProxy()))
-            return true;
-    }
-    return false;
-}
 
 constexpr int leastPaletteBoxWidth = 200;
 
@@ -109,7 +100,6 @@ int PaletteBox::insertItem(int index, QWidget* w, const QString& label)
     m_items.insert(m_items.begin() + index, item);
     connect(item->button(), &QAbstractButton::clicked, this, &PaletteBox::buttonClicked);
     item->show();
-    orderTabs(index);
     relayout();
     if (!alive || !item)
         return -1;
@@ -145,8 +135,6 @@ int PaletteBox::replaceItem(QWidget* oldWidget, QWidget* newWidget)
     ZK_ASSERT(item->content() == oldWidget);
     const QPointer<PaletteBox> alive(this);
     item->setContent(newWidget);
-    if (alive)
-        orderTabs(index);
     if (alive)
         Q_EMIT layoutChanged();
     return index;
@@ -254,47 +242,6 @@ void PaletteBox::relayout()
     Q_EMIT layoutChanged();
 }
 
-void PaletteBox::orderTabs(int from)
-{
-    // Contents are older than their headers, so the toolkit's own order would have them first.
-    std::vector<std::vector<QWidget*>> receivers(m_items.size());
-    std::vector<QWidget*> present;
-    bool left = false;        // the order has gone on to others
-    bool interrupted = false; // and come back
-    for (QWidget* w = nextInFocusChain(); w && w != this; w = w->nextInFocusChain()) {
-        // Compound controls hand the focus on to a child; the toolkit moves them with what is in them.
-        if (!((w->focusPolicy() & Qt::TabFocus) || w->focusProxy()))
-            continue;
-        if (!isAncestorOf(w)) {
-            left = left || !present.empty();
-            continue;
-        }
-        if (isWithinCompound(w))
-            continue;
-        present.push_back(w);
-        interrupted = interrupted || left;
-        for (size_t i = 0; i < m_items.size(); ++i) {
-            if (m_items[i]->isAncestorOf(w) && w != m_items[i]->button())
-                receivers[i].push_back(w);
-        }
-    }
-    std::vector<QWidget*> wanted;
-    for (size_t i = 0; i < m_items.size(); ++i) {
-        receivers[i].insert(receivers[i].begin(), m_items[i]->button());
-        wanted.insert(wanted.end(), receivers[i].begin(), receivers[i].end());
-    }
-    if (present == wanted && !interrupted)
-        return; // the toolkit takes long to move a widget
-    QWidget* last = nullptr;
-    for (size_t i = 0; i < m_items.size(); ++i) {
-        for (QWidget* each : receivers[i]) {
-            if (last && static_cast<int>(i) >= from)
-                setTabOrder(last, each);
-            last = each;
-        }
-    }
-}
-
 // Opening and closing
 
 int PaletteBox::showItem(int index, bool open)
@@ -370,21 +317,33 @@ void PaletteBox::buttonClicked()
 
 bool PaletteBox::eventFilter(QObject* object, QEvent* event)
 {
-    // Tab from outside is to come to the first of what is here, though it may be new.
-    if (event->type() == QEvent::KeyPress && object->isWidgetType() &&
-        static_cast<QWidget*>(object)->window() == window()) {
-        const int key = static_cast<QKeyEvent*>(event)->key();
-        if (key == Qt::Key_Tab || key == Qt::Key_Backtab)
-            orderTabs(0);
+    // From within, Tab comes to focusNextPrevChild(). Whoever has the focus outside would come in anywhere, and again.
+    if (event->type() == QEvent::KeyPress && object->isWidgetType() && paletteTabOrder::isOutermost(*this)) {
+        auto& from = static_cast<QWidget&>(*object);
+        const auto& key = static_cast<const QKeyEvent&>(*event);
+        if (from.window() == window() && !isAncestorOf(&from) && (from.hasFocus() || from.isWindow()) &&
+            paletteTabOrder::leaves(from, key)) {
+            const bool forward = key.key() == Qt::Key_Tab && !(key.modifiers() & Qt::ShiftModifier);
+            QWidget* next = paletteTabOrder::next(from, forward);
+            if (next && (isAncestorOf(next) || isAncestorOf(paletteTabOrder::toolkitNext(from, forward)))) {
+                next->setFocus(forward ? Qt::TabFocusReason : Qt::BacktabFocusReason);
+                return true;
+            }
+        }
     }
     return QWidget::eventFilter(object, event);
 }
 
 bool PaletteBox::focusNextPrevChild(bool next)
 {
-    // Contents come and go inside the items; what is new stands at the end of the window's order.
-    orderTabs(0);
-    return QWidget::focusNextPrevChild(next);
+    QWidget* focus = window()->focusWidget();
+    if (!paletteTabOrder::isOutermost(*this) || !focus || !isAncestorOf(focus))
+        return QWidget::focusNextPrevChild(next);
+    QWidget* target = paletteTabOrder::next(*focus, next);
+    if (!target)
+        return false;
+    target->setFocus(next ? Qt::TabFocusReason : Qt::BacktabFocusReason);
+    return true;
 }
 
 void PaletteBox::keyPressEvent(QKeyEvent* event)

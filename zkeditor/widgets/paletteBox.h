@@ -11,7 +11,8 @@ class PaletteButtonBar;
 /// A column of collapsible items. Each has a header with its label, and below it a content widget that is shown while
 /// the item is open. Hidden contents are neither laid out nor painted.
 ///
-/// With the focus on a header, Space and Return open or close the item; Up, Down, Home and End go to other headers.
+/// With the focus on a header, Space and Return open or close the item; Up, Down, Home and End go to other headers. Tab
+/// goes from a header to its content and on to the next header, whenever the content was made.
 class ZKEDITOR_EXPORT PaletteBox : public QWidget
 {
     Q_OBJECT
@@ -93,7 +94,6 @@ private:
     bool shouldCloseOtherItemsToFit(const PaletteItem* item) const;
     void closeOthers(const PaletteItem* item);
     void relayout();
-    void orderTabs(int from);
 
     const unsigned int m_flags;
     std::vector<PaletteItem*> m_items;

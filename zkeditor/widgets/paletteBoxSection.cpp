@@ -92,7 +92,9 @@ QWidget* PaletteBoxSection::getSectionWidget(QWidget* parent)
     std::stable_sort(contents.begin(), contents.end(),
                      [](const QWidget* a, const QWidget* b) { return a->y() < b->y(); });
 
-    auto* section = new QWidget(parent);
+    // The toolkit keeps the form's order of Tab within what moves to another window, but not from one to the next: all
+    // moves at once, with the section.
+    auto* section = new QWidget(this);
     auto* column = new QVBoxLayout(section);
     column->setContentsMargins(15, 15, 15, 15);
     column->setSpacing(10);
@@ -105,6 +107,7 @@ QWidget* PaletteBoxSection::getSectionWidget(QWidget* parent)
         widget->setVisible(!hidden);
         column->addWidget(widget);
     }
+    section->setParent(parent);
     section->adjustSize();
     return section;
 }

@@ -2,12 +2,15 @@
 
 #include "tests/support/messageCapture.h"
 #include "zkeditor/widgets/iconSet.h"
+#include "zkeditor/widgets/observerSpinbox.h"
 #include "zkeditor/widgets/paletteButtonBar.h"
 
 #include <QLabel>
 #include <QLineEdit>
+#include <QScrollArea>
 #include <QSignalSpy>
 #include <QTest>
+#include <QTreeView>
 #include <QVBoxLayout>
 #include <gtest/gtest.h>
 
@@ -221,6 +224,56 @@ TEST_F(PaletteBoxTest, ClosedContentsCostNothing)
     click(0);
     window.grab();
     EXPECT_GT(content->painted, 0);
+}
+
+// Boxes whose contents were made at any time, one within the other, between controls that are in none.
+TEST_F(PaletteBoxTest, TabGoesThroughABoxAsAWhole)
+{
+    make(PaletteBox::StandardStyle);
+    auto* before = new QLineEdit(&window);
+    auto* inner = new PaletteBox(PaletteBox::PlainStyle);
+    auto* scrolled = new QScrollArea;
+    scrolled->setFocusPolicy(Qt::NoFocus);
+    scrolled->setWidget(inner);
+    scrolled->setWidgetResizable(true);
+    box->addItem(scrolled, "outer");
+    auto* spin = new ObserverSpinBox;
+    auto* tree = new QTreeView;
+    inner->addItem(spin, "spin box");
+    inner->insertItem(0, tree, "tree");
+    auto* between = new QLineEdit(&window); // in the toolkit's order it stands amid what is in the box
+    auto* last = new QLineEdit;
+    box->addItem(last, "last");
+    auto* late = new QLineEdit;
+    auto* row = new QWidget;
+    auto* rowColumn = new QVBoxLayout(row);
+    rowColumn->addWidget(late);
+    inner->insertItem(1, row, "row");
+    for (QWidget* widget : {before, between}) {
+        widget->move(0, 550);
+        widget->resize(50, 20);
+    }
+    window.resize(300, 600);
+    box->resize(300, 500);
+    window.show();
+    window.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+
+    const auto innerHeader = [inner](int index) {
+        return inner->item(index)->parentWidget()->findChild<PaletteButtonBar*>(QString(), Qt::FindDirectChildrenOnly);
+    };
+    const std::vector<QWidget*> order = {header(0),      innerHeader(0),     tree,      innerHeader(1), late,
+                                         innerHeader(2), spin->focusProxy(), header(1), last,           between,
+                                         before};
+    order.front()->setFocus();
+    for (size_t i = 1; i <= order.size(); ++i) {
+        QTest::keyClick(window.windowHandle(), Qt::Key_Tab);
+        EXPECT_EQ(window.focusWidget(), order[i % order.size()]) << i;
+    }
+    for (size_t i = order.size(); i > 0; --i) {
+        QTest::keyClick(window.windowHandle(), Qt::Key_Backtab, Qt::ShiftModifier);
+        EXPECT_EQ(window.focusWidget(), order[i - 1]) << i;
+    }
 }
 
 TEST_F(PaletteBoxTest, WorksByKeyboard)
