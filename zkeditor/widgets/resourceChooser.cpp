@@ -253,9 +253,11 @@ void ResourceChooser::exportFile()
         return;
     const QPointer<POReceiver> alive(m_receiver);
     const Resource shown = m_shown;
-    const QString proposal = resourceImport::nameOf(shown) + QLatin1Char('.') + shown.entry()->extension();
-    const QString fileName = QFileDialog::getSaveFileName(window(), tr("Export to a file"), proposal,
-                                                          getFileFilterForResourceType(shown.type()));
+    QFileDialog dialog(window(), tr("Export to a file"), QString(), getFileFilterForResourceType(shown.type()));
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setDefaultSuffix(shown.entry()->extension());
+    dialog.selectFile(resourceImport::nameOf(shown) + QLatin1Char('.') + shown.entry()->extension());
+    const QString fileName = dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0) : QString();
     if (alive && !fileName.isEmpty() && shown == m_shown)
         exportFile(fileName);
 }

@@ -28,6 +28,7 @@ void ResourceModel::setResources(const std::vector<Resource>& resources, const s
         row.number = numbers[row.resource.toString()]++;
         rows.push_back(std::move(row));
     }
+    followRenames(rows);
     setRows(std::move(rows));
 }
 

@@ -2,6 +2,7 @@
 
 #include <QAbstractTableModel>
 #include <QHash>
+#include <QSet>
 #include <algorithm>
 #include <cstddef>
 #include <type_traits>
@@ -44,8 +45,7 @@ public:
             return;
         }
         // Most changes are within rows.
-        const auto sameKey = [](const Row& a, const Row& b) { return a.key() == b.key(); };
-        if (std::equal(m_rows.begin(), m_rows.end(), rows.begin(), rows.end(), sameKey)) {
+        if (haveSameKeys(m_rows, rows)) {
             updateRows(rows);
             return;
         }
@@ -60,6 +60,20 @@ public:
     }
 
 protected:
+    /// To be called before setRows() where a row can get another key: as many rows as go, up to a few, are those that
+    /// come, in their order.
+    void followRenames(const std::vector<Row>& rows)
+    {
+        if (m_rows.size() != rows.size())
+            return;
+        const std::vector<size_t> gone = missingIn(m_rows, rows);
+        const std::vector<size_t> come = missingIn(rows, m_rows);
+        if (gone.size() != come.size() || gone.size() > mostRuns)
+            return;
+        for (size_t i = 0; i < gone.size(); ++i)
+            changeRow(static_cast<int>(gone[i]), rows[come[i]]);
+    }
+
     /// Gives a row other contents, under another key too: it stays the same row for whoever looks at it.
     void changeRow(int row, Row changed)
     {
@@ -70,6 +84,29 @@ protected:
 private:
     using KeyOf = std::decay_t<decltype(std::declval<const Row&>().key())>;
     static constexpr size_t mostRuns = 16; // told one by one; beyond that the table is laid out anew
+
+    static bool haveSameKeys(const std::vector<Row>& a, const std::vector<Row>& b)
+    {
+        return std::equal(a.begin(), a.end(), b.begin(), b.end(),
+                          [](const Row& left, const Row& right) { return left.key() == right.key(); });
+    }
+
+    /// The rows of one table of which the other has none.
+    static std::vector<size_t> missingIn(const std::vector<Row>& table, const std::vector<Row>& other)
+    {
+        std::vector<size_t> missing;
+        if (haveSameKeys(table, other))
+            return missing;
+        QSet<KeyOf> present;
+        present.reserve(static_cast<qsizetype>(other.size()));
+        for (const Row& row : other)
+            present.insert(row.key());
+        for (size_t i = 0; i < table.size(); ++i) {
+            if (!present.contains(table[i].key()))
+                missing.push_back(i);
+        }
+        return missing;
+    }
 
     size_t runsOf(const std::vector<bool>& marked) const
     {

@@ -24,6 +24,7 @@
 #include <QTreeView>
 #include <algorithm>
 #include <tuple>
+#include <utility>
 
 namespace {
 
@@ -54,6 +55,9 @@ QString freeSubpartId(const NodeImpl* subpart)
 SubpartListView::SubpartListView(QWidget* parent, const QString& name)
     : ListEditor(parent, name), m_model(new SubpartModel(this)), m_classes(new QMenu(this))
 {
+    // Before the view hears of it.
+    connect(m_model, &SubpartModel::rowsAboutToBeRemoved, this,
+            [this] { m_losing = m_losing || (m_bound && !m_chosen.empty()); });
     view()->setModel(m_model);
     view()->header()->hide();
     view()->setDragDropMode(QAbstractItemView::InternalMove);
@@ -148,6 +152,10 @@ void SubpartListView::onSynced()
             rows.append(row);
     }
     m_toSelect.clear();
+    // When what was chosen is gone, its neighbour is: the fields below go on showing something.
+    const bool lost = std::exchange(m_losing, false) && !view()->selectionModel()->hasSelection();
+    if (rows.isEmpty() && lost && m_model->rowCount() > 0)
+        rows.append(qMax(0, view()->currentIndex().row()));
     if (!rows.isEmpty())
         selectRows(rows);
     updateActions();
@@ -158,7 +166,7 @@ void SubpartListView::onSynced()
 
 void SubpartListView::follow()
 {
-    if (!m_bound)
+    if (!m_bound || m_losing)
         return;
     std::vector<InstanceId> chosen;
     for (const int row : selectedRows())
@@ -320,6 +328,7 @@ void SubpartListView::moveRows(const QList<int>& rows, int before)
     const QList<int> order = rowDrag::orderAfter(m_model->rowCount(), rows, before);
     if (!document || !isWriteable() || std::is_sorted(order.begin(), order.end()))
         return;
+    setMessage({});
     const std::vector<SubpartRow> listed = m_model->rows();
     const auto lastMoved = std::find(order.begin(), order.end(), rows.back());
     const bool atEnd = lastMoved + 1 == order.end();

@@ -75,4 +75,5 @@ private:
     std::vector<InstanceId> m_toSelect; // when they appear
     bool m_supportsMultipleProps = true;
     bool m_bound = false;
+    bool m_losing = false; // rows go, and what was chosen perhaps with them
 };

@@ -51,6 +51,7 @@ void ValueMapModel::setMap(const ValueMap& map)
         const bool again = !rows.empty() && rows.back().name == name;
         rows.push_back({name, again ? rows.back().number + 1 : 0, value});
     }
+    followRenames(rows);
     setRows(std::move(rows));
 }
 

@@ -10,6 +10,7 @@
 #include <QAbstractItemModelTester>
 #include <QDropEvent>
 #include <QFile>
+#include <QItemSelectionModel>
 #include <QLabel>
 #include <QMimeData>
 #include <QProgressDialog>
@@ -238,7 +239,9 @@ TEST_F(ResourceEditorsTest, ListOperationsAreOneStepEach)
     EXPECT_EQ(resource(second, "picture").toString(), QString("local/alpha"));
     EXPECT_TRUE(resource(second, "picture").isValid());
     EXPECT_FALSE(document.resource("local/a").isValid());
+    EXPECT_TRUE(list.view()->hasFocus());
     expectOneStepSince(used, steps + 1);
+    EXPECT_TRUE(list.view()->selectionModel()->isRowSelected(0)); // under the old name again
     for (const char* wrong : {"b", "", "x/y"}) {
         list.view()->setCurrentIndex(list.model()->index(0, 0));
         press(list, Qt::Key_F2);

@@ -154,6 +154,7 @@ TEST_F(SubpartEditorsTest, EachOperationIsOneStep)
     EXPECT_EQ(subpartIds(second), subpartIds(part));
     EXPECT_EQ(idOf(list.selectedSubpart().impl()), QString("pin1"));
     expectOneStepSince(before, steps);
+    EXPECT_EQ(idOf(list.selectedSubpart().impl()), QString("right")); // its neighbour, now that it is gone
 
     list.view()->setCurrentIndex(list.model()->index(0, 0));
     press(list, Qt::Key_F2);
@@ -339,6 +340,13 @@ TEST_F(SubpartEditorsTest, AMessageTakesItsOwnRoomAndGoesWithTheNextSuccess)
     EXPECT_GT(list.sizeHint().height(), height);
     EXPECT_LT(list.sizeHint().height(), height + 4 * list.fontMetrics().height());
     EXPECT_LT(list.heightForWidth(list.width()), height + 4 * list.fontMetrics().height());
+    Q_EMIT list.model()->moveAsked({0}, 2);
+    EXPECT_EQ(list.message(), QString());
+    document.undo();
+    QCoreApplication::processEvents();
+    press(list, Qt::Key_F2);
+    typeInPlace(list.view(), "right");
+    ASSERT_FALSE(list.message().isEmpty());
     press(list, Qt::Key_F2);
     typeInPlace(list.view(), "west");
     EXPECT_EQ(list.message(), QString());

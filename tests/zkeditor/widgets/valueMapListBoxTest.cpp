@@ -5,6 +5,7 @@
 #include <QAbstractItemModelTester>
 #include <QComboBox>
 #include <QHeaderView>
+#include <QItemSelectionModel>
 #include <QScrollBar>
 #include <QTreeView>
 #include <memory>
@@ -65,6 +66,7 @@ TEST_F(ValueMapListBoxTest, EachOperationIsOneStep)
     EXPECT_EQ(property(part, "table")->getValue(), map({{"a", string("x")}, {"b", whole(2)}, {"c", whole(10)}}));
     EXPECT_EQ(box.view()->currentIndex().row(), 2);
     expectOneStepSince(before, steps);
+    EXPECT_TRUE(box.view()->selectionModel()->isRowSelected(2)); // under the old key again
 
     edit(box, 0, 0, "b"); // a third of that name
     EXPECT_EQ(property(part, "table")->getValue(), map({{"b", string("x")}, {"b", whole(2)}, {"b", whole(10)}}));
