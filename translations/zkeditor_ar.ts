@@ -3197,10 +3197,6 @@ The file is now %2.</source>
         <translation>ال&amp;لغة:</translation>
     </message>
     <message>
-        <source>For documents that are opened from now on.</source>
-        <translation>للمستندات التي تُفتح من الآن فصاعدًا.</translation>
-    </message>
-    <message>
         <source>Show lengths &amp;in:</source>
         <translation>عرض الأ&amp;طوال بوحدة:</translation>
     </message>
@@ -3231,6 +3227,10 @@ The file is now %2.</source>
     <message>
         <source>What these settings do</source>
         <translation>ما تفعله هذه الإعدادات</translation>
+    </message>
+    <message>
+        <source>The unit in which fields of lengths begin; each of them offers the others as well.</source>
+        <translation>الوحدة التي تبدأ بها حقول الأطوال، ويعرض كل حقل الوحدات الأخرى أيضًا.</translation>
     </message>
 </context>
 <context>

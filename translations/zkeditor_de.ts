@@ -3145,10 +3145,6 @@ Die Datei ist jetzt %2.</translation>
         <translation>&amp;Sprache:</translation>
     </message>
     <message>
-        <source>For documents that are opened from now on.</source>
-        <translation>Für Dokumente, die von nun an geöffnet werden.</translation>
-    </message>
-    <message>
         <source>Show lengths &amp;in:</source>
         <translation>&amp;Längen zeigen in:</translation>
     </message>
@@ -3179,6 +3175,10 @@ Die Datei ist jetzt %2.</translation>
     <message>
         <source>What these settings do</source>
         <translation>Was diese Einstellungen bewirken</translation>
+    </message>
+    <message>
+        <source>The unit in which fields of lengths begin; each of them offers the others as well.</source>
+        <translation>Die Einheit, mit der Längenfelder beginnen; jedes bietet auch die anderen an.</translation>
     </message>
 </context>
 <context>

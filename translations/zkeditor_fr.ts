@@ -3145,10 +3145,6 @@ Le fichier est maintenant %2.</translation>
         <translation>&amp;Langue :</translation>
     </message>
     <message>
-        <source>For documents that are opened from now on.</source>
-        <translation>Pour les documents ouverts à partir de maintenant.</translation>
-    </message>
-    <message>
         <source>Show lengths &amp;in:</source>
         <translation>Montrer les lon&amp;gueurs en :</translation>
     </message>
@@ -3179,6 +3175,10 @@ Le fichier est maintenant %2.</translation>
     <message>
         <source>What these settings do</source>
         <translation>Ce que font ces réglages</translation>
+    </message>
+    <message>
+        <source>The unit in which fields of lengths begin; each of them offers the others as well.</source>
+        <translation>L’unité avec laquelle commencent les champs de longueur ; chacun propose aussi les autres.</translation>
     </message>
 </context>
 <context>

@@ -39,7 +39,7 @@ void showAboutBox(QWidget* parent, const LicenceManager& licence)
         auto* label = new QLabel(text);
         label->setTextFormat(Qt::PlainText);
         label->setWordWrap(true);
-        label->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+        label->setTextInteractionFlags(Qt::TextSelectableByMouse);
         layout->addWidget(label);
     };
     addText(AboutTexts::tr("zkauthor %1").arg(QStringLiteral(ZK_VERSION)));

@@ -6,6 +6,7 @@
 #include "zkauthor/flowchartBar.h"
 #include "zkauthor/helpWindow.h"
 #include "zkauthor/insertMenu.h"
+#include "zkauthor/layoutKeeper.h"
 #include "zkauthor/notices.h"
 #include "zkauthor/palettes.h"
 #include "zkauthor/partEditor.h"
@@ -22,21 +23,26 @@
 #include "zkcore/model/documentImpl.h"
 #include "zkcore/model/view.h"
 #include "zkcore/services/crashHandler.h"
+#include "zkcore/values/preferredUnits.h"
 #include "zkeditor/dialogs/addCustomPart.h"
 #include "zkeditor/duplication.h"
 #include "zkeditor/license/licenceDialog.h"
 #include "zkeditor/license/licenceManager.h"
 #include "zkeditor/settingsService.h"
 #include "zkeditor/sidePane.h"
+#include "zkeditor/widgets/mnemonics.h"
 #include "zkeditor/widgets/readablePalette.h"
 
+#include <QAbstractButton>
 #include <QAction>
 #include <QApplication>
 #include <QClipboard>
 #include <QCloseEvent>
+#include <QDockWidget>
 #include <QLabel>
 #include <QLocale>
 #include <QMenu>
+#include <QMenuBar>
 #include <QMessageBox>
 #include <QScopedValueRollback>
 #include <QStatusBar>
@@ -69,8 +75,25 @@ MainWindow::MainWindow(QWidget* parent, std::shared_ptr<DocumentFiles> files)
     addToolBar(m_flowcharts);
     m_actions->addBadge(this);
     m_palettes->addEntriesTo(m_actions->viewMenu);
+    new LayoutKeeper(this);
+    // The menu bar and the tabs keep their letters, whatever forms come into the palettes.
+    const QString letters = ownLetters();
+    mnemonics::reserve(letters);
+    for (QDockWidget* palette : findChildren<QDockWidget*>(QString(), Qt::FindDirectChildrenOnly))
+        mnemonics::remove(palette, letters);
     connectActions();
     setDocument(m_files->document());
+}
+
+QString MainWindow::ownLetters() const
+{
+    QString letters;
+    const auto add = [&letters](const QString& text) { letters += QKeySequence::mnemonic(text).toString().right(1); };
+    for (const QAction* menu : menuBar()->actions())
+        add(menu->text());
+    for (const QAbstractButton* button : m_tabs->findChildren<QAbstractButton*>())
+        add(button->text());
+    return letters;
 }
 
 MainWindow::~MainWindow()
@@ -512,10 +535,13 @@ void MainWindow::editPreferences()
 {
     m_palettes->commitPendingEdit();
     const QString language = Preferences::read().language;
+    const std::vector<Unit> unitsBefore = preferredUnits();
     const std::optional<Preferences> chosen = Preferences::edit(this);
     if (!chosen)
         return;
     applyPreferences();
+    if (preferredUnits() != unitsBefore)
+        m_document->followPreferredUnits(unitsBefore);
     if (chosen->language != language)
         Q_EMIT languageChosen(chosen->language);
 }

@@ -66,6 +66,8 @@ protected:
 private:
     void connectActions();
     void setDocument(DocumentImpl* document);
+    /// The underlined letters of the menu bar and of what stands above the scenes, upper case.
+    QString ownLetters() const;
     void fillInsertMenu();
     void showError(const QString& text, const QString& reason);
     void about();

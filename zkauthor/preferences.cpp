@@ -149,8 +149,8 @@ std::optional<Preferences> Preferences::edit(QWidget* parent)
         preferencesText(QT_TRANSLATE_NOOP("Preferences", "The language of all texts, and how numbers are written.")));
     form->addRow(preferencesText(QT_TRANSLATE_NOOP("Preferences", "&Language:")), language);
     QComboBox* lengths = choiceBox(lengthUnits, preferences.lengthUnit);
-    lengths->setToolTip(
-        preferencesText(QT_TRANSLATE_NOOP("Preferences", "For documents that are opened from now on.")));
+    lengths->setToolTip(preferencesText(QT_TRANSLATE_NOOP(
+        "Preferences", "The unit in which fields of lengths begin; each of them offers the others as well.")));
     form->addRow(preferencesText(QT_TRANSLATE_NOOP("Preferences", "Show lengths &in:")), lengths);
     auto* undoLimit = new QSpinBox;
     undoLimit->setRange(0, greatestUndoLimit);

@@ -8,6 +8,7 @@
 #include "zkeditor/propertyTable.h"
 #include "zkeditor/statisticsPane.h"
 #include "zkeditor/widgets/paletteBox.h"
+#include "zkeditor/widgets/paneScrollArea.h"
 
 #include <QLabel>
 #include <QVBoxLayout>
@@ -42,7 +43,8 @@ void DebugPalette::resetCaption()
 
 void DebugPalette::setupTopLevelWidgets()
 {
-    m_box = new PaletteBox(PaletteBox::StandardStyle, this);
+    auto* area = new PaneScrollArea(this);
+    m_box = new PaletteBox(PaletteBox::StandardStyle, area);
     m_box->setChildResize(true);
     connect(m_box, &PaletteBox::layoutChanged, this, &DebugPalette::onChildLayoutChanged);
 
@@ -66,7 +68,8 @@ void DebugPalette::setupTopLevelWidgets()
     m_box->addItem(new MessagesPane, tr("Messages"));
     for (int item = 1; item < m_box->count(); ++item)
         m_box->showItem(item, false);
-    setWidget(m_box);
+    area->setWidget(m_box);
+    dockLayout()->addWidget(area);
     selectionChanged();
 }
 

@@ -2,6 +2,7 @@
 
 #include "zkeditor/formDescription.h"
 #include "zkeditor/formFactory.h"
+#include "zkeditor/widgets/mnemonics.h"
 
 #include <QBuffer>
 #include <QCoreApplication>
@@ -64,5 +65,8 @@ QWidget* FormLoader::loadForm(const QByteArray& form, QWidget* parent)
     QBuffer device;
     device.setData(form);
     device.open(QIODevice::ReadOnly);
-    return m_reader->load(&device, parent);
+    QWidget* loaded = m_reader->load(&device, parent);
+    if (loaded)
+        mnemonics::remove(loaded, mnemonics::reserved());
+    return loaded;
 }

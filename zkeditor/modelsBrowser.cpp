@@ -58,7 +58,6 @@ ModelsBrowser::ModelsBrowser(QWidget* parent)
     layout->setSpacing(4);
     layout->addLayout(buttons);
     layout->addWidget(m_view, 1);
-    setFocusProxy(m_view);
 
     readFolders();
     updateActions();

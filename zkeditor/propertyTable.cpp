@@ -69,6 +69,9 @@ PropertyTable::PropertyTable(QWidget* parent)
     m_view->setSortingEnabled(true);
     for (int column = 0; column < PropertyTableModel::ColumnCount; ++column)
         m_view->setColumnWidth(column, std::max(letters[column] * letter, header->sectionSizeHint(column)));
+    // What one looks for stands beside its name: a narrow palette shows no more than these.
+    header->moveSection(header->visualIndex(PropertyTableModel::ValueColumn), 1);
+    header->moveSection(header->visualIndex(PropertyTableModel::UnitColumn), 2);
     m_view->sortByColumn(-1, Qt::AscendingOrder); // as the class has them, until a heading is clicked
 
     auto* copyAction = new QAction(tr("&Copy"), this);

@@ -259,10 +259,10 @@ void SettingsService::restore()
     qWarning("SettingsService: The layout of the dock windows in %s cannot be used", qPrintable(keyDockWindows));
 }
 
-void SettingsService::write()
+bool SettingsService::write()
 {
-    writeWidgetState(m_window);
-    writeSetting(keyDockWindows, Value(QString::fromLatin1(m_window->saveState().toBase64())));
+    const bool written = writeWidgetState(m_window);
+    return writeSetting(keyDockWindows, Value(QString::fromLatin1(m_window->saveState().toBase64()))) && written;
 }
 
 std::vector<QString> SettingsService::readList(const QString& key) const

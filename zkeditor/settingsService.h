@@ -29,6 +29,7 @@ public:
     static SettingsService* createService(QMainWindow* window, const QString& productKey, QSettings::Scope scope);
     /// Another main window takes the first one's place; it must be as that had to be.
     void setWindow(QMainWindow* window);
+    const QMainWindow* window() const { return m_window; }
     /// Fatal before createService().
     static SettingsService* instance();
     /// For widgets that also live without a service (in a form designer, say).
@@ -38,8 +39,9 @@ public:
     /// fit the desktop any more is replaced by the default. A window that was maximised is shown; other windows are
     /// not. A layout of docks that cannot be understood leaves them as they are, with a warning.
     void restore();
-    /// Keeps the main window's place, size and docks. Call it before the window closes.
-    void write();
+    /// Keeps the main window's place, size and docks; false when any of it was refused. Call it before the window
+    /// closes.
+    bool write();
 
     /// The value kept under the key ("/Group/Name"), of the default's type; the default, with a warning, when there is
     /// none or it is of another type. The default must be an INT, DOUBLE, BOOL, STRING or STRINGVECTOR; other types are

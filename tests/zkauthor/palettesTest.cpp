@@ -3,6 +3,7 @@
 
 #include "tests/support/testDocument.h"
 #include "windowTest.h"
+#include "zkauthor/layoutKeeper.h"
 #include "zkauthor/sceneView.h"
 #include "zkauthor/spaceTabs.h"
 #include "zkeditor/advancedPalette.h"
@@ -10,12 +11,17 @@
 #include "zkeditor/debugPalette.h"
 #include "zkeditor/inspector.h"
 #include "zkeditor/lockPalette.h"
+#include "zkeditor/modelsBrowser.h"
 #include "zkeditor/partsTree.h"
 #include "zkeditor/propPalette.h"
+#include "zkeditor/settingsService.h"
 #include "zkeditor/sidePane.h"
+#include "zkeditor/widgets/paletteBox.h"
+#include "zkeditor/widgets/plusMinusButton.h"
 
 #include <QAccessible>
 #include <QApplication>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
 #include <QMenuBar>
@@ -423,4 +429,69 @@ TEST_F(PalettesTest, InspectorFollowsUndo)
     keys(Qt::Key_Escape);
     QTest::keyClick(inspector, Qt::Key_Escape);
     EXPECT_FALSE(inspector->isVisible());
+}
+
+TEST_F(PalettesTest, NeverMakeTheWindowLargerThanASmallScreen)
+{
+    m_window->resize(1000, 700);
+    document().setSelection({part("lamp1")});
+    set(property(part("lamp1"), "id"), Value(QString(200, QLatin1Char('W'))));
+    set(property(part("lamp1"), "title"), Value(QString(200, QLatin1Char('W'))));
+    for (EditPalette* palette : all()) {
+        palette->show();
+        for (PaletteBox* box : palette->findChildren<PaletteBox*>()) {
+            for (int i = 0; i < box->count(); ++i)
+                box->showItem(i, true);
+        }
+        QApplication::processEvents();
+        QApplication::processEvents();
+        EXPECT_EQ(m_window->size(), QSize(1000, 700)) << palette->objectName().toStdString();
+        palette->setVisible(palette == m_window->palettes()->sidePane());
+    }
+}
+
+TEST_F(PalettesTest, PlusOfTheModelsIsReachedByTab)
+{
+    m_window->palettes()->sidePane()->showSection(SidePane::ModelsPane, true);
+    QApplication::processEvents();
+    view().setFocus();
+    EXPECT_TRUE(tabReaches(m_window->palettes()->sidePane()->getModelsBrowser()->findChild<PlusMinusButton*>()));
+}
+
+TEST_F(PalettesTest, ALetterOfTheMenuBarOpensItsMenuWhateverAFormSays)
+{
+    clickPart("lamp1");
+    QSet<QString> letters;
+    for (const QAction* menu : m_window->menuBar()->actions())
+        letters.insert(QKeySequence::mnemonic(menu->text()).toString());
+    EXPECT_EQ(letters.size(), m_window->menuBar()->actions().size());
+    for (const QLabel* label : properties()->findChildren<QLabel*>())
+        EXPECT_FALSE(label->buddy() && letters.contains(QKeySequence::mnemonic(label->text()).toString()))
+            << label->text().toStdString();
+    for (const QAbstractButton* button : properties()->findChildren<QAbstractButton*>())
+        EXPECT_FALSE(letters.contains(button->shortcut().toString())) << button->text().toStdString();
+}
+
+TEST_F(PalettesTest, LayoutIsWrittenSoonAfterItChanged)
+{
+    SettingsService& service = *SettingsService::instance();
+    service.setWindow(m_window.get());
+    m_window->findChild<LayoutKeeper*>()->setDelay(0);
+    m_window->setGeometry(40, 30, 710, 650);
+    QTest::qWait(30);
+    EXPECT_EQ(service.readSetting(QStringLiteral("/mainWindow/width"), Value(0)).toInt(), 710);
+    const QString before = service.readSetting(QStringLiteral("/DockWindows"), Value(QString())).toQString();
+    m_window->findChild<LockPalette*>()->show();
+    QTest::qWait(30);
+    const QString after = service.readSetting(QStringLiteral("/DockWindows"), Value(QString())).toQString();
+    EXPECT_NE(after, before);
+    // Another run with these settings comes up alike.
+    MainWindow next;
+    service.setWindow(&next);
+    service.restore();
+    EXPECT_EQ(next.size(), QSize(710, 650));
+    EXPECT_FALSE(next.findChild<LockPalette*>()->isHidden());
+    static auto* const owner = new QMainWindow;
+    owner->setObjectName(QStringLiteral("settingsOwner"));
+    service.setWindow(owner);
 }

@@ -208,8 +208,8 @@ TEST_F(PrintingTest, PreferencesAreKeptAndTakeEffect)
     EXPECT_EQ(messages.warnings(), QStringList());
     ASSERT_EQ(preferredUnits().size(), 1u);
 
-    // At once for the document, its numbers when they are shown for the first time.
-    EXPECT_EQ(unitOfPosition("lamp1"), "mm");
+    // At once for the document, those of its numbers too that were shown before.
+    EXPECT_EQ(unitOfPosition("lamp1"), "in");
     EXPECT_EQ(unitOfPosition("lamp2"), "in");
     for (int i = 0; i < 5; ++i)
         addPart(document(), "electronics/led");

@@ -7,9 +7,11 @@
 #include "zkcore/commands/setNodeIndexCommand.h"
 #include "zkcore/model/coreKeys.h"
 #include "zkeditor/propertyTable.h"
+#include "zkeditor/propertyTableModel.h"
 
 #include <QHeaderView>
 #include <QSplitter>
+#include <QTableView>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTreeWidget>
@@ -80,6 +82,12 @@ TEST_F(InspectorTest, ShowsEveryNodeAndTheFirstOnesProperties)
     EXPECT_EQ(tree->headerItem()->text(2), QStringLiteral("InstanceId"));
     EXPECT_EQ(table->node(), Node(document.getModel()));
     inspector.show();
+    // What things are and what they are like can be seen without making the window larger.
+    const auto* properties = table->findChild<QTableView*>();
+    const QHeaderView* columns = properties->horizontalHeader();
+    const int letter = properties->fontMetrics().averageCharWidth();
+    EXPECT_LE(columns->sectionViewportPosition(PropertyTableModel::ValueColumn) + 8 * letter,
+              properties->viewport()->width());
     tree->setFocus();
     QTest::keyClick(tree, Qt::Key_Down);
     EXPECT_EQ(table->node(), Node(firstScene(document)));

@@ -7,16 +7,19 @@
 #include "zkcore/model/modelMutator.h"
 #include "zkcore/model/nodeRegistry.h"
 #include "zkcore/model/nodeSnapshot.h"
+#include "zkcore/model/propertyImpl.h"
 #include "zkcore/model/undoStep.h"
 #include "zkcore/services/crashHandler.h"
 #include "zkcore/services/statistic.h"
 #include "zkcore/storage/documentFile.h"
 #include "zkcore/storage/durableFile.h"
 #include "zkcore/storage/package.h"
+#include "zkcore/values/formatter.h"
 
 #include <QElapsedTimer>
 #include <QFile>
 #include <QFileInfo>
+#include <QPointer>
 #include <QSaveFile>
 #include <QScopedValueRollback>
 #include <QUndoStack>
@@ -367,6 +370,29 @@ void DocumentImpl::setUndoLimit(int steps)
     m_undoLimit = std::max(steps, 0);
     if (m_undoStack->count() == 0)
         m_undoStack->setUndoLimit(m_undoLimit);
+}
+
+void DocumentImpl::followPreferredUnits(const std::vector<Unit>& before)
+{
+    // Only what was shown has a formatter; the others begin with the units when they are. Whoever hears of a change may
+    // do away with anything.
+    std::vector<QPointer<PropertyImpl>> shown;
+    std::vector<std::pair<ClassId, NodeImpl::PropertyStore*>> stores;
+    for (NodeImpl* node : m_registry->all()) {
+        stores.clear();
+        node->collectStores(stores);
+        for (const auto& [domain, store] : stores) {
+            for (const auto& [index, property] : store->objects) {
+                if (property->m_formatter)
+                    shown.emplace_back(property);
+            }
+        }
+    }
+    for (const QPointer<PropertyImpl>& property : shown) {
+        auto* formatter = property ? dynamic_cast<NumericalFormatter*>(property->m_formatter.get()) : nullptr;
+        if (formatter)
+            formatter->followPreferredUnits(before);
+    }
 }
 
 void DocumentImpl::setCommandListener(CommandListener listener)

@@ -81,6 +81,10 @@ public:
     /// or the package cannot be written.
     bool addCustomPartDefinition(unsigned int cid, PartImpl* part, const QString& label);
 
+    /// Shows all values in the preferred units anew, to be called after setPreferredUnits(); `before` are the units
+    /// preferred until then. Units that the user chose for single values, of those that either names, go as well.
+    void followPreferredUnits(const std::vector<Unit>& before);
+
     // Selection
     ElementImplSet getSelection() const { return m_selection; }
     /// Emits SelectionChanged() when it differs. Elements of other documents and dead pointers are left out.

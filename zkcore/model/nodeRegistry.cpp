@@ -3,6 +3,7 @@
 #include "zkcore/model/coreKeys.h"
 
 #include <algorithm>
+#include <iterator>
 
 void NodeRegistry::enter(NodeImpl* node)
 {
@@ -50,6 +51,16 @@ void NodeRegistry::leave(NodeImpl* node)
             leaveTextId(text, id);
     }
     m_connections.erase(id);
+}
+
+std::vector<NodeImpl*> NodeRegistry::all() const
+{
+    std::vector<NodeImpl*> nodes;
+    nodes.reserve(m_count);
+    std::copy_if(m_dense.begin(), m_dense.end(), std::back_inserter(nodes), [](const NodeImpl* node) { return node; });
+    for (const auto& [id, node] : m_sparse)
+        nodes.push_back(node);
+    return nodes;
 }
 
 InstanceId NodeRegistry::highestId() const

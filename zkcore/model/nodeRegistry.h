@@ -21,6 +21,7 @@ public:
     }
     size_t count() const { return m_count; }
     InstanceId highestId() const;
+    std::vector<NodeImpl*> all() const; ///< in no particular order
 
     /// The node has its values; nodes below it are entered by themselves.
     void enter(NodeImpl* node);

@@ -18,6 +18,17 @@ std::vector<Unit>& ownPreferredUnits()
     return units;
 }
 
+/// The first of the liked units that is offered; null when none is.
+const Unit* mostLiked(const std::vector<Unit>& liked, const std::vector<Unit>& offered)
+{
+    for (const Unit& unit : liked) {
+        const auto found = std::find(offered.begin(), offered.end(), unit);
+        if (found != offered.end())
+            return &*found;
+    }
+    return nullptr;
+}
+
 /// The SI value of a typed number or expression in the unit shown; nothing when it is none or not finite.
 std::optional<double> typedNumber(const QString& text, const Unit& shown)
 {
@@ -122,14 +133,8 @@ NumericalFormatter::NumericalFormatter(Value::Type type, std::shared_ptr<const N
     : Formatter(type), m_format(format ? std::move(format) : std::make_shared<const NumericalFormat>()),
       m_unit(m_format->unit)
 {
-    const std::vector<Unit>& offered = m_format->units;
-    for (const Unit& unit : ownPreferredUnits()) {
-        const auto found = std::find(offered.begin(), offered.end(), unit);
-        if (found != offered.end()) {
-            m_unit = *found;
-            break;
-        }
-    }
+    if (const Unit* unit = mostLiked(ownPreferredUnits(), m_format->units))
+        m_unit = *unit;
 }
 
 bool NumericalFormatter::setCurrentUnit(const Unit& unit)
@@ -140,11 +145,26 @@ bool NumericalFormatter::setCurrentUnit(const Unit& unit)
     const auto found = std::find(offered.begin(), offered.end(), unit);
     if (found == offered.end())
         return false;
-    m_unit = *found;
+    change(*found);
+    return true;
+}
+
+void NumericalFormatter::followPreferredUnits(const std::vector<Unit>& before)
+{
+    const Unit* liked = mostLiked(ownPreferredUnits(), m_format->units);
+    if (!liked && !mostLiked(before, m_format->units))
+        return; // no preference was ever about it
+    const Unit unit = liked ? *liked : m_format->unit;
+    if (!(unit == m_unit))
+        change(unit);
+}
+
+void NumericalFormatter::change(const Unit& unit)
+{
+    m_unit = unit;
     // Whoever hears of the change may do away with the property, and with it this formatter.
     if (const std::function<void()> changed = m_changed)
         changed();
-    return true;
 }
 
 QString NumericalFormatter::toText(const Value& value) const

@@ -55,6 +55,9 @@ public:
     /// Chooses the unit shown for this property. Units that are not offered are refused (returns false). A change is
     /// told to the property, which emits formatterChanged().
     bool setCurrentUnit(const Unit& unit);
+    /// Begins anew with the preferred units, if one of the preferred, or of those preferred before, is offered here.
+    /// A change is told as by setCurrentUnit().
+    void followPreferredUnits(const std::vector<Unit>& before);
 
     /// Set by the property that owns the formatter; called after the current unit changed.
     void setChangeHandler(std::function<void()> handler) { m_changed = std::move(handler); }
@@ -65,6 +68,8 @@ public:
     Value fromText(const QString& text) const override;
 
 private:
+    void change(const Unit& unit);
+
     std::shared_ptr<const NumericalFormat> m_format;
     Unit m_unit;
     std::function<void()> m_changed;
