@@ -6,6 +6,7 @@
 #include "zkcore/values/expressionParser.h"
 #include "zkeditor/widgets/checkBox.h"
 #include "zkeditor/widgets/comboBox.h"
+#include "zkeditor/widgets/lineEdit.h"
 #include "zkeditor/widgets/poReceiver.h"
 #include "zkeditor/widgets/toolAction.h"
 
@@ -17,10 +18,10 @@
 #include <QGridLayout>
 #include <QKeyEvent>
 #include <QLabel>
-#include <QLineEdit>
 #include <QListView>
 #include <QLocale>
 #include <QToolButton>
+#include <algorithm>
 #include <cmath>
 #include <memory>
 
@@ -68,7 +69,7 @@ FontChooser::FontChooser(QWidget* parent, const QString& name)
     m_family->setFocusPolicy(Qt::StrongFocus);
     m_family->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     m_family->setMinimumContentsLength(8);
-    m_size->setEditable(true);
+    m_size->setLineEdit(new LineEdit(m_size, QStringLiteral("sizeEdit")));
     m_size->setInsertPolicy(QComboBox::NoInsert);
     m_size->setCompleter(nullptr);
     for (const int points : QFontDatabase::standardSizes())
@@ -187,7 +188,7 @@ void FontChooser::onPropertyValueChanged(Property, Value)
     m_family->setPlaceholderText(family); // of a family that is not installed here; an empty one chooses the first item
     m_family->setCurrentIndex(common[Family].isValid() ? m_family->findText(family) : -1);
     if (!m_size->lineEdit()->isModified() || !m_size->lineEdit()->hasFocus()) {
-        m_size->setEditText(common[Size].isValid() ? pointsText(common[Size].toDouble()) : QString());
+        showSize(common[Size]);
         m_size->lineEdit()->setModified(false);
         showSizeError({});
     }
@@ -197,6 +198,15 @@ void FontChooser::onPropertyValueChanged(Property, Value)
     m_sample->setFont(fontFrom(m_props.front()->getValue().toValueMap()));
     m_sample->setFixedHeight(qBound(leastSampleHeight, m_sample->fontMetrics().height() + 8, mostSampleHeight));
     m_sample->setEnabled(hasCompatibleValues()); // of the first only
+}
+
+void FontChooser::showSize(const Value& size)
+{
+    // The list opens at the greatest size that is not above, and the arrow keys go on from there.
+    const QList<int> offered = QFontDatabase::standardSizes();
+    const auto above = std::upper_bound(offered.begin(), offered.end(), size.toDouble() / metresPerPoint + 0.05);
+    m_size->setCurrentIndex(size.isValid() ? static_cast<int>(above - offered.begin()) - 1 : -1);
+    m_size->setEditText(size.isValid() ? pointsText(size.toDouble()) : QString());
 }
 
 // Editing
@@ -302,10 +312,12 @@ void FontChooser::openDialog()
 {
     if (m_props.empty() || !isPropertyWriteable())
         return;
-    const QFont before = fontFrom(m_props.front()->getValue().toValueMap());
     const QPointer<POReceiver> alive(m_receiver);
     const unsigned int binding = bindingNumber();
-    const QPointer<QFontDialog> dialog(new QFontDialog(before, window()));
+    const QFont font = fontFrom(m_props.front()->getValue().toValueMap());
+    const QPointer<QFontDialog> dialog(new QFontDialog(font, window()));
+    // It knows whole sizes only, and the styles that the family names itself.
+    const QFont before = dialog->currentFont();
     const bool accepted = dialog->exec() == QDialog::Accepted;
     const QFont after = dialog ? dialog->selectedFont() : before;
     delete dialog;

@@ -64,6 +64,7 @@ private:
     bool readSize(Value* size) const;
     void onSizeEdited();
     void commitSize();
+    void showSize(const Value& size);
     void showSizeError(const QString& reason);
 
     QFontComboBox* m_family;

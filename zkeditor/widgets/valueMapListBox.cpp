@@ -14,9 +14,31 @@
 #include <QTreeView>
 #include <tuple>
 
+namespace {
+
+/// Numbers by their size, and before texts.
+class EntryOrder : public QSortFilterProxyModel
+{
+public:
+    using QSortFilterProxyModel::QSortFilterProxyModel;
+
+protected:
+    bool lessThan(const QModelIndex& left, const QModelIndex& right) const override
+    {
+        const auto isNumber = [this](const QModelIndex& index) {
+            return index.data(sortRole()).typeId() == QMetaType::Double;
+        };
+        if (isNumber(left) != isNumber(right))
+            return isNumber(left);
+        return QSortFilterProxyModel::lessThan(left, right);
+    }
+};
+
+} // namespace
+
 ValueMapListBox::ValueMapListBox(QWidget* parent, const QString& name)
     : ListEditor(parent, name), PropertyObserver(this, Value::VALUEMAP), m_model(new ValueMapModel(this)),
-      m_sorted(new QSortFilterProxyModel(this))
+      m_sorted(new EntryOrder(this))
 {
     m_sorted->setSourceModel(m_model);
     m_sorted->setSortRole(Qt::UserRole);

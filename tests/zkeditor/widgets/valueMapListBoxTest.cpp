@@ -133,6 +133,22 @@ TEST_F(ValueMapListBoxTest, KindsAreChosenAndConvertWhatCanBeConverted)
     EXPECT_EQ(property(part, "table")->getValue(), map({{"n", Value(QColor(Qt::black))}}));
 }
 
+TEST_F(ValueMapListBoxTest, NumbersAreSortedByTheirSizeAndBeforeTexts)
+{
+    PartImpl* part = rack();
+    set(property(part, "table"), map({{"a", string("3 cups")},
+                                      {"b", whole(10)},
+                                      {"c", Value(true)},
+                                      {"d", Value(2.5)},
+                                      {"e", string("10")},
+                                      {"f", whole(3)}}));
+    auto& box = tableOf({part});
+    box.view()->sortByColumn(ValueMapModel::ValueColumn, Qt::AscendingOrder);
+    EXPECT_EQ(shown(box), QStringList({"d=2.5", "f=3", "b=10", "e=10", "a=3 cups", "c=true"}));
+    box.view()->sortByColumn(ValueMapModel::ValueColumn, Qt::DescendingOrder);
+    EXPECT_EQ(shown(box), QStringList({"c=true", "a=3 cups", "e=10", "b=10", "f=3", "d=2.5"}));
+}
+
 TEST_F(ValueMapListBoxTest, SeveralNodes)
 {
     PartImpl* first = rack();
