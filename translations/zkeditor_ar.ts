@@ -802,6 +802,78 @@ Please enter another id</source>
         <source>Indigo</source>
         <translation>نيلي</translation>
     </message>
+    <message>
+        <source>Dark red</source>
+        <translation>أحمر داكن</translation>
+    </message>
+    <message>
+        <source>Light red</source>
+        <translation>أحمر فاتح</translation>
+    </message>
+    <message>
+        <source>Light orange</source>
+        <translation>برتقالي فاتح</translation>
+    </message>
+    <message>
+        <source>Dark yellow</source>
+        <translation>أصفر داكن</translation>
+    </message>
+    <message>
+        <source>Light yellow</source>
+        <translation>أصفر فاتح</translation>
+    </message>
+    <message>
+        <source>Dark green</source>
+        <translation>أخضر داكن</translation>
+    </message>
+    <message>
+        <source>Light green</source>
+        <translation>أخضر فاتح</translation>
+    </message>
+    <message>
+        <source>Dark cyan</source>
+        <translation>سماوي داكن</translation>
+    </message>
+    <message>
+        <source>Light cyan</source>
+        <translation>سماوي فاتح</translation>
+    </message>
+    <message>
+        <source>Dark blue</source>
+        <translation>أزرق داكن</translation>
+    </message>
+    <message>
+        <source>Light blue</source>
+        <translation>أزرق فاتح</translation>
+    </message>
+    <message>
+        <source>Dark violet</source>
+        <translation>بنفسجي داكن</translation>
+    </message>
+    <message>
+        <source>Light violet</source>
+        <translation>بنفسجي فاتح</translation>
+    </message>
+    <message>
+        <source>Dark magenta</source>
+        <translation>أرجواني داكن</translation>
+    </message>
+    <message>
+        <source>Dark grey</source>
+        <translation>رمادي داكن</translation>
+    </message>
+    <message>
+        <source>Light grey</source>
+        <translation>رمادي فاتح</translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <translation>%1، %2</translation>
+    </message>
+    <message>
+        <source>Transparent</source>
+        <translation>شفاف</translation>
+    </message>
 </context>
 <context>
     <name>ColorPopup</name>
@@ -4127,6 +4199,10 @@ The file is now %2.</source>
         <source>--run takes seconds up to %1, not &quot;%2&quot;.</source>
         <translation>يتطلب --run عددًا من الثواني حتى %1، وليس &quot;%2&quot;.</translation>
     </message>
+    <message>
+        <source>Let the picture show a palette alone: lockPalette, assocPalette, advancedPalette, debugPalette or inspector.</source>
+        <translation>يُظهر في الصورة لوحة وحدها: lockPalette أو assocPalette أو advancedPalette أو debugPalette أو inspector.</translation>
+    </message>
 </context>
 <context>
     <name>StatisticsPane</name>
@@ -4610,6 +4686,10 @@ The file is now %2.</source>
     <message>
         <source>There is no dialog &quot;%1&quot; for what is selected.</source>
         <translation>لا يوجد مربع حوار &quot;%1&quot; لما هو محدد.</translation>
+    </message>
+    <message>
+        <source>There is no palette &quot;%1&quot;.</source>
+        <translation>لا توجد لوحة «%1».</translation>
     </message>
 </context>
 </TS>

@@ -798,6 +798,78 @@ Bitte geben Sie eine andere Kennung ein</translation>
         <source>Indigo</source>
         <translation>Indigo</translation>
     </message>
+    <message>
+        <source>Dark red</source>
+        <translation>Dunkelrot</translation>
+    </message>
+    <message>
+        <source>Light red</source>
+        <translation>Hellrot</translation>
+    </message>
+    <message>
+        <source>Light orange</source>
+        <translation>Hellorange</translation>
+    </message>
+    <message>
+        <source>Dark yellow</source>
+        <translation>Dunkelgelb</translation>
+    </message>
+    <message>
+        <source>Light yellow</source>
+        <translation>Hellgelb</translation>
+    </message>
+    <message>
+        <source>Dark green</source>
+        <translation>Dunkelgrün</translation>
+    </message>
+    <message>
+        <source>Light green</source>
+        <translation>Hellgrün</translation>
+    </message>
+    <message>
+        <source>Dark cyan</source>
+        <translation>Dunkles Cyan</translation>
+    </message>
+    <message>
+        <source>Light cyan</source>
+        <translation>Helles Cyan</translation>
+    </message>
+    <message>
+        <source>Dark blue</source>
+        <translation>Dunkelblau</translation>
+    </message>
+    <message>
+        <source>Light blue</source>
+        <translation>Hellblau</translation>
+    </message>
+    <message>
+        <source>Dark violet</source>
+        <translation>Dunkelviolett</translation>
+    </message>
+    <message>
+        <source>Light violet</source>
+        <translation>Hellviolett</translation>
+    </message>
+    <message>
+        <source>Dark magenta</source>
+        <translation>Dunkles Magenta</translation>
+    </message>
+    <message>
+        <source>Dark grey</source>
+        <translation>Dunkelgrau</translation>
+    </message>
+    <message>
+        <source>Light grey</source>
+        <translation>Hellgrau</translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <translation>%1, %2</translation>
+    </message>
+    <message>
+        <source>Transparent</source>
+        <translation>Durchsichtig</translation>
+    </message>
 </context>
 <context>
     <name>ColorPopup</name>
@@ -4055,6 +4127,10 @@ Die Datei ist jetzt %2.</translation>
         <source>--run takes seconds up to %1, not &quot;%2&quot;.</source>
         <translation>--run erwartet Sekunden bis %1, nicht „%2“.</translation>
     </message>
+    <message>
+        <source>Let the picture show a palette alone: lockPalette, assocPalette, advancedPalette, debugPalette or inspector.</source>
+        <translation>Zeigt im Bild allein eine Palette: lockPalette, assocPalette, advancedPalette, debugPalette oder inspector.</translation>
+    </message>
 </context>
 <context>
     <name>StatisticsPane</name>
@@ -4530,6 +4606,10 @@ Die Datei ist jetzt %2.</translation>
     <message>
         <source>There is no dialog &quot;%1&quot; for what is selected.</source>
         <translation>Für die Auswahl gibt es keinen Dialog „%1“.</translation>
+    </message>
+    <message>
+        <source>There is no palette &quot;%1&quot;.</source>
+        <translation>Es gibt keine Palette „%1“.</translation>
     </message>
 </context>
 </TS>

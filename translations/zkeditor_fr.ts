@@ -798,6 +798,78 @@ Veuillez en saisir un autre</translation>
         <source>Indigo</source>
         <translation>Indigo</translation>
     </message>
+    <message>
+        <source>Dark red</source>
+        <translation>Rouge foncé</translation>
+    </message>
+    <message>
+        <source>Light red</source>
+        <translation>Rouge clair</translation>
+    </message>
+    <message>
+        <source>Light orange</source>
+        <translation>Orange clair</translation>
+    </message>
+    <message>
+        <source>Dark yellow</source>
+        <translation>Jaune foncé</translation>
+    </message>
+    <message>
+        <source>Light yellow</source>
+        <translation>Jaune clair</translation>
+    </message>
+    <message>
+        <source>Dark green</source>
+        <translation>Vert foncé</translation>
+    </message>
+    <message>
+        <source>Light green</source>
+        <translation>Vert clair</translation>
+    </message>
+    <message>
+        <source>Dark cyan</source>
+        <translation>Cyan foncé</translation>
+    </message>
+    <message>
+        <source>Light cyan</source>
+        <translation>Cyan clair</translation>
+    </message>
+    <message>
+        <source>Dark blue</source>
+        <translation>Bleu foncé</translation>
+    </message>
+    <message>
+        <source>Light blue</source>
+        <translation>Bleu clair</translation>
+    </message>
+    <message>
+        <source>Dark violet</source>
+        <translation>Violet foncé</translation>
+    </message>
+    <message>
+        <source>Light violet</source>
+        <translation>Violet clair</translation>
+    </message>
+    <message>
+        <source>Dark magenta</source>
+        <translation>Magenta foncé</translation>
+    </message>
+    <message>
+        <source>Dark grey</source>
+        <translation>Gris foncé</translation>
+    </message>
+    <message>
+        <source>Light grey</source>
+        <translation>Gris clair</translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <translation>%1, %2</translation>
+    </message>
+    <message>
+        <source>Transparent</source>
+        <translation>Transparent</translation>
+    </message>
 </context>
 <context>
     <name>ColorPopup</name>
@@ -3178,7 +3250,7 @@ Le fichier est maintenant %2.</translation>
     </message>
     <message>
         <source>The unit in which fields of lengths begin; each of them offers the others as well.</source>
-        <translation>L’unité avec laquelle commencent les champs de longueur ; chacun propose aussi les autres.</translation>
+        <translation>L&apos;unité avec laquelle commencent les champs de longueur ; chacun propose aussi les autres.</translation>
     </message>
 </context>
 <context>
@@ -4055,6 +4127,10 @@ Le fichier est maintenant %2.</translation>
         <source>--run takes seconds up to %1, not &quot;%2&quot;.</source>
         <translation>--run attend des secondes jusqu’à %1, pas « %2 ».</translation>
     </message>
+    <message>
+        <source>Let the picture show a palette alone: lockPalette, assocPalette, advancedPalette, debugPalette or inspector.</source>
+        <translation>Montre dans l&apos;image une palette seule : lockPalette, assocPalette, advancedPalette, debugPalette ou inspector.</translation>
+    </message>
 </context>
 <context>
     <name>StatisticsPane</name>
@@ -4530,6 +4606,10 @@ Le fichier est maintenant %2.</translation>
     <message>
         <source>There is no dialog &quot;%1&quot; for what is selected.</source>
         <translation>Il n’y a pas de dialogue « %1 » pour la sélection.</translation>
+    </message>
+    <message>
+        <source>There is no palette &quot;%1&quot;.</source>
+        <translation>Il n&apos;y a pas de palette « %1 ».</translation>
     </message>
 </context>
 </TS>

@@ -6,11 +6,13 @@
 #include "zkauthor/palettes.h"
 #include "zkauthor/startOptions.h"
 #include "zkcore/services/flowchartRunner.h"
+#include "zkeditor/inspector.h"
 #include "zkeditor/propPalette.h"
 #include "zkeditor/sidePane.h"
 
 #include <QAction>
 #include <QApplication>
+#include <QDockWidget>
 #include <QImageWriter>
 #include <QPixmap>
 #include <QScrollArea>
@@ -19,6 +21,9 @@
 #include <algorithm>
 
 namespace {
+
+constexpr int paletteWidth = 330;
+constexpr int leastHeight = 420; // of a window in which one palette is shown
 
 /// Makes the window so high that nothing in the widget needs to be scrolled.
 void showWhole(QWidget& window, const QWidget& widget)
@@ -61,6 +66,25 @@ QPixmap pictureOfDialog(const MainWindow& window, const QString& entry)
     return picture;
 }
 
+/// The palette of that name, or the inspector, with as much height as its contents have; null when there is none.
+QWidget* showPalette(MainWindow& window, const QString& name)
+{
+    if (name == QLatin1String("inspector")) {
+        window.palettes()->showInspector();
+        return window.findChild<Inspector*>();
+    }
+    auto* palette = window.findChild<QDockWidget*>(name, Qt::FindDirectChildrenOnly);
+    if (!palette)
+        return nullptr;
+    for (QDockWidget* dock : window.findChildren<QDockWidget*>(QString(), Qt::FindDirectChildrenOnly))
+        dock->setVisible(dock == palette);
+    window.resize(window.width(), leastHeight);
+    window.resizeDocks({palette}, {paletteWidth}, Qt::Horizontal);
+    QCoreApplication::processEvents();
+    showWhole(window, *palette);
+    return palette;
+}
+
 } // namespace
 
 bool takeScreenshot(const StartOptions& options, QString& error)
@@ -92,6 +116,14 @@ bool takeScreenshot(const StartOptions& options, QString& error)
         }
     }
     QWidget* shown = &window;
+    if (!options.palette.isEmpty()) {
+        shown = showPalette(window, options.palette);
+        if (!shown) {
+            error = QCoreApplication::translate("screenshot", "There is no palette \"%1\".").arg(options.palette);
+            return false;
+        }
+        QCoreApplication::processEvents();
+    }
     if (options.forms) {
         SidePane* pane = window.palettes()->sidePane();
         pane->showSection(SidePane::PartsTreePane, false);

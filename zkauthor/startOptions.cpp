@@ -80,7 +80,12 @@ bool StartOptions::parse(const QCoreApplication& application, StartOptions& opti
     const QCommandLineOption runOption(QStringLiteral("run"),
                                        StartTexts::tr("Run the flowcharts for so many seconds before the picture."),
                                        QStringLiteral("seconds"));
-    parser.addOptions({dialogOption, runOption});
+    const QCommandLineOption paletteOption(
+        QStringLiteral("palette"),
+        StartTexts::tr("Let the picture show a palette alone: lockPalette, assocPalette, advancedPalette, debugPalette "
+                       "or inspector."),
+        QStringLiteral("name"));
+    parser.addOptions({dialogOption, paletteOption, runOption});
     parser.addOption(formsOption);
     parser.addOption(darkOption);
     const QCommandLineOption checkFormOption(
@@ -149,6 +154,7 @@ bool StartOptions::parse(const QCoreApplication& application, StartOptions& opti
     options.forms = parser.isSet(formsOption);
     options.dark = parser.isSet(darkOption);
     options.dialog = parser.value(dialogOption);
+    options.palette = parser.value(paletteOption);
     if (parser.isSet(runOption)) {
         bool number = false;
         options.runTime = parser.value(runOption).toDouble(&number);
@@ -159,7 +165,7 @@ bool StartOptions::parse(const QCoreApplication& application, StartOptions& opti
             return false;
         }
     }
-    for (const QCommandLineOption& option : {selectOption, formsOption, dialogOption, runOption}) {
+    for (const QCommandLineOption& option : {selectOption, formsOption, dialogOption, paletteOption, runOption}) {
         if (parser.isSet(option) && options.screenshot.isEmpty()) {
             error = StartTexts::tr("--%1 only works together with --screenshot.").arg(option.names().constFirst());
             return false;

@@ -26,6 +26,8 @@ struct StartOptions
     bool forms = false;
     /// The object name of the menu entry whose dialog the picture shows instead of the window; empty for none.
     QString dialog;
+    /// The object name of the palette that the picture shows instead of the window; empty for none.
+    QString palette;
     /// For how many seconds of model time the flowcharts run before the picture is taken; 0 for not at all.
     double runTime = 0.0;
     /// Whether the program takes dark colours, whatever those of the desktop are.

@@ -74,9 +74,10 @@ void AssocPalette::setupTopLevelWidgets()
     auto* layout = new QVBoxLayout(body);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(0);
-    m_heading = new LeadingLabel({}, body);
-    m_heading->setMargin(8);
-    m_heading->setWordWrap(true);
+    auto* heading = new LeadingLabel({}, body);
+    heading->setMargin(8);
+    heading->wrapInGivenWidth();
+    m_heading = heading;
     layout->addWidget(m_heading);
     layout->addWidget(m_box, 1);
     m_links = addList(tr("Links"));
@@ -151,6 +152,7 @@ void AssocPalette::refresh()
         ElementImpl& element = **selection.begin();
         const Associations found(element);
         m_heading->setText(element.displayName());
+        m_heading->setToolTip(m_heading->text());
         m_links->setAssociations(found.links);
         m_subparts->setAssociations(found.subparts);
         m_reflections->setAssociations(found.reflections);
@@ -159,6 +161,7 @@ void AssocPalette::refresh()
     } else {
         m_heading->setText(selection.empty() ? tr("Select a part to see what it has to do with.")
                                              : tr("Multiple parts selected"));
+        m_heading->setToolTip({});
         for (AssociationList* list : {m_links, m_subparts, m_reflections, m_popup})
             list->setAssociations({});
         m_newLink->setElement(nullptr);

@@ -7,6 +7,7 @@
 #include "zkeditor/perfMeter.h"
 #include "zkeditor/propertyTable.h"
 #include "zkeditor/statisticsPane.h"
+#include "zkeditor/widgets/leadingLabel.h"
 #include "zkeditor/widgets/paletteBox.h"
 #include "zkeditor/widgets/paneScrollArea.h"
 
@@ -49,9 +50,9 @@ void DebugPalette::setupTopLevelWidgets()
     connect(m_box, &PaletteBox::layoutChanged, this, &DebugPalette::onChildLayoutChanged);
 
     auto* properties = new QWidget;
-    m_selected = new QLabel;
-    m_selected->setTextFormat(Qt::PlainText);
-    m_selected->setWordWrap(true);
+    auto* selected = new LeadingLabel;
+    selected->wrapInGivenWidth();
+    m_selected = selected;
     m_table = new PropertyTable;
     m_table->setMinimumHeight(fontMetrics().height() * 9);
     auto* column = new QVBoxLayout(properties);
@@ -95,6 +96,7 @@ void DebugPalette::selectionChanged()
     if (selection.empty()) {
         m_table->setNode(Node());
         m_selected->setText(tr("Nothing is selected."));
+        m_selected->setToolTip({});
         return;
     }
     const ElementImpl* first = *selection.begin();
@@ -104,6 +106,7 @@ void DebugPalette::selectionChanged()
     m_selected->setText(selection.size() == 1
                             ? name
                             : tr("%1 (the first of %2 selected)").arg(name, QString::number(selection.size())));
+    m_selected->setToolTip(m_selected->text());
     m_table->setNode(Node(*selection.begin()));
 }
 

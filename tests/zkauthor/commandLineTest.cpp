@@ -111,6 +111,8 @@ TEST_F(CommandLineTest, FaultsAreToldOnStandardError)
          "zkauthor: --run takes seconds up to 600, not \"soon\".\n"},
         {{"--screenshot", "x.png", "--dialog", "save-custom-part", path("sample.zkdoc")},
          "zkauthor: There is no dialog \"save-custom-part\" for what is selected.\n"},
+        {{"--screenshot", "x.png", "--palette", "sun", path("sample.zkdoc")},
+         "zkauthor: There is no palette \"sun\".\n"},
         {{"--screenshot", "x.png", "a", "b"}, "zkauthor: Only one document can be opened, but 2 were given.\n"},
     };
     for (const auto& [arguments, message] : cases) {

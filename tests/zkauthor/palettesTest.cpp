@@ -445,6 +445,7 @@ TEST_F(PalettesTest, NeverMakeTheWindowLargerThanASmallScreen)
         }
         QApplication::processEvents();
         QApplication::processEvents();
+        EXPECT_LE(palette->minimumSizeHint().width(), 350) << palette->objectName().toStdString();
         EXPECT_EQ(m_window->size(), QSize(1000, 700)) << palette->objectName().toStdString();
         palette->setVisible(palette == m_window->palettes()->sidePane());
     }

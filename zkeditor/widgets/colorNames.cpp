@@ -6,6 +6,7 @@
 #include <QRegularExpression>
 #include <QWidget>
 #include <algorithm>
+#include <cmath>
 #include <iterator>
 
 namespace {
@@ -44,6 +45,55 @@ constexpr NamedColor standardColorTable[] = {
     {QT_TRANSLATE_NOOP("ColorNames", "Indigo"), 0xff4b0082},
 };
 
+struct Hue
+{
+    double end; // the first angle, in degrees, that is the next one's
+    const char* dark;
+    const char* plain;
+    const char* light;
+};
+
+constexpr Hue hueTable[] = {
+    {15, QT_TRANSLATE_NOOP("ColorNames", "Dark red"), QT_TRANSLATE_NOOP("ColorNames", "Red"),
+     QT_TRANSLATE_NOOP("ColorNames", "Light red")},
+    {45, QT_TRANSLATE_NOOP("ColorNames", "Brown"), QT_TRANSLATE_NOOP("ColorNames", "Orange"),
+     QT_TRANSLATE_NOOP("ColorNames", "Light orange")},
+    {70, QT_TRANSLATE_NOOP("ColorNames", "Dark yellow"), QT_TRANSLATE_NOOP("ColorNames", "Yellow"),
+     QT_TRANSLATE_NOOP("ColorNames", "Light yellow")},
+    {165, QT_TRANSLATE_NOOP("ColorNames", "Dark green"), QT_TRANSLATE_NOOP("ColorNames", "Green"),
+     QT_TRANSLATE_NOOP("ColorNames", "Light green")},
+    {200, QT_TRANSLATE_NOOP("ColorNames", "Dark cyan"), QT_TRANSLATE_NOOP("ColorNames", "Cyan"),
+     QT_TRANSLATE_NOOP("ColorNames", "Light cyan")},
+    {255, QT_TRANSLATE_NOOP("ColorNames", "Dark blue"), QT_TRANSLATE_NOOP("ColorNames", "Blue"),
+     QT_TRANSLATE_NOOP("ColorNames", "Light blue")},
+    {290, QT_TRANSLATE_NOOP("ColorNames", "Dark violet"), QT_TRANSLATE_NOOP("ColorNames", "Violet"),
+     QT_TRANSLATE_NOOP("ColorNames", "Light violet")},
+    {345, QT_TRANSLATE_NOOP("ColorNames", "Dark magenta"), QT_TRANSLATE_NOOP("ColorNames", "Magenta"),
+     QT_TRANSLATE_NOOP("ColorNames", "Pink")},
+    {361, QT_TRANSLATE_NOOP("ColorNames", "Dark red"), QT_TRANSLATE_NOOP("ColorNames", "Red"),
+     QT_TRANSLATE_NOOP("ColorNames", "Light red")},
+};
+
+const char* lookOf(const QColor& color)
+{
+    const double light = color.lightnessF();
+    // In between the darkest and the lightest, how far the channels are apart is what one sees of a hue.
+    const double chroma = color.hslSaturationF() * (1 - std::abs(2 * light - 1));
+    if (chroma < 0.08) {
+        if (light < 0.08)
+            return QT_TRANSLATE_NOOP("ColorNames", "Black");
+        if (light > 0.95)
+            return QT_TRANSLATE_NOOP("ColorNames", "White");
+        return light < 0.4   ? QT_TRANSLATE_NOOP("ColorNames", "Dark grey")
+               : light < 0.7 ? QT_TRANSLATE_NOOP("ColorNames", "Grey")
+                             : QT_TRANSLATE_NOOP("ColorNames", "Light grey");
+    }
+    const double angle = color.hslHueF() * 360;
+    const Hue& hue = *std::find_if(std::begin(hueTable), std::end(hueTable) - 1,
+                                   [angle](const Hue& each) { return angle < each.end; });
+    return light < 0.35 ? hue.dark : light > 0.7 ? hue.light : hue.plain;
+}
+
 QString translatedName(const NamedColor& color)
 {
     return QCoreApplication::translate("ColorNames", color.name);
@@ -71,6 +121,17 @@ QString nameOf(const QColor& color)
     if (known != std::end(standardColorTable))
         return translatedName(*known);
     return color.name(color.alpha() == 255 ? QColor::HexRgb : QColor::HexArgb);
+}
+
+QString describe(const QColor& color)
+{
+    const QString name = nameOf(color);
+    if (!name.startsWith(QLatin1Char('#')))
+        return name;
+    return QCoreApplication::translate("ColorNames", "%1, %2")
+        .arg(color.alpha() == 0 ? QCoreApplication::translate("ColorNames", "Transparent")
+                                : QCoreApplication::translate("ColorNames", lookOf(color)),
+             name);
 }
 
 QColor colorNamed(const QString& text)

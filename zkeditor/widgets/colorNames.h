@@ -19,6 +19,10 @@ ZKEDITOR_EXPORT const std::vector<QColor>& standardColors();
 /// The translated name of a standard colour, else "#rrggbb", with "#aarrggbb" for one that is not opaque.
 ZKEDITOR_EXPORT QString nameOf(const QColor& color);
 
+/// The same for those who do not see the colour, or not well: of one without a name, what it looks like ("Dark red,
+/// #8b1a1a").
+ZKEDITOR_EXPORT QString describe(const QColor& color);
+
 /// The colour that a text names: a standard colour in the user's language, any colour name of the web, or hexadecimal
 /// digits with or without '#'. The invalid colour for other texts.
 ZKEDITOR_EXPORT QColor colorNamed(const QString& text);

@@ -70,7 +70,7 @@ void ColorPopup::addColors(const QString& title, const std::vector<QColor>& colo
 QToolButton* ColorPopup::makeButton(const QColor& color, bool current)
 {
     auto* button = new QToolButton(this);
-    const QString name = colorNames::nameOf(color);
+    const QString name = colorNames::describe(color);
     button->setIconSize(gridSwatch);
     button->setIcon(colorNames::swatch(color, gridSwatch, *this));
     button->setToolTip(name);

@@ -13,6 +13,14 @@ void LeadingLabel::align()
     setAlignment((isRightToLeft() ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignAbsolute | Qt::AlignVCenter);
 }
 
+void LeadingLabel::wrapInGivenWidth()
+{
+    setWordWrap(true);
+    QSizePolicy policy = sizePolicy();
+    policy.setHorizontalPolicy(QSizePolicy::Ignored);
+    setSizePolicy(policy);
+}
+
 void LeadingLabel::changeEvent(QEvent* event)
 {
     QLabel::changeEvent(event);

@@ -10,6 +10,9 @@ class LeadingLabel : public QLabel
 public:
     explicit LeadingLabel(const QString& text = {}, QWidget* parent = nullptr);
 
+    /// Wraps the text, and never asks for the room of a word that is longer than the line: names come from documents.
+    void wrapInGivenWidth();
+
 protected:
     void changeEvent(QEvent* event) override;
 

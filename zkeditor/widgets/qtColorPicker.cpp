@@ -45,7 +45,7 @@ void QtColorPicker::setColor(const QColor& color)
 void QtColorPicker::showSwatch()
 {
     setIcon(colorNames::swatch(m_color, pickerSwatch, *this));
-    const QString name = m_color.isValid() ? colorNames::nameOf(m_color) : tr("Different colours");
+    const QString name = m_color.isValid() ? colorNames::describe(m_color) : tr("Different colours");
     setToolTip(name);
     setAccessibleDescription(name);
 }

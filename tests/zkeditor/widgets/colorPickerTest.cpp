@@ -40,6 +40,27 @@ QColor colorOf(NodeImpl* node, const char* key = "tint")
 
 using ColorPickerTest = ControlsTest;
 
+TEST_F(ColorPickerTest, ColoursWithoutANameAreDescribed)
+{
+    const std::pair<const char*, const char*> cases[] = {
+        {"#ff0000", "Red"},
+        {"#f03a2e", "Red, #f03a2e"},
+        {"#8b1a1a", "Dark red, #8b1a1a"},
+        {"#f03a50", "Red, #f03a50"}, // on the other side of the circle
+        {"#ffae1a", "Orange, #ffae1a"},
+        {"#6b4a20", "Brown, #6b4a20"},
+        {"#abcdef", "Light blue, #abcdef"},
+        {"#33cc55", "Green, #33cc55"},
+        {"#010203", "Black, #010203"},
+        {"#fefefd", "White, #fefefd"},
+        {"#d3d3d4", "Light grey, #d3d3d4"},
+        {"#80ff0000", "Red, #80ff0000"},
+        {"#00ffffff", "Transparent, #00ffffff"},
+    };
+    for (const auto& [color, description] : cases)
+        EXPECT_EQ(colorNames::describe(QColor(color)).toStdString(), description);
+}
+
 TEST_F(ColorPickerTest, NamesAreReadAsTheyAreWritten)
 {
     for (const QColor& color : colorNames::standardColors()) {
@@ -80,9 +101,17 @@ TEST_F(ColorPickerTest, TheGridIsWalkedByKeyboard)
     {
         Qt::Key key;
         const char* name;
-    } moves[] = {{Qt::Key_Right, "Orange"}, {Qt::Key_Up, "Dim grey"},  {Qt::Key_End, "Pink"},    {Qt::Key_Right, "Red"},
-                 {Qt::Key_Left, "Pink"},    {Qt::Key_Down, "Magenta"}, {Qt::Key_Down, "Indigo"}, {Qt::Key_Down, "Lime"},
-                 {Qt::Key_Home, "#102030"}, {Qt::Key_Down, ""},        {Qt::Key_Up, "#102030"}};
+    } moves[] = {{Qt::Key_Right, "Orange"},
+                 {Qt::Key_Up, "Dim grey"},
+                 {Qt::Key_End, "Pink"},
+                 {Qt::Key_Right, "Red"},
+                 {Qt::Key_Left, "Pink"},
+                 {Qt::Key_Down, "Magenta"},
+                 {Qt::Key_Down, "Indigo"},
+                 {Qt::Key_Down, "Lime"},
+                 {Qt::Key_Home, "Dark blue, #102030"},
+                 {Qt::Key_Down, ""},
+                 {Qt::Key_Up, "Dark blue, #102030"}};
     for (const auto& move : moves) {
         QTest::keyClick(picker.popup()->focusWidget(), move.key);
         EXPECT_EQ(focusedName(), QString(move.name));
@@ -114,7 +143,7 @@ TEST_F(ColorPickerTest, OffersWhatTheDocumentUsesAndTheDialog)
     const auto swatches = picker.picker()->popup()->findChildren<QToolButton*>();
     for (const QToolButton* swatch : swatches)
         names << swatch->accessibleName();
-    EXPECT_EQ(names.count("#abcdef"), 1);
+    EXPECT_EQ(names.count("Light blue, #abcdef"), 1);
     EXPECT_EQ(names.count("Lime"), 2); // a standard one, and in use
 
     QTest::mouseClick(picker.picker()->popup()->findChild<QPushButton*>("more"), Qt::LeftButton);
