@@ -4,6 +4,7 @@
 
 #include <QAbstractItemView>
 #include <QGuiApplication>
+#include <QHash>
 #include <QKeyEvent>
 #include <QPlainTextEdit>
 #include <QStyleHints>
@@ -11,7 +12,7 @@
 #include <QTextEdit>
 #include <QWidget>
 #include <algorithm>
-#include <set>
+#include <utility>
 #include <vector>
 
 namespace {
@@ -19,24 +20,20 @@ namespace {
 using Stops = std::vector<QWidget*>;
 
 /// Compound controls hand the focus on to a child, and it is the child that Tab stops at.
-bool isTabStop(const QWidget* widget)
-{
-    return (widget->focusPolicy() & Qt::TabFocus) && !widget->focusProxy();
-}
-
-bool canStopNow(const QWidget* stop)
+bool canStopNow(const QWidget* widget)
 {
     const int policy =
         QGuiApplication::styleHints()->tabFocusBehavior() == Qt::TabFocusAllControls ? Qt::TabFocus : Qt::StrongFocus;
-    return (stop->focusPolicy() & policy) == policy && stop->isEnabled() && stop->isVisibleTo(stop->window());
+    return (widget->focusPolicy() & policy) == policy && !widget->focusProxy() && widget->isEnabled() &&
+           widget->isVisibleTo(widget->window());
 }
 
 /// The box around a widget that is nearest to the ancestor, which is none itself; null when there is none.
-PaletteBox* boxBelow(const QWidget* ancestor, QWidget* widget)
+const PaletteBox* boxBelow(const QWidget* ancestor, const QWidget* widget)
 {
-    PaletteBox* found = nullptr;
-    for (QWidget* outer = widget->parentWidget(); outer && outer != ancestor; outer = outer->parentWidget()) {
-        if (auto* box = qobject_cast<PaletteBox*>(outer))
+    const PaletteBox* found = nullptr;
+    for (const QWidget* outer = widget->parentWidget(); outer && outer != ancestor; outer = outer->parentWidget()) {
+        if (const auto* box = qobject_cast<const PaletteBox*>(outer))
             found = box;
     }
     return found;
@@ -44,45 +41,55 @@ PaletteBox* boxBelow(const QWidget* ancestor, QWidget* widget)
 
 void appendArranged(const Stops& stops, const QWidget* ancestor, Stops& arranged);
 
+/// The header and the content of each item in turn; first what else stands in the box.
 void appendBox(const Stops& stops, const PaletteBox& box, Stops& arranged)
 {
-    const auto isInItem = [&box](const QWidget* stop) {
-        for (int i = 0; i < box.count(); ++i) {
-            if (box.item(i) && box.item(i)->parentWidget()->isAncestorOf(stop))
-                return true;
-        }
-        return false;
+    struct Item
+    {
+        Stops header;
+        Stops content;
     };
-    std::remove_copy_if(stops.begin(), stops.end(), std::back_inserter(arranged), isInItem);
-    for (int i = 0; i < box.count(); ++i) {
-        const QWidget* content = box.item(i);
-        const QWidget* item = content ? content->parentWidget() : nullptr;
-        if (!item)
-            continue;
-        Stops inContent;
-        for (QWidget* stop : stops) {
-            if (stop == content || content->isAncestorOf(stop))
-                inContent.push_back(stop);
-            else if (item->isAncestorOf(stop))
-                arranged.push_back(stop);
+    QHash<const QWidget*, Item> items;
+    for (QWidget* stop : stops) {
+        const QWidget* inItem = stop;
+        const QWidget* item = stop->parentWidget();
+        while (item != &box && item->parentWidget() != &box) {
+            inItem = item;
+            item = item->parentWidget();
         }
-        appendArranged(inContent, item, arranged);
+        if (item == &box)
+            arranged.push_back(stop);
+        else if (box.indexOf(inItem) >= 0)
+            items[item].content.push_back(stop);
+        else
+            items[item].header.push_back(stop);
+    }
+    for (int i = 0; i < box.count(); ++i) {
+        const QWidget* item = box.item(i) ? box.item(i)->parentWidget() : nullptr;
+        const auto found = items.constFind(item);
+        if (found == items.constEnd())
+            continue;
+        arranged.insert(arranged.end(), found->header.begin(), found->header.end());
+        appendArranged(found->content, item, arranged);
     }
 }
 
 void appendArranged(const Stops& stops, const QWidget* ancestor, Stops& arranged)
 {
-    std::set<const PaletteBox*> passed;
+    QHash<const PaletteBox*, Stops> inBoxes;
+    std::vector<std::pair<QWidget*, const PaletteBox*>> order; // a stop, or a box with all that is in it
     for (QWidget* stop : stops) {
         const PaletteBox* box = boxBelow(ancestor, stop);
-        if (!box) {
+        if (!box || !inBoxes.contains(box))
+            order.emplace_back(stop, box);
+        if (box)
+            inBoxes[box].push_back(stop);
+    }
+    for (const auto& [stop, box] : order) {
+        if (box)
+            appendBox(inBoxes[box], *box, arranged);
+        else
             arranged.push_back(stop);
-        } else if (passed.insert(box).second) {
-            Stops inBox;
-            std::copy_if(stops.begin(), stops.end(), std::back_inserter(inBox),
-                         [box](const QWidget* each) { return box->isAncestorOf(each); });
-            appendBox(inBox, *box, arranged);
-        }
     }
 }
 
@@ -94,7 +101,7 @@ QWidget* paletteTabOrder::toolkitNext(QWidget& from, bool forward)
         return forward ? widget->nextInFocusChain() : widget->previousInFocusChain();
     };
     QWidget* widget = after(&from);
-    while (widget && widget != &from && !(isTabStop(widget) && canStopNow(widget)))
+    while (widget && widget != &from && !canStopNow(widget))
         widget = after(widget);
     return widget != &from ? widget : nullptr;
 }
@@ -105,7 +112,7 @@ QWidget* paletteTabOrder::next(QWidget& from, bool forward)
     Stops stops;
     for (QWidget* widget = window->nextInFocusChain(); widget && widget != window;
          widget = widget->nextInFocusChain()) {
-        if (isTabStop(widget) || widget == &from)
+        if (canStopNow(widget) || widget == &from)
             stops.push_back(widget);
     }
     Stops arranged;
@@ -115,8 +122,7 @@ QWidget* paletteTabOrder::next(QWidget& from, bool forward)
     const auto here = std::find(arranged.begin(), arranged.end(), &from);
     if (here != arranged.end())
         std::rotate(arranged.begin(), here + 1, arranged.end()); // the widget itself comes last
-    const auto found = std::find_if(arranged.begin(), arranged.end(), canStopNow);
-    return found != arranged.end() && *found != &from ? *found : nullptr;
+    return arranged.empty() || arranged.front() == &from ? nullptr : arranged.front();
 }
 
 bool paletteTabOrder::leaves(const QWidget& widget, const QKeyEvent& key)
