@@ -23,8 +23,11 @@ public:
     {
         const bool isPart = node->kind() == NodeKind::Part;
         const bool isSubpart = node->kind() == NodeKind::Subpart;
-        const QString name = isSubpart ? parentName + QStringLiteral(" / ") + m_names.of(node) : m_names.of(node);
-        for (const Offer& offer : offeredBy(node->prototype()))
+        const std::vector<Offer>& offers = offeredBy(node->prototype());
+        QString name;
+        if (!offers.empty() || node->childCount() > 0) // most subparts have neither
+            name = isSubpart ? parentName + QStringLiteral(" / ") + m_names.of(node) : m_names.of(node);
+        for (const Offer& offer : offers)
             rows.push_back({{node->instanceId(), INVALID_CID, offer.key}, name, offer.label});
         if (auto* space = qobject_cast<SpaceImpl*>(node))
             lookAtDomains(space);
