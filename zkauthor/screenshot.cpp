@@ -6,19 +6,24 @@
 #include "zkauthor/palettes.h"
 #include "zkauthor/startOptions.h"
 #include "zkcore/services/flowchartRunner.h"
+#include "zkeditor/debugPalette.h"
 #include "zkeditor/inspector.h"
 #include "zkeditor/propPalette.h"
 #include "zkeditor/sidePane.h"
+#include "zkeditor/widgets/paletteBox.h"
 
 #include <QAction>
 #include <QApplication>
 #include <QDockWidget>
+#include <QImage>
 #include <QImageWriter>
+#include <QPainter>
 #include <QPixmap>
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QTimer>
 #include <algorithm>
+#include <vector>
 
 namespace {
 
@@ -66,6 +71,36 @@ QPixmap pictureOfDialog(const MainWindow& window, const QString& entry)
     return picture;
 }
 
+/// All sections of the forms as if each were open, though one at a time is.
+QPixmap pictureOfSections(QWidget& window, QWidget& forms)
+{
+    const auto boxes = forms.findChildren<PaletteBox*>();
+    const auto found = std::find_if(boxes.begin(), boxes.end(), [](const PaletteBox* box) { return box->count() > 1; });
+    if (found == boxes.end())
+        return forms.grab();
+    PaletteBox& box = **found;
+    std::vector<QImage> slices;
+    int height = 0;
+    for (int i = 0; i < box.count(); ++i) {
+        box.showItem(i, true);
+        QCoreApplication::processEvents();
+        showWhole(window, forms);
+        const QImage whole = forms.grab().toImage();
+        const QWidget* section = box.item(i)->parentWidget();
+        const int top = section->mapTo(&forms, QPoint()).y();
+        const int begin = i == 0 ? 0 : top; // what stands above all of them
+        slices.push_back(whole.copy(0, begin, whole.width(), top + section->height() - begin));
+        height += slices.back().height();
+    }
+    QPixmap all(slices.front().width(), height);
+    QPainter painter(&all);
+    for (int y = 0; const QImage& slice : slices) {
+        painter.drawImage(0, y, slice);
+        y += slice.height();
+    }
+    return all;
+}
+
 /// The palette of that name, or the inspector, with as much height as its contents have; null when there is none.
 QWidget* showPalette(MainWindow& window, const QString& name)
 {
@@ -80,6 +115,13 @@ QWidget* showPalette(MainWindow& window, const QString& name)
         dock->setVisible(dock == palette);
     window.resize(window.width(), leastHeight);
     window.resizeDocks({palette}, {paletteWidth}, Qt::Horizontal);
+    // What the debugging palette measures is never the same twice.
+    if (!qobject_cast<DebugPalette*>(palette)) {
+        for (PaletteBox* box : palette->findChildren<PaletteBox*>()) {
+            for (int i = 0; i < box->count(); ++i)
+                box->showItem(i, true);
+        }
+    }
     QCoreApplication::processEvents();
     showWhole(window, *palette);
     return palette;
@@ -131,7 +173,7 @@ bool takeScreenshot(const StartOptions& options, QString& error)
         pane->showSection(SidePane::PropertiesPane, true);
         QCoreApplication::processEvents();
         shown = window.palettes()->properties()->widget();
-        showWhole(window, *shown);
+        picture = pictureOfSections(window, *shown);
     }
     writer.setCompression(100);
     if (picture.isNull())
