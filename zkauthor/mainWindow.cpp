@@ -535,7 +535,8 @@ void MainWindow::editPreferences()
 {
     m_palettes->commitPendingEdit();
     const QString language = Preferences::read().language;
-    const std::vector<Unit> unitsBefore = preferredUnits();
+    // They are other ones after applyPreferences().
+    const std::vector<Unit> unitsBefore = preferredUnits(); // NOLINT(performance-unnecessary-copy-initialization)
     const std::optional<Preferences> chosen = Preferences::edit(this);
     if (!chosen)
         return;
