@@ -3115,6 +3115,13 @@ The file is now %2.</source>
     </message>
 </context>
 <context>
+    <name>PartChoiceModel</name>
+    <message>
+        <source>All parts</source>
+        <translation>كل القطع</translation>
+    </message>
+</context>
+<context>
     <name>PartEditor</name>
     <message>
         <source>Select the two parts that it shall connect first.</source>
@@ -3491,10 +3498,6 @@ The file is now %2.</source>
     <message>
         <source>Detach</source>
         <translation>فصل</translation>
-    </message>
-    <message>
-        <source>All parts</source>
-        <translation>كل القطع</translation>
     </message>
     <message>
         <source>Follows %1: %2</source>

@@ -3067,6 +3067,13 @@ Le fichier est maintenant %2.</translation>
     </message>
 </context>
 <context>
+    <name>PartChoiceModel</name>
+    <message>
+        <source>All parts</source>
+        <translation>Toutes les pièces</translation>
+    </message>
+</context>
+<context>
     <name>PartEditor</name>
     <message>
         <source>Select the two parts that it shall connect first.</source>
@@ -3435,10 +3442,6 @@ Le fichier est maintenant %2.</translation>
     <message>
         <source>Detach</source>
         <translation>Détacher</translation>
-    </message>
-    <message>
-        <source>All parts</source>
-        <translation>Toutes les pièces</translation>
     </message>
     <message>
         <source>Follows %1: %2</source>

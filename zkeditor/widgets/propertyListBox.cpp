@@ -3,10 +3,10 @@
 #include "zkcore/commands/proxyCommands.h"
 #include "zkcore/model/coreKeys.h"
 #include "zkcore/model/documentImpl.h"
-#include "zkcore/model/nodeNames.h"
 #include "zkcore/model/propertyImpl.h"
 #include "zkeditor/widgets/comboBox.h"
 #include "zkeditor/widgets/lineEdit.h"
+#include "zkeditor/widgets/partChoiceModel.h"
 #include "zkeditor/widgets/poReceiver.h"
 #include "zkeditor/widgets/propertyChoiceModel.h"
 #include "zkeditor/widgets/undoGroup.h"
@@ -20,7 +20,6 @@
 #include <QListView>
 #include <QSignalBlocker>
 #include <QSortFilterProxyModel>
-#include <QStandardItemModel>
 #include <QTimer>
 #include <QTreeView>
 #include <QVBoxLayout>
@@ -29,8 +28,8 @@
 
 PropertyListBox::PropertyListBox(QWidget* parent, const QString& name)
     : ListEditor(parent, name), PropertyObserver(this), m_search(new LineEdit(this, QStringLiteral("search"))),
-      m_parts(new ComboBox(this, QStringLiteral("parts"))), m_link(new QLabel(this)),
-      m_model(new PropertyChoiceModel(this)), m_found(new QSortFilterProxyModel(this))
+      m_parts(new ComboBox(this, QStringLiteral("parts"))), m_choices(new PartChoiceModel(this)),
+      m_link(new QLabel(this)), m_model(new PropertyChoiceModel(this)), m_found(new QSortFilterProxyModel(this))
 {
     m_search->setPlaceholderText(tr("Search"));
     m_search->setClearButtonEnabled(true);
@@ -39,6 +38,7 @@ PropertyListBox::PropertyListBox(QWidget* parent, const QString& name)
     auto* items = new QListView(m_parts);
     items->setUniformItemSizes(true);
     m_parts->setView(items);
+    m_parts->setModel(m_choices);
     m_parts->setAccessibleName(tr("Part whose properties are listed"));
     m_parts->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     m_parts->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
@@ -133,36 +133,23 @@ bool PropertyListBox::isPropertyWriteable() const
 void PropertyListBox::listParts()
 {
     const QSignalBlocker blocker(m_parts);
-    const QVariant chosen = m_parts->currentData();
-    NodeNames names;
-    // All at once: a combo box looks at itself after each item.
-    QList<QStandardItem*> items;
-    const auto addItem = [&items](const QString& text, InstanceId part) {
-        items.append(new QStandardItem(text));
-        items.constLast()->setData(part, Qt::UserRole);
-    };
-    addItem(tr("All parts"), 0);
-    std::vector<SpaceImpl*> spaces;
-    for (SceneImpl* scene : m_document->getModel()->getScenes())
-        spaces.push_back(scene);
-    for (PopupImpl* popup : m_document->getModel()->getPopups())
-        spaces.push_back(popup);
-    for (const SpaceImpl* space : spaces) {
-        for (const PartImpl* part : space->parts())
-            addItem(names.of(part), part->instanceId());
-    }
-    auto* choices = static_cast<QStandardItemModel*>(m_parts->model());
-    choices->clear();
-    choices->invisibleRootItem()->appendRows(items);
-    m_parts->setCurrentIndex(qMax(0, m_parts->findData(chosen)));
+    const InstanceId chosen = chosenPart();
+    m_choices->list(*m_document);
+    m_parts->setCurrentIndex(qMax(0, m_choices->rowOf(chosen)));
     listProperties();
+}
+
+InstanceId PropertyListBox::chosenPart() const
+{
+    const PartChoiceRow* row = m_choices->rowAt(m_parts->currentIndex());
+    return row ? row->part : 0;
 }
 
 void PropertyListBox::listProperties()
 {
     if (m_props.empty())
         return;
-    m_model->list(m_document, Property(m_props.front()), m_parts->currentData().toUInt());
+    m_model->list(m_document, Property(m_props.front()), chosenPart());
     updateActions();
 }
 

@@ -11,6 +11,7 @@
 class ComboBox;
 class Command;
 class LineEdit;
+class PartChoiceModel;
 class PropertyChoiceModel;
 class QLabel;
 class QSortFilterProxyModel;
@@ -60,6 +61,8 @@ protected:
 
 private:
     void listParts();
+    /// 0 for all.
+    InstanceId chosenPart() const;
     void listProperties();
     enum Follow { FollowValues = 1, FollowLink = 2, FollowParts = 4 };
     void followSoon(unsigned int what);
@@ -69,6 +72,7 @@ private:
 
     LineEdit* m_search;
     ComboBox* m_parts;
+    PartChoiceModel* m_choices;
     QLabel* m_link;
     PropertyChoiceModel* m_model;
     QSortFilterProxyModel* m_found;
