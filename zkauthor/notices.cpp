@@ -5,6 +5,7 @@
 #include "zkauthor/recoveryOffers.h"
 
 #include <QApplication>
+#include <QPushButton>
 #include <QVBoxLayout>
 
 Notices::Notices(DocumentFiles* files, QWidget* content)
@@ -26,6 +27,25 @@ NoticeBar* Notices::addBar(const QString& title, const QString& details)
     m_column->insertWidget(m_column->count() - 1, bar);
     bar->show();
     return bar;
+}
+
+void Notices::orderTabs(NoticeBar* bar)
+{
+    // What is new stands at the end of the window's order, the bar is read before the content.
+    QWidget* last = nullptr;
+    for (QWidget* each = window()->nextInFocusChain(); each != window(); each = each->nextInFocusChain()) {
+        if (!(each->focusPolicy() & Qt::TabFocus) || each->focusProxy())
+            continue;
+        if (each == m_content || m_content->isAncestorOf(each))
+            break;
+        last = each;
+    }
+    const auto buttons = bar->findChildren<QPushButton*>();
+    for (QPushButton* button : buttons) {
+        if (last)
+            setTabOrder(last, button);
+        last = button;
+    }
 }
 
 void Notices::remove(QPointer<NoticeBar>& bar)
@@ -61,6 +81,7 @@ void Notices::showDiskState()
         m_disk->addButton(tr("Not &Now"), "keep", [files] { files->keepMine(); });
         break;
     }
+    orderTabs(m_disk);
 }
 
 void Notices::showOffers()
@@ -79,6 +100,7 @@ void Notices::showOffers()
         } else {
             bar->addButton(tr("&Close"), "close-notice", [files, index] { files->offers()->take(index); });
         }
+        orderTabs(bar);
         m_offers.emplace_back(bar);
         ++index;
     }

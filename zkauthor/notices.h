@@ -22,6 +22,7 @@ private:
     void showDiskState();
     void showOffers();
     NoticeBar* addBar(const QString& title, const QString& details);
+    void orderTabs(NoticeBar* bar);
     void remove(QPointer<NoticeBar>& bar);
 
     DocumentFiles* m_files;

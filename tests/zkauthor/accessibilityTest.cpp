@@ -4,6 +4,8 @@
 #include "tests/support/accessibilityWalk.h"
 #include "tests/support/testDocument.h"
 #include "zkauthor/darkPalette.h"
+#include "zkauthor/documentFiles.h"
+#include "zkauthor/mainWindow.h"
 #include "zkauthor/palettes.h"
 #include "zkauthor/partHelp.h"
 #include "zkauthor/sceneView.h"
@@ -23,7 +25,9 @@
 #include <QApplication>
 #include <QCheckBox>
 #include <QDialog>
+#include <QDir>
 #include <QDockWidget>
+#include <QFile>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
@@ -322,6 +326,30 @@ TEST_F(AccessibilityTest, Dialogs)
     addPart(document(), "electronics/led");
     for (const char* name : {"revert", "close"})
         lookAtDialog(name);
+}
+
+TEST_F(AccessibilityTest, NoticesAboveTheDocument)
+{
+    const QString folder = path("recovery");
+    m_window->files()->enableRecovery(folder, 100);
+    ASSERT_TRUE(set(property(part("lamp1"), "title"), Value(QStringLiteral("Lit"))));
+    ASSERT_TRUE(QTest::qWaitFor([&] { return !QDir(folder, QStringLiteral("*.zkdoc")).isEmpty(); }));
+    m_window.reset(); // without a word, as in a crash
+    m_window = std::make_unique<MainWindow>();
+    m_window->files()->enableRecovery(folder, 100);
+    QString error;
+    ASSERT_TRUE(m_window->openFile(path("sample.zkdoc"), error)) << error.toStdString();
+    m_window->resize(1500, 1800);
+    m_window->show();
+    m_window->activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(m_window.get()));
+    ASSERT_TRUE(QFile::rename(path("sample.zkdoc"), path("moved.zkdoc")));
+    const auto isOnView = [this](const char* name) {
+        const auto* found = m_window->findChild<QPushButton*>(QLatin1String(name));
+        return found && found->isVisible();
+    };
+    ASSERT_TRUE(QTest::qWaitFor([&] { return isOnView("recover") && isOnView("save-again"); }));
+    look(*m_window);
 }
 
 TEST_F(AccessibilityTest, WindowsThatTheHostDoesNotShow)
