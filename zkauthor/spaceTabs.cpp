@@ -82,6 +82,9 @@ void SpaceTabs::clearTabs()
 
 void SpaceTabs::rebuild()
 {
+    // Whoever works in a palette stays there.
+    const QWidget* focus = window()->focusWidget();
+    const bool takeFocus = !focus || isAncestorOf(focus);
     clearTabs();
     m_rebuilding = true;
     for (SceneImpl* scene : m_document->getModel()->getScenes())
@@ -93,6 +96,8 @@ void SpaceTabs::rebuild()
     m_rebuilding = false;
     setCurrentIndex(0);
     onCurrentChanged(currentIndex());
+    if (takeFocus && currentView())
+        currentView()->setFocus();
 }
 
 InstanceId SpaceTabs::spaceAt(int index) const
