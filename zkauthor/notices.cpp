@@ -3,18 +3,18 @@
 #include "zkauthor/documentFiles.h"
 #include "zkauthor/noticeBar.h"
 #include "zkauthor/recoveryOffers.h"
+#include "zkauthor/spaceTabs.h"
 
 #include <QApplication>
 #include <QPushButton>
 #include <QVBoxLayout>
 
-Notices::Notices(DocumentFiles* files, QWidget* content)
-    : m_files(files), m_content(content), m_column(new QVBoxLayout(this))
+Notices::Notices(DocumentFiles* files, SpaceTabs* tabs) : m_files(files), m_tabs(tabs), m_column(new QVBoxLayout(this))
 {
     m_column->setContentsMargins(0, 0, 0, 0);
     m_column->setSpacing(0);
-    m_column->addWidget(content, 1);
-    setFocusProxy(content);
+    m_column->addWidget(tabs, 1);
+    setFocusProxy(tabs);
     connect(files, &DocumentFiles::diskStateChanged, this, &Notices::showDiskState);
     connect(files->offers(), &RecoveryOffers::changed, this, &Notices::showOffers);
     showDiskState();
@@ -36,7 +36,7 @@ void Notices::orderTabs(NoticeBar* bar)
     for (QWidget* each = window()->nextInFocusChain(); each != window(); each = each->nextInFocusChain()) {
         if (!(each->focusPolicy() & Qt::TabFocus) || each->focusProxy())
             continue;
-        if (each == m_content || m_content->isAncestorOf(each))
+        if (each == m_tabs || m_tabs->isAncestorOf(each))
             break;
         last = each;
     }
@@ -53,7 +53,7 @@ void Notices::remove(QPointer<NoticeBar>& bar)
     if (!bar)
         return;
     if (bar->isAncestorOf(QApplication::focusWidget()))
-        m_content->setFocus();
+        m_tabs->focusView();
     bar->hide();
     bar->deleteLater(); // one of its buttons may be at work
     bar.clear();

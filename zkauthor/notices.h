@@ -7,6 +7,7 @@
 class DocumentFiles;
 class NoticeBar;
 class QVBoxLayout;
+class SpaceTabs;
 
 /// The middle of the main window: what must be told about the document's file and about left-over documents, above what
 /// shows the document.
@@ -15,8 +16,8 @@ class Notices : public QWidget
     Q_OBJECT
 
 public:
-    /// Takes the content over as its child. The files must outlive this widget.
-    Notices(DocumentFiles* files, QWidget* content);
+    /// Takes the tabs over as its child. The files must outlive this widget.
+    Notices(DocumentFiles* files, SpaceTabs* tabs);
 
 private:
     void showDiskState();
@@ -26,7 +27,7 @@ private:
     void remove(QPointer<NoticeBar>& bar);
 
     DocumentFiles* m_files;
-    QWidget* m_content;
+    SpaceTabs* m_tabs;
     QVBoxLayout* m_column;
     QPointer<NoticeBar> m_disk;
     std::vector<QPointer<NoticeBar>> m_offers;

@@ -74,6 +74,9 @@ void SpaceTabs::setDocument(DocumentImpl* document)
 
 void SpaceTabs::clearTabs()
 {
+    const QWidget* focus = window()->focusWidget();
+    if (count() > 0)
+        m_hadFocus = !focus || isAncestorOf(focus);
     m_rebuilding = true;
     while (count() > 0)
         removeTabOf(spaceAt(0));
@@ -82,9 +85,6 @@ void SpaceTabs::clearTabs()
 
 void SpaceTabs::rebuild()
 {
-    // Whoever works in a palette stays there.
-    const QWidget* focus = window()->focusWidget();
-    const bool takeFocus = !focus || isAncestorOf(focus);
     clearTabs();
     m_rebuilding = true;
     for (SceneImpl* scene : m_document->getModel()->getScenes())
@@ -96,8 +96,24 @@ void SpaceTabs::rebuild()
     m_rebuilding = false;
     setCurrentIndex(0);
     onCurrentChanged(currentIndex());
-    if (takeFocus && currentView())
-        currentView()->setFocus();
+    if (m_hadFocus) // whoever works in a palette stays there
+        focusView();
+}
+
+void SpaceTabs::focusView()
+{
+    if (SceneView* view = currentView())
+        view->setFocus();
+    else
+        setFocus();
+}
+
+void SpaceTabs::showEvent(QShowEvent* event)
+{
+    QTabWidget::showEvent(event);
+    // What is not on view yet cannot take the focus.
+    if (!window()->focusWidget())
+        focusView();
 }
 
 InstanceId SpaceTabs::spaceAt(int index) const
@@ -195,6 +211,7 @@ void SpaceTabs::makeView(int index)
         return;
     auto* view = new SceneView(m_document, space, m_editor);
     widget(index)->layout()->addWidget(view);
+    view->show(); // the layout would show it later, and until then it could not take the focus
     connect(view, &SceneView::pointerMoved, this, &SpaceTabs::pointerMoved);
     connect(view, &SceneView::pointerLeft, this, &SpaceTabs::pointerLeft);
     connect(view, &SceneView::zoomChanged, this, &SpaceTabs::zoomChanged);

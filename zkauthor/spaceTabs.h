@@ -28,6 +28,8 @@ public:
     /// Null when no document is shown.
     SceneView* currentView() const;
     SpaceImpl* currentSpace() const;
+    /// Gives the focus to the view shown; without one to the tabs.
+    void focusView();
     /// See SceneView::setReaderMode(); for all views, those made later too.
     void setReaderMode(bool reader);
     /// Shows the space's tab, which a pop-up gets if it has none yet. Only a look at the document, no change of it.
@@ -50,6 +52,9 @@ Q_SIGNALS:
     void partRestedOn(PartImpl* part);
     /// The user has closed a pop-up.
     void popupClosed(PopupImpl* popup);
+
+protected:
+    void showEvent(QShowEvent* event) override;
 
 private:
     void rebuild();
@@ -77,4 +82,5 @@ private:
     bool m_inUndoRedo = false;
     bool m_rebuilding = false;
     bool m_readerMode = false;
+    bool m_hadFocus = true; // before the tabs were taken away
 };

@@ -183,7 +183,7 @@ class Editing:
         key("Right", "Return")
         wait("another colour", lambda: button.description != "White")
         form.find("text", "Background, name of the colour").write("ivory")
-        becomes("the colour of the scene", lambda: button.description, "#fffff0")
+        becomes("the colour of the scene", lambda: button.description, "White, #fffff0")
         form.find("check box", "Show a grid").check()
         bench.section(form, "General")
         form.find("text", "Title").write("Night light", end="Return")

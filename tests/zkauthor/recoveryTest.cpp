@@ -87,6 +87,7 @@ TEST_F(RecoveryTest, AfterACrashTheChangesAreOfferedAndSavedUnderTheirName)
     change();
     crash();
     ASSERT_TRUE(button("recover"));
+    EXPECT_TRUE(view().hasFocus());
     EXPECT_TRUE(notice("recover").startsWith(
         QStringLiteral("Changes to %1 that were not saved can be recovered.\nLast saved: ").arg(path("sample.zkdoc"))))
         << notice("recover").toStdString();
@@ -94,6 +95,7 @@ TEST_F(RecoveryTest, AfterACrashTheChangesAreOfferedAndSavedUnderTheirName)
 
     QTest::keyClick(m_window.get(), Qt::Key_C, Qt::AltModifier);
     ASSERT_TRUE(QTest::qWaitFor([this] { return !button("recover"); }));
+    EXPECT_TRUE(view().hasFocus());
     EXPECT_EQ(title(), "Lit");
     EXPECT_TRUE(m_window->windowTitle().startsWith(QLatin1String("sample.zkdoc (recovered)[*] - ")))
         << m_window->windowTitle().toStdString();

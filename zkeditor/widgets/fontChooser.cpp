@@ -23,6 +23,7 @@
 #include <QToolButton>
 #include <algorithm>
 #include <cmath>
+#include <cstdlib>
 #include <memory>
 
 namespace {
@@ -54,6 +55,23 @@ QString pointsText(double metres)
 {
     const double points = std::round(metres / metresPerPoint * 10) / 10;
     return QLocale().toString(points, 'g', 6);
+}
+
+/// The style of the family that comes nearest to the font's weight and slant. The toolkit's dialog looks for a name,
+/// and where it finds none it begins with the first style, which may be bold.
+QFont withStyleName(QFont font)
+{
+    const auto distance = [&font](const QString& style) {
+        const QString family = font.family();
+        return std::abs(QFontDatabase::weight(family, style) - font.weight()) +
+               (QFontDatabase::italic(family, style) == font.italic() ? 0 : QFont::Black);
+    };
+    const QStringList styles = QFontDatabase::styles(font.family());
+    const auto nearest = std::min_element(
+        styles.begin(), styles.end(), [&](const QString& a, const QString& b) { return distance(a) < distance(b); });
+    if (nearest != styles.end())
+        font.setStyleName(*nearest);
+    return font;
 }
 
 } // namespace
@@ -314,7 +332,7 @@ void FontChooser::openDialog()
         return;
     const QPointer<POReceiver> alive(m_receiver);
     const unsigned int binding = bindingNumber();
-    const QFont font = fontFrom(m_props.front()->getValue().toValueMap());
+    const QFont font = withStyleName(fontFrom(m_props.front()->getValue().toValueMap()));
     const QPointer<QFontDialog> dialog(new QFontDialog(font, window()));
     // It knows whole sizes only, and the styles that the family names itself.
     const QFont before = dialog->currentFont();
