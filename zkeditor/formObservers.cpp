@@ -132,8 +132,7 @@ bool formObservers::isFatalChoice(const QMetaObject* metaObject, const PropertyD
 
 QString formObservers::choiceFault(const PropertyDefinition& property, const QString& name)
 {
-    const bool isNumeric = property.format && (property.type == Value::INT || property.type == Value::DOUBLE ||
-                                               property.type == Value::POINT);
+    const bool isNumeric = property.format && NumericalFormatter::formats(property.type);
     const NumericalFormatter numeric(property.type, property.format);
     Value value = property.type == Value::STRING ? Value(name) : valueFromText(property.type, name);
     if (const auto* set = dynamic_cast<const SetValidator*>(property.validator.get())) {

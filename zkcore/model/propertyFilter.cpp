@@ -20,6 +20,12 @@ bool PropertyFilter::isNodeFilter() const
     return m_property.type() == Value::NODE;
 }
 
+bool PropertyFilter::fits(Value::Type follower, Value::Type target)
+{
+    const auto isNumber = [](Value::Type type) { return type == Value::INT || type == Value::DOUBLE; };
+    return follower == target || (isNumber(follower) && isNumber(target));
+}
+
 bool PropertyFilter::isOkay(const Property& candidate) const
 {
     return reason(candidate).isEmpty();
@@ -37,8 +43,7 @@ QString PropertyFilter::reason(const Property& candidate) const
         return FilterTexts::tr("The properties belong to different documents.");
     if (!other->isProxyTarget())
         return FilterTexts::tr("This property cannot be followed.");
-    const auto numeric = [](Value::Type type) { return type == Value::INT || type == Value::DOUBLE; };
-    if (self->type() != other->type() && !(numeric(self->type()) && numeric(other->type())))
+    if (!fits(self->type(), other->type()))
         return FilterTexts::tr("The property is of another type.");
     if (other->isProxyDependantOn(self))
         return FilterTexts::tr("The property follows this one already.");

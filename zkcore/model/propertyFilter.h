@@ -15,6 +15,9 @@ public:
     /// it.
     explicit PropertyFilter(Property property);
 
+    /// Whether a property of one type may follow one of another: INT and DOUBLE go together.
+    static bool fits(Value::Type follower, Value::Type target);
+
     /// Whether nodes, not properties, are to be chosen (the property is of the NODE type).
     bool isNodeFilter() const;
     bool isOkay(const Property& candidate) const;

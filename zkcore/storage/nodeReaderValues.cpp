@@ -1,20 +1,12 @@
 // The values of nodes, and what is judged after all nodes are read.
 #include "zkcore/model/coreKeys.h"
+#include "zkcore/model/propertyFilter.h"
 #include "zkcore/storage/nodeReader.h"
 #include "zkcore/storage/valueXml.h"
 #include "zkcore/storage/xmlText.h"
 #include "zkcore/values/validator.h"
 
 #include <QXmlStreamReader>
-
-namespace {
-
-bool isNumberType(Value::Type type)
-{
-    return type == Value::INT || type == Value::DOUBLE;
-}
-
-} // namespace
 
 PropertyKey NodeXml::Reader::proxyKey(QStringView text)
 {
@@ -273,7 +265,7 @@ bool NodeXml::Reader::check(const NodeSnapshot* root)
                    tr("property \"%1\" follows one that is not there (\"%2\" of node %3); kept as it is")
                        .arg(record.property.key.toString(), record.target.key.toString())
                        .arg(record.target.node));
-        } else if (target->type != record.type && !(isNumberType(target->type) && isNumberType(record.type))) {
+        } else if (!PropertyFilter::fits(record.type, target->type)) {
             m_faultPosition = record.position;
             return fault(tr("property \"%1\" (%2) cannot follow \"%3\" (%4)")
                              .arg(record.property.key.toString(), Value::typeAsString(record.type),

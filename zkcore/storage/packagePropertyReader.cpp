@@ -2,6 +2,7 @@
 
 #include "zkcore/storage/packageWords.h"
 #include "zkcore/storage/valueXml.h"
+#include "zkcore/values/formatter.h"
 #include "zkcore/values/validator.h"
 
 #include <QRegularExpression>
@@ -11,14 +12,9 @@
 
 namespace {
 
-bool isNumericPropertyType(Value::Type type)
-{
-    return type == Value::INT || type == Value::DOUBLE || type == Value::POINT;
-}
-
 bool takesUnit(Value::Type type)
 {
-    return isNumericPropertyType(type) || type == Value::INTVECTOR || type == Value::DOUBLEVECTOR ||
+    return NumericalFormatter::formats(type) || type == Value::INTVECTOR || type == Value::DOUBLEVECTOR ||
            type == Value::POINTVECTOR;
 }
 
@@ -187,7 +183,7 @@ bool PackagePropertyReader::readProperty(const PackageElement& element, const Pr
         if (second != element.children.end())
             return m_fault.raise(*second, tr("a property has only one <%1>").arg(second->name));
     }
-    if (isNumericPropertyType(definition.type)) {
+    if (NumericalFormatter::formats(definition.type)) {
         auto format = std::make_shared<NumericalFormat>();
         if (!unit.isNull()) {
             format->units.push_back(unit);
@@ -365,7 +361,7 @@ bool PackagePropertyReader::readFormat(const PackageElement& element, const Unit
 {
     if (!element.check({"decimals"}, {"unit"}, PackageElement::OnlyElements, m_fault))
         return false;
-    if (!isNumericPropertyType(definition.type))
+    if (!NumericalFormatter::formats(definition.type))
         return m_fault.raise(element,
                              tr("values of the type %1 have no format").arg(Value::typeAsString(definition.type)));
     auto format = std::make_shared<NumericalFormat>(*definition.format);
@@ -417,7 +413,7 @@ bool PackagePropertyReader::readRange(const PackageElement& element, const Unit&
 {
     if (!element.check({"kind", "min", "max"}, {}, PackageElement::OnlyElements, m_fault))
         return false;
-    if (!isNumericPropertyType(definition.type) && definition.type != Value::DOUBLEVECTOR)
+    if (!NumericalFormatter::formats(definition.type) && definition.type != Value::DOUBLEVECTOR)
         return m_fault.raise(element,
                              tr("values of the type %1 have no range").arg(Value::typeAsString(definition.type)));
     const Value::Type type = definition.type == Value::INT ? Value::INT : Value::DOUBLE;

@@ -81,11 +81,6 @@ Value typedNumerical(Value::Type type, const QString& text, const Unit& shown)
     return type == Value::INT ? Value(numberText::roundToInt(*number)) : Value(*number);
 }
 
-bool isNumericalType(Value::Type type)
-{
-    return type == Value::INT || type == Value::DOUBLE || type == Value::POINT;
-}
-
 Value typedBool(const QString& text)
 {
     const QString word = text.trimmed();
@@ -111,7 +106,7 @@ Value Formatter::fromText(const QString& text) const
         return typedBool(text);
     if (m_type == Value::STRING)
         return Value(text);
-    if (isNumericalType(m_type))
+    if (NumericalFormatter::formats(m_type))
         return typedNumerical(m_type, text, Unit());
     // In files an empty text is no colour; a user who empties a field has not chosen that.
     if (m_type == Value::COLOR && text.trimmed().isEmpty())
@@ -135,6 +130,11 @@ NumericalFormatter::NumericalFormatter(Value::Type type, std::shared_ptr<const N
 {
     if (const Unit* unit = mostLiked(ownPreferredUnits(), m_format->units))
         m_unit = *unit;
+}
+
+bool NumericalFormatter::formats(Value::Type type)
+{
+    return type == Value::INT || type == Value::DOUBLE || type == Value::POINT;
 }
 
 bool NumericalFormatter::setCurrentUnit(const Unit& unit)
@@ -186,5 +186,5 @@ QString NumericalFormatter::toText(const Value& value) const
 
 Value NumericalFormatter::fromText(const QString& text) const
 {
-    return isNumericalType(type()) ? typedNumerical(type(), text, m_unit) : Formatter::fromText(text);
+    return NumericalFormatter::formats(type()) ? typedNumerical(type(), text, m_unit) : Formatter::fromText(text);
 }

@@ -47,6 +47,9 @@ class ZKCORE_EXPORT NumericalFormatter : public Formatter
 public:
     NumericalFormatter(Value::Type type, std::shared_ptr<const NumericalFormat> format);
 
+    /// Whether values of that type are numbers to it: INT, DOUBLE and POINT.
+    static bool formats(Value::Type type);
+
     /// Negative means automatic.
     int decimals() const { return m_format->decimals; }
     /// The unit shown now; the null unit when the value has none.

@@ -63,13 +63,11 @@ private:
         if (known != m_offered.constEnd())
             return *known;
         std::vector<Offer> offered;
-        const auto isNumber = [](Value::Type type) { return type == Value::INT || type == Value::DOUBLE; };
         for (const PropertyDefinition& definition : prototype.properties()) {
             if (definition.flags.testFlag(PropertyDefinition::Invisible))
                 continue;
-            const bool sameKind =
-                definition.type == m_follower->type() || (isNumber(definition.type) && isNumber(m_follower->type()));
-            if (!m_acceptableOnly || (sameKind && definition.flags.testFlag(PropertyDefinition::ProxyTarget)))
+            if (!m_acceptableOnly || (PropertyFilter::fits(m_follower->type(), definition.type) &&
+                                      definition.flags.testFlag(PropertyDefinition::ProxyTarget)))
                 offered.push_back({definition.key, labelOf(prototype, definition)});
         }
         return *m_offered.insert(&prototype, offered);

@@ -23,14 +23,9 @@ constexpr ValueKind valueKinds[] = {
     {Value::POINT, QT_TRANSLATE_NOOP("ValueMapModel", "Point")},
 };
 
-bool isNumberKind(Value::Type type)
-{
-    return type == Value::INT || type == Value::DOUBLE || type == Value::POINT;
-}
-
 QString typedText(const Value& value)
 {
-    if (isNumberKind(value.type()))
+    if (NumericalFormatter::formats(value.type()))
         return NumericalFormatter(value.type(), std::make_shared<NumericalFormat>()).toText(value);
     if (value.type() == Value::COLOR)
         return colorNames::nameOf(value.toQColor());
