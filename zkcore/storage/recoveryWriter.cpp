@@ -5,7 +5,6 @@
 #include <QCoreApplication>
 #include <QFile>
 #include <algorithm>
-#include <limits>
 #include <utility>
 
 namespace {
@@ -15,9 +14,10 @@ constexpr double beginAt = 0.3;
 constexpr double sweepAt = 0.5;
 constexpr double finishAt = 0.9;
 
-// Milliseconds of work between events. The longer one is for when time runs out; both stay far below what is noticed.
+// Milliseconds of work between events. The longer ones are for when time runs out; all stay below what is noticed.
 constexpr int shortStretch = 10;
 constexpr int longStretch = 30;
+constexpr int longestStretch = 40;
 constexpr int pauseWhileChanging = 20;
 
 } // namespace
@@ -138,7 +138,7 @@ void RecoveryWriter::continuePicture()
         m_pieces->mark(m_marks.takeShapes());
     }
     const bool hurry = m_sweeping && shareOver() > finishAt - sweepAt;
-    if (m_pieces->update(hurry ? std::numeric_limits<int>::max() : m_sweeping ? longStretch : shortStretch))
+    if (m_pieces->update(hurry ? longestStretch : m_sweeping ? longStretch : shortStretch))
         takePicture();
 }
 
