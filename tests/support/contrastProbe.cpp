@@ -104,9 +104,7 @@ public:
         if (item.text().trimmed().isEmpty())
             return;
         const QRectF box(place.x(), place.y() - item.ascent(), item.width(), item.ascent() + item.descent());
-        // The inner painter does not clip rightly what lies wholly beside the clip: a header scrolled out of its pane.
-        const QRect seen = systemClip().isEmpty() ? m_image->rect() : systemClip().boundingRect() & m_image->rect();
-        const QRect area = inner().transform().mapRect(box).toAlignedRect() & seen;
+        const QRect area = inner().transform().mapRect(box).toAlignedRect() & m_image->rect();
         if (area.isEmpty())
             return;
         // What of it is visible: the pixels that a mark painted through the same clips reaches.

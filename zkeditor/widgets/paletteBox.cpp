@@ -69,7 +69,7 @@ PaletteBox::PaletteBox(unsigned int flags, QWidget* parent, const QString& name,
 {
     setObjectName(name);
     setMinimumWidth(leastPaletteBoxWidth);
-    qApp->installEventFilter(this);
+    paletteTabOrder::watch(qApp);
     relayout();
 }
 
@@ -313,25 +313,6 @@ void PaletteBox::buttonClicked()
                                  [header](const PaletteItem* each) { return each->button() == header; });
     if (at != m_items.end())
         showPaletteItem(*at, (*at)->isOpen());
-}
-
-bool PaletteBox::eventFilter(QObject* object, QEvent* event)
-{
-    // From within, Tab comes to focusNextPrevChild(). Whoever has the focus outside would come in anywhere, and again.
-    if (event->type() == QEvent::KeyPress && object->isWidgetType() && paletteTabOrder::isOutermost(*this)) {
-        auto& from = static_cast<QWidget&>(*object);
-        const auto& key = static_cast<const QKeyEvent&>(*event);
-        if (from.window() == window() && !isAncestorOf(&from) && (from.hasFocus() || from.isWindow()) &&
-            paletteTabOrder::leaves(from, key)) {
-            const bool forward = key.key() == Qt::Key_Tab && !(key.modifiers() & Qt::ShiftModifier);
-            QWidget* next = paletteTabOrder::next(from, forward);
-            if (next && (isAncestorOf(next) || isAncestorOf(paletteTabOrder::toolkitNext(from, forward)))) {
-                next->setFocus(forward ? Qt::TabFocusReason : Qt::BacktabFocusReason);
-                return true;
-            }
-        }
-    }
-    return QWidget::eventFilter(object, event);
 }
 
 bool PaletteBox::focusNextPrevChild(bool next)

@@ -83,7 +83,6 @@ protected Q_SLOTS:
 protected:
     void keyPressEvent(QKeyEvent* event) override;
     bool focusNextPrevChild(bool next) override;
-    bool eventFilter(QObject* object, QEvent* event) override;
 
 private:
     class PaletteItem;

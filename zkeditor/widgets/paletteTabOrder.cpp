@@ -3,10 +3,12 @@
 #include "zkeditor/widgets/paletteBox.h"
 
 #include <QAbstractItemView>
+#include <QCoreApplication>
 #include <QGuiApplication>
 #include <QHash>
 #include <QKeyEvent>
 #include <QPlainTextEdit>
+#include <QPointer>
 #include <QStyleHints>
 #include <QTextBrowser>
 #include <QTextEdit>
@@ -28,12 +30,13 @@ bool canStopNow(const QWidget* widget)
            widget->isVisibleTo(widget->window());
 }
 
-/// The box around a widget that is nearest to the ancestor, which is none itself; null when there is none.
-const PaletteBox* boxBelow(const QWidget* ancestor, const QWidget* widget)
+/// The outermost box around a widget in its window, or inside of the ancestor; null when there is none.
+const PaletteBox* boxAround(const QWidget* widget, const QWidget* ancestor = nullptr)
 {
     const PaletteBox* found = nullptr;
-    for (const QWidget* outer = widget->parentWidget(); outer && outer != ancestor; outer = outer->parentWidget()) {
-        if (const auto* box = qobject_cast<const PaletteBox*>(outer))
+    while (!widget->isWindow() && widget->parentWidget() != ancestor) {
+        widget = widget->parentWidget();
+        if (const auto* box = qobject_cast<const PaletteBox*>(widget))
             found = box;
     }
     return found;
@@ -79,7 +82,7 @@ void appendArranged(const Stops& stops, const QWidget* ancestor, Stops& arranged
     QHash<const PaletteBox*, Stops> inBoxes;
     std::vector<std::pair<QWidget*, const PaletteBox*>> order; // a stop, or a box with all that is in it
     for (QWidget* stop : stops) {
-        const PaletteBox* box = boxBelow(ancestor, stop);
+        const PaletteBox* box = boxAround(stop, ancestor);
         if (!box || !inBoxes.contains(box))
             order.emplace_back(stop, box);
         if (box)
@@ -93,9 +96,8 @@ void appendArranged(const Stops& stops, const QWidget* ancestor, Stops& arranged
     }
 }
 
-} // namespace
-
-QWidget* paletteTabOrder::toolkitNext(QWidget& from, bool forward)
+/// Where Tab would go in the toolkit's order.
+QWidget* toolkitNext(QWidget& from, bool forward)
 {
     const auto after = [forward](const QWidget* widget) {
         return forward ? widget->nextInFocusChain() : widget->previousInFocusChain();
@@ -106,26 +108,8 @@ QWidget* paletteTabOrder::toolkitNext(QWidget& from, bool forward)
     return widget != &from ? widget : nullptr;
 }
 
-QWidget* paletteTabOrder::next(QWidget& from, bool forward)
-{
-    QWidget* window = from.window();
-    Stops stops;
-    for (QWidget* widget = window->nextInFocusChain(); widget && widget != window;
-         widget = widget->nextInFocusChain()) {
-        if (canStopNow(widget) || widget == &from)
-            stops.push_back(widget);
-    }
-    Stops arranged;
-    appendArranged(stops, window, arranged);
-    if (!forward)
-        std::reverse(arranged.begin(), arranged.end());
-    const auto here = std::find(arranged.begin(), arranged.end(), &from);
-    if (here != arranged.end())
-        std::rotate(arranged.begin(), here + 1, arranged.end()); // the widget itself comes last
-    return arranged.empty() || arranged.front() == &from ? nullptr : arranged.front();
-}
-
-bool paletteTabOrder::leaves(const QWidget& widget, const QKeyEvent& key)
+/// Whether the key means to leave the widget, which may use Tab itself.
+bool leaves(const QWidget& widget, const QKeyEvent& key)
 {
     if ((key.key() != Qt::Key_Tab && key.key() != Qt::Key_Backtab) ||
         (key.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier)))
@@ -140,10 +124,62 @@ bool paletteTabOrder::leaves(const QWidget& widget, const QKeyEvent& key)
     return !view || !view->tabKeyNavigation();
 }
 
-bool paletteTabOrder::isOutermost(const QWidget& box)
+/// Whoever has the focus outside of boxes would come into one anywhere, and again.
+class TabFilter : public QObject
 {
-    const QWidget* outer = box.isWindow() ? nullptr : box.parentWidget();
-    while (outer && !outer->isWindow() && !qobject_cast<const PaletteBox*>(outer))
-        outer = outer->parentWidget();
-    return !qobject_cast<const PaletteBox*>(outer);
+public:
+    using QObject::QObject;
+
+    bool eventFilter(QObject* object, QEvent* event) override
+    {
+        if (event->type() != QEvent::KeyPress || !object->isWidgetType())
+            return false;
+        auto& from = static_cast<QWidget&>(*object);
+        const auto& key = static_cast<const QKeyEvent&>(*event);
+        const bool isAsked = from.hasFocus() || (from.isWindow() && !from.focusWidget());
+        if (!isAsked || boxAround(&from) || !leaves(from, key))
+            return false;
+        const bool forward = key.key() == Qt::Key_Tab && !(key.modifiers() & Qt::ShiftModifier);
+        QWidget* next = paletteTabOrder::next(from, forward);
+        const QWidget* usual = toolkitNext(from, forward);
+        if (!next || !(boxAround(next) || (usual && boxAround(usual))))
+            return false;
+        next->setFocus(forward ? Qt::TabFocusReason : Qt::BacktabFocusReason);
+        return true;
+    }
+};
+
+} // namespace
+
+QWidget* paletteTabOrder::next(QWidget& from, bool forward)
+{
+    QWidget* window = from.window();
+    Stops stops;
+    for (QWidget* widget = window->nextInFocusChain(); widget && widget != window;
+         widget = widget->nextInFocusChain()) {
+        if (canStopNow(widget) || widget == &from)
+            stops.push_back(widget);
+    }
+    Stops arranged;
+    appendArranged(stops, nullptr, arranged);
+    if (!forward)
+        std::reverse(arranged.begin(), arranged.end());
+    const auto here = std::find(arranged.begin(), arranged.end(), &from);
+    if (here != arranged.end())
+        std::rotate(arranged.begin(), here + 1, arranged.end()); // the widget itself comes last
+    return arranged.empty() || arranged.front() == &from ? nullptr : arranged.front();
+}
+
+bool paletteTabOrder::isOutermost(const PaletteBox& box)
+{
+    return !boxAround(&box);
+}
+
+void paletteTabOrder::watch(QCoreApplication* application)
+{
+    static QPointer<QObject> filter;
+    if (!filter) {
+        filter = new TabFilter(application);
+        application->installEventFilter(filter);
+    }
 }

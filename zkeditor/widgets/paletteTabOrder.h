@@ -1,6 +1,7 @@
 #pragma once
 
-class QKeyEvent;
+class PaletteBox;
+class QCoreApplication;
 class QWidget;
 
 /// The order in which Tab goes through a window with palette boxes: a box as a whole where the first of what is in it
@@ -14,13 +15,11 @@ namespace paletteTabOrder {
 /// Where Tab (or Shift+Tab) goes from a widget; null when there is nowhere to go.
 QWidget* next(QWidget& from, bool forward);
 
-/// The same in the toolkit's order.
-QWidget* toolkitNext(QWidget& from, bool forward);
+/// Whether no other box is around that one in its window.
+bool isOutermost(const PaletteBox& box);
 
-/// Whether the key means to leave a widget, and does so. Some use Tab themselves.
-bool leaves(const QWidget& widget, const QKeyEvent& key);
-
-/// Whether no other box is around that one.
-bool isOutermost(const QWidget& box);
+/// Has Tab come into boxes in this order from outside too; from within it is up to the outermost box. One filter serves
+/// all boxes, and all calls but the first do nothing.
+void watch(QCoreApplication* application);
 
 } // namespace paletteTabOrder

@@ -22,11 +22,6 @@ void PartChoiceModel::list(const DocumentImpl& document)
     setRows(std::move(rows));
 }
 
-int PartChoiceModel::columnCount(const QModelIndex& parent) const
-{
-    return parent.isValid() ? 0 : 1;
-}
-
 QVariant PartChoiceModel::data(const QModelIndex& index, int role) const
 {
     const PartChoiceRow* row = rowAt(index.row());

@@ -31,6 +31,5 @@ public:
     /// Looks at the parts of the document; linear in their number.
     void list(const DocumentImpl& document);
 
-    int columnCount(const QModelIndex& parent = {}) const override;
     QVariant data(const QModelIndex& index, int role) const override;
 };

@@ -41,11 +41,6 @@ std::vector<Resource> ResourceModel::resources() const
     return all;
 }
 
-int ResourceModel::columnCount(const QModelIndex& parent) const
-{
-    return parent.isValid() ? 0 : 1;
-}
-
 QVariant ResourceModel::headerData(int section, Qt::Orientation orientation, int role) const
 {
     if (section == 0 && orientation == Qt::Horizontal && role == Qt::DisplayRole)

@@ -40,7 +40,6 @@ public:
     /// Whether names can be edited (of the document's own resources), rows moved, and files dropped.
     void setEditable(bool editable) { m_editable = editable; }
 
-    int columnCount(const QModelIndex& parent = {}) const override;
     QVariant data(const QModelIndex& index, int role) const override;
     QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
     Qt::ItemFlags flags(const QModelIndex& index) const override;

@@ -22,6 +22,8 @@ public:
     {
         return parent.isValid() ? 0 : static_cast<int>(m_rows.size());
     }
+    /// One, unless a model has more.
+    int columnCount(const QModelIndex& parent = {}) const override { return parent.isValid() ? 0 : 1; }
     const std::vector<Row>& rows() const { return m_rows; }
     /// Null when the index is not in the table.
     const Row* rowAt(int row) const

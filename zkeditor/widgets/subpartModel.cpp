@@ -244,11 +244,6 @@ std::vector<ClassId> SubpartModel::addableClasses() const
 
 // For views
 
-int SubpartModel::columnCount(const QModelIndex& parent) const
-{
-    return parent.isValid() ? 0 : 1;
-}
-
 QVariant SubpartModel::data(const QModelIndex& index, int role) const
 {
     const SubpartRow* row = rowAt(index.row());

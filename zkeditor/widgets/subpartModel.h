@@ -60,7 +60,6 @@ public:
     /// The classes of which subparts can be added to every part; each once, in the order of the first part's rules.
     std::vector<ClassId> addableClasses() const;
 
-    int columnCount(const QModelIndex& parent = {}) const override;
     QVariant data(const QModelIndex& index, int role) const override;
     Qt::ItemFlags flags(const QModelIndex& index) const override;
     bool setData(const QModelIndex& index, const QVariant& value, int role) override;

@@ -276,6 +276,25 @@ TEST_F(PaletteBoxTest, TabGoesThroughABoxAsAWhole)
     }
 }
 
+TEST_F(PaletteBoxTest, TabGoesThroughABoxThatIsAWindow)
+{
+    PaletteBox alone(PaletteBox::StandardStyle);
+    auto* late = new QLineEdit(&alone); // older than the headers
+    auto* early = new QLineEdit(&alone);
+    alone.addItem(late, "second");
+    alone.insertItem(0, early, "first");
+    alone.show();
+    alone.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&alone));
+    early->setFocus();
+    QTest::keyClick(alone.windowHandle(), Qt::Key_Tab);
+    EXPECT_EQ(alone.focusWidget(), late->parentWidget()->findChild<PaletteButtonBar*>());
+    QTest::keyClick(alone.windowHandle(), Qt::Key_Tab);
+    EXPECT_EQ(alone.focusWidget(), late);
+    QTest::keyClick(alone.windowHandle(), Qt::Key_Tab);
+    EXPECT_EQ(alone.focusWidget(), early->parentWidget()->findChild<PaletteButtonBar*>());
+}
+
 TEST_F(PaletteBoxTest, WorksByKeyboard)
 {
     make(PaletteBox::StandardStyle);
